@@ -1,0 +1,49 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "lumcore/Export.h"
+#include "lumcore/Strings.h"
+#include "lumcore/filesupport/Dir.h"
+
+namespace lumcore::filesupport {
+
+// Names a file; nothing is opened. Paths are UTF-8 with the system's separators; on systems where a
+// name may be any bytes, bytes that are no UTF-8 are kept as they are.
+class LUMCORE_API File {
+ public:
+  File();
+  explicit File(std::string_view inPath);
+  explicit File(const UTF16String& inPath);
+  File(const Dir& inDir, std::string_view inName);
+
+  bool Exists() const;
+  std::uint64_t GetSize() const;  // bytes; throws FileError
+  const std::string& GetPath() const { return mPath; }
+  // Absolute, with "." and ".." resolved by text; links stay.
+  UTF16String GetFullPath() const;
+  UTF16String GetName() const;       // the last component
+  UTF16String GetExtension() const;  // behind the last dot, without it; empty for ".profile"
+  Dir GetParent() const;
+
+  // The whole content. Throws FileError.
+  UTF8String ReadAll() const;
+
+  // Replaces the content in one step: writes a new file beside the old one, flushes it to disk, gives
+  // it the old one's permissions and renames it over it. A link is followed, so that what it points
+  // to is replaced and the link stays. After a throw of FileError the old file is as it was and
+  // nothing is left beside it.
+  void ReplaceContents(std::string_view inBytes) const;
+
+  void Remove() const;  // throws FileError; a file that is not there is no failure
+
+ private:
+  std::string mPath;
+};
+
+}  // namespace lumcore::filesupport

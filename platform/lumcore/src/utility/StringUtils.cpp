@@ -1,0 +1,154 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumcore/utility/StringUtils.h"
+
+#include <unicode/ucasemap.h>
+#include <unicode/ustring.h>
+
+#include <algorithm>
+#include <limits>
+#include <type_traits>
+#include <vector>
+
+#include "lumcore/config/ThrowError.h"
+
+namespace lumcore::utility {
+
+namespace {
+
+constexpr UChar32 kReplacementCharacter = 0xFFFD;
+
+// ICU's UTF-16 unit is char16_t, ours unsigned short: the same size, range and representation.
+static_assert(sizeof(UChar) == sizeof(unsigned short) && std::is_unsigned_v<UChar>);
+
+const UChar* AsICU(const UTF16String& inText) {
+  return reinterpret_cast<const UChar*>(inText.data());
+}
+
+UChar* AsICU(UTF16String& inText) {
+  return reinterpret_cast<UChar*>(inText.data());
+}
+
+int32_t CheckedLength(std::size_t inLength) {
+  if (inLength > static_cast<std::size_t>(std::numeric_limits<int32_t>::max() / 4)) {
+    config::ThrowError("$$$/lumcore/utility/Error/TextTooLong=A text is too long to be converted.");
+  }
+  return static_cast<int32_t>(inLength);
+}
+
+template <class String>
+String EncodeUTF8(const UTF16String& inText) {
+  String result;
+  const int32_t length = CheckedLength(inText.size());
+  // Three bytes are the most that one UTF-16 unit comes to.
+  result.resize(static_cast<std::size_t>(length) * 3);
+  int32_t written = 0;
+  UErrorCode status = U_ZERO_ERROR;
+  u_strToUTF8WithSub(reinterpret_cast<char*>(result.data()), static_cast<int32_t>(result.size()),
+                     &written, AsICU(inText), length, kReplacementCharacter, nullptr, &status);
+  result.resize(static_cast<std::size_t>(written));
+  return result;
+}
+
+// The shape of ICU's case operations once locale and options are bound.
+template <class Map>
+UTF16String MapCase(const UTF16String& inText, Map inMap) {
+  const int32_t length = CheckedLength(inText.size());
+  UTF16String result(inText.size(), 0);
+  UErrorCode status = U_ZERO_ERROR;
+  int32_t needed = inMap(AsICU(result), length, AsICU(inText), length, &status);
+  if (status == U_BUFFER_OVERFLOW_ERROR) {
+    result.resize(static_cast<std::size_t>(needed));
+    status = U_ZERO_ERROR;
+    needed = inMap(AsICU(result), needed, AsICU(inText), length, &status);
+  }
+  result.resize(static_cast<std::size_t>(needed));
+  return result;
+}
+
+bool IsDigit(unsigned short inUnit) {
+  return inUnit >= '0' && inUnit <= '9';
+}
+
+}  // namespace
+
+UTF16String ToUTF16(std::string_view inUTF8) {
+  const int32_t length = CheckedLength(inUTF8.size());
+  // One UTF-16 unit is the most that one byte comes to.
+  UTF16String result(inUTF8.size(), 0);
+  int32_t written = 0;
+  UErrorCode status = U_ZERO_ERROR;
+  u_strFromUTF8WithSub(AsICU(result), length, &written, inUTF8.data(), length,
+                       kReplacementCharacter, nullptr, &status);
+  result.resize(static_cast<std::size_t>(written));
+  return result;
+}
+
+UTF16String ToUTF16(const UTF8String& inUTF8) {
+  return ToUTF16(std::string_view(reinterpret_cast<const char*>(inUTF8.data()), inUTF8.size()));
+}
+
+UTF8String ToUTF8(const UTF16String& inText) {
+  return EncodeUTF8<UTF8String>(inText);
+}
+
+UTF8String ToUTF8(std::string_view inUTF8) {
+  return ToUTF8(ToUTF16(inUTF8));
+}
+
+std::string ToStdString(const UTF16String& inText) {
+  return EncodeUTF8<std::string>(inText);
+}
+
+std::string ToStdString(const UTF8String& inText) {
+  return ToStdString(ToUTF16(inText));
+}
+
+UTF16String ToUpperCase(const UTF16String& inText) {
+  return MapCase(inText, [](UChar* outText, int32_t inCapacity, const UChar* inFrom,
+                            int32_t inLength, UErrorCode* ioStatus) {
+    return u_strToUpper(outText, inCapacity, inFrom, inLength, "", ioStatus);
+  });
+}
+
+UTF16String ToLowerCase(const UTF16String& inText) {
+  return MapCase(inText, [](UChar* outText, int32_t inCapacity, const UChar* inFrom,
+                            int32_t inLength, UErrorCode* ioStatus) {
+    return u_strToLower(outText, inCapacity, inFrom, inLength, "", ioStatus);
+  });
+}
+
+UTF16String FoldCase(const UTF16String& inText) {
+  return MapCase(inText, [](UChar* outText, int32_t inCapacity, const UChar* inFrom,
+                            int32_t inLength, UErrorCode* ioStatus) {
+    return u_strFoldCase(outText, inCapacity, inFrom, inLength, U_FOLD_CASE_DEFAULT, ioStatus);
+  });
+}
+
+UTF16String ReplaceInString(const UTF16String& inText,
+                            std::initializer_list<UTF16String> inArguments) {
+  UTF16String result;
+  result.reserve(inText.size());
+  for (std::size_t at = 0; at < inText.size();) {
+    std::size_t number = 0;
+    std::size_t taken = 0;  // characters of the placeholder, 0 for none
+    if (inText[at] == '@') {
+      for (std::size_t digit = at + 1; digit < inText.size() && IsDigit(inText[digit]); ++digit) {
+        const std::size_t longer = number * 10 + (inText[digit] - '0');
+        if (longer >= inArguments.size()) break;
+        number = longer;
+        taken = digit + 1 - at;
+      }
+    }
+    if (taken == 0) {
+      result += inText[at++];
+    } else {
+      result += *(inArguments.begin() + number);
+      at += taken;
+    }
+  }
+  return result;
+}
+
+}  // namespace lumcore::utility
