@@ -141,9 +141,11 @@ void Broadcaster<T>::Deliver(Message& inMessage) {
   Walk walk(*this);
   // Each step reads the link of the node that it leaves, so what was appended on the way is
   // reached.
-  for (walk.mEntry = mListeners.begin(); walk.mEntry != mListeners.end(); ++walk.mEntry) {
-    Listener<T>* const listener = *walk.mEntry;
+  const auto end = mListeners.end();
+  for (auto entry = mListeners.begin(); entry != end; ++entry) {
+    Listener<T>* const listener = *entry;
     if (!listener || listener->mSuspensionCount != 0 || listener->mInDelivery) continue;
+    walk.mEntry = entry;
     listener->mInDelivery = true;
     try {
       listener->ListenToMessage(inMessage);
@@ -152,7 +154,7 @@ void Broadcaster<T>::Deliver(Message& inMessage) {
       // whether the others are told.
     }
     // The listener may have left or died in its call, and then its entry is empty.
-    if (*walk.mEntry) (*walk.mEntry)->mInDelivery = false;
+    if (*entry) (*entry)->mInDelivery = false;
   }
 }
 
