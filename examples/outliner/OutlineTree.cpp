@@ -210,8 +210,15 @@ void OutlineTree::AppendLayout(std::size_t inDepth, UTF16String& outText) const 
 }
 
 bool OutlineTree::FindWhiteSpace(TextPool::Id inMarkup, UTF16String& outText) const {
-  if (inMarkup == kByLayout || IsForeign(inMarkup)) return false;
-  outText = mMarkup.Get(inMarkup);
+  if (inMarkup == kByLayout) return false;
+  const UTF16String& markup = mMarkup.Get(inMarkup);
+  if (IsWhiteSpace(markup)) {
+    outText = markup;
+    return true;
+  }
+  const auto line = markup.rfind('\n');
+  if (line == markup.npos || !IsWhiteSpace(TextView(markup).substr(line))) return false;
+  outText = markup.substr(line);
   return true;
 }
 

@@ -101,6 +101,7 @@ class OutlineTree {
   void SetInTree(OutlineRow& inRow, bool inPresent);
   void AppendLayout(std::size_t inDepth, lumcore::UTF16String& outText) const;
   void FindLayout();
+  // All of the markup, or where it is foreign, its last line as far as that is white space.
   bool FindWhiteSpace(TextPool::Id inMarkup, lumcore::UTF16String& outText) const;
 
   std::unique_ptr<OutlineRow> mRoot;
