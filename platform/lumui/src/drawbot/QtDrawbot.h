@@ -62,6 +62,9 @@ class QtDrawbot : public Drawbot {
   };
 
   void NarrowClip(const Rect& inLocalBounds);
+  // inTint may be null.
+  void DrawRaster(const ImageInterface& inImage, const Rect& inRect, const ColorRGBA* inTint,
+                  float inOpacity);
 
   QPainter& mPainter;
   std::vector<State> mStates;  // the current one is the last

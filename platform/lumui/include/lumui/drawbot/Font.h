@@ -8,6 +8,7 @@
 
 #include "lumcore/Strings.h"
 #include "lumcore/utility/RefCounted.h"
+#include "lumui/Export.h"
 
 namespace lumui::drawbot {
 
@@ -25,9 +26,11 @@ enum class FontStyle : unsigned char { kPlain, kBold, kItalic, kBoldItalic };
 //
 // Trees and lists ask for the same texts at every paint, so a font keeps the last few thousand with
 // their widths and their glyphs ready to draw.
-class FontInterface : public lumcore::utility::RefCountedObject {
+class LUMUI_API FontInterface : public lumcore::utility::RefCountedObject {
  public:
-  // What the caller asked for; the system may draw with another family where it has no such one.
+  ~FontInterface() override;
+
+  // What the font was made from; the system may draw with another family where it has no such one.
   virtual const lumcore::UTF16String& GetFamilyName() const = 0;
   virtual float GetSize() const = 0;
   virtual FontStyle GetStyle() const = 0;

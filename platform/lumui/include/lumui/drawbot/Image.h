@@ -4,14 +4,17 @@
 #pragma once
 
 #include "lumcore/utility/RefCounted.h"
+#include "lumui/Export.h"
 
 namespace lumui::drawbot {
 
 // A picture with a size in units, made by the supplier and shared by count. It holds one or more
 // rasters of different scale (pixels in a unit), or a vector picture that has every scale; drawing
 // takes the raster that fits the scale of the surface. It never changes after it is made.
-class ImageInterface : public lumcore::utility::RefCountedObject {
+class LUMUI_API ImageInterface : public lumcore::utility::RefCountedObject {
  public:
+  ~ImageInterface() override;
+
   virtual float GetWidth() const = 0;
   virtual float GetHeight() const = 0;
 

@@ -50,7 +50,9 @@ class LUMUI_API Path {
   const std::vector<Element>& GetElements() const { return mElements; }
 
  private:
-  bool HasFigure() const;
+  bool HasOpenFigure() const;
+  void ContinueFigure();
+
   Point mFigureStart;
   Point mCurrent;
   std::vector<Element> mElements;

@@ -26,7 +26,7 @@ class LUMUI_API SupplierInterface {
   virtual ~SupplierInterface();
 
   // Family names are UTF-8; null or empty takes the interface font's. The size is in units; 0 or
-  // less takes the interface font's size.
+  // less takes the interface font's size, and others are rounded to whole units.
   virtual FontP NewFont(const char* inFamilyName, float inSize,
                         FontStyle inStyle = FontStyle::kPlain) const = 0;
 
@@ -38,8 +38,8 @@ class LUMUI_API SupplierInterface {
   virtual boost::intrusive_ptr<ImageInterface> NewImageFromBytes(std::string_view inBytes,
                                                                  std::string_view inName,
                                                                  float inScale = 1.0f) const = 0;
-  // One image out of the same picture at several scales; its size is that of the first. Throws a
-  // config::Error where another is more than one unit wider, narrower, higher or lower.
+  // One image out of rasters of the same picture at several scales. Its size is that of the first:
+  // those of odd scales may differ from it by a part of a unit, and are drawn to it.
   virtual boost::intrusive_ptr<ImageInterface> NewMultiScaleImage(
       const std::vector<boost::intrusive_ptr<ImageInterface>>& inImages) const = 0;
 

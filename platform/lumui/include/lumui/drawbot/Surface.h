@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "lumcore/utility/RefCounted.h"
+#include "lumui/Export.h"
 #include "lumui/drawbot/Color.h"
 
 namespace lumui::drawbot {
@@ -16,8 +17,10 @@ class ImageInterface;
 
 // An off-screen picture to draw on, made by the supplier; at first every pixel is transparent.
 // Its drawbot works in units; the picture has size times scale pixels, rounded up.
-class Surface : public lumcore::utility::RefCountedObject {
+class LUMUI_API Surface : public lumcore::utility::RefCountedObject {
  public:
+  ~Surface() override;
+
   virtual float GetWidth() const = 0;   // units
   virtual float GetHeight() const = 0;  // units
   virtual float GetScale() const = 0;
