@@ -1,0 +1,4 @@
+vek_test(vek_tests
+  SOURCES
+    messaging/DeliveryTest.cpp
+  LIBRARIES vek)
