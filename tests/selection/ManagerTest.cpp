@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <boost/intrusive_ptr.hpp>
+#include <functional>
 #include <string>
 
 #include "support/EventLog.h"

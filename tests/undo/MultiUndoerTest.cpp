@@ -1,6 +1,8 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <functional>
+
 #include "lumcore/config/ThrowError.h"
 #include "undo/UndoerFixture.h"
 
