@@ -7,8 +7,8 @@
 
 namespace lumui {
 
-// The outline of marquees and drop marks: one closed figure. See Path::AddRoundedRect for radii that
-// are too large for the rectangle.
+// The outline of marquees and drop marks: one closed figure. See Path::AddRoundedRect for radii
+// that are too large for the rectangle.
 inline drawbot::Path GetRoundedRectPath(const drawbot::Path::Rect& inRect, float inRadius) {
   drawbot::Path path;
   path.AddRoundedRect(inRect, inRadius);
