@@ -146,7 +146,7 @@ TEST_F(Images, SavedPictureComesBackAndLaterDrawingLeavesAnImageAlone) {
   }
 }
 
-TEST_F(Images, FailedSaveNamesThePathAndLeavesTheOldFile) {
+TEST_F(Images, FailedSaveNamesThePathAndTheCause) {
   auto surface = NewSurface(3, 2);
   const std::string missing = mFolder / "no/such/folder.png";
   const std::string error = ErrorOf([&] { surface->SavePNG(missing); });

@@ -6,7 +6,7 @@
 namespace vek_test {
 
 // Makes the process's application object on first use, on the "offscreen" platform unless the
-// environment names another. It lives until the process ends.
+// environment names another. It lives until all tests of the program have run.
 void EnsureGuiApplication();
 
 }  // namespace vek_test
