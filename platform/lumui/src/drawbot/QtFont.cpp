@@ -5,6 +5,8 @@
 
 #include <QPainter>
 #include <QTextLayout>
+#include <algorithm>
+#include <limits>
 
 #include "drawbot/QtConvert.h"
 #include "lumcore/debug/Contract.h"
@@ -46,7 +48,9 @@ std::unique_ptr<PreparedText> Prepare(const QString& inText, const QFont& inFont
   QTextLayout layout(inText, inFont);
   layout.setTextOption(option);
   layout.beginLayout();
-  prepared->ascent = layout.createLine().ascent();
+  QTextLine line = layout.createLine();
+  line.setLineWidth(std::numeric_limits<int>::max());  // a line has no ascent before it has a width
+  prepared->ascent = line.ascent();
   layout.endLayout();
 
   prepared->text.setTextFormat(Qt::PlainText);
@@ -127,10 +131,16 @@ lumcore::UTF16String QtFont::MakeTruncated(const lumcore::UTF16String& inText,
                                            TextTruncation inTruncation, float inMaxWidth) const {
   if (!(inMaxWidth > 0)) return lumcore::UTF16String();
   const auto mode = inTruncation == TextTruncation::kMiddle ? Qt::ElideMiddle : Qt::ElideRight;
-  lumcore::UTF16String result =
-      FromQt(mMetrics.elidedText(ToOneLine(inText), mode, static_cast<double>(inMaxWidth)));
-  // What is left when nothing else fits is the ellipsis alone, be it too wide or not.
-  return MeasureWidthOnce(result) <= inMaxWidth ? result : lumcore::UTF16String();
+  const QString text = ToOneLine(inText);
+  // A ligature that the cut takes apart is wider in two parts, so a shortened text may stick out by
+  // a little: then it is made for a place that is less by as much.
+  for (float room = inMaxWidth; room > 0;) {
+    const auto result = FromQt(mMetrics.elidedText(text, mode, static_cast<double>(room)));
+    const float excess = MeasureWidthOnce(result) - inMaxWidth;
+    if (excess <= 0) return result;
+    room -= std::max(excess, 1.0f);
+  }
+  return lumcore::UTF16String();
 }
 
 const QtFont& AsQtFont(const FontP& inFont) {
