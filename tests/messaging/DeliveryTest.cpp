@@ -57,32 +57,14 @@ TEST_F(Delivery, ListenerThatThrowsHoldsNobodyUpAndHearsTheNextMessage) {
   EXPECT_EQ(Send(2), "a2 b2 c2");
 }
 
-TEST_F(Delivery, ListenerMayDestroyItselfInItsCall) {
+TEST_F(Delivery, ListenerMayDestroyItselfInItsCallAndThrow) {
   Attach({a.get(), b.get(), a.get(), b.get(), c.get()});
-  b->Always([this] { b.reset(); });
-  EXPECT_EQ(Send(1), "a1 b1 a1 c1");
-  EXPECT_EQ(Send(2), "a2 a2 c2");
-}
-
-TEST_F(Delivery, ListenerMayDestroyItselfAndThenThrow) {
-  Attach({a.get(), b.get()});
-  a->Always([this] {
-    a.reset();
+  b->Always([this] {
+    b.reset();
     throw 1;
   });
-  EXPECT_EQ(Send(1), "a1 b1");
-  EXPECT_EQ(Send(2), "b2");
-}
-
-TEST_F(Delivery, ListenerMayDestroyThoseBeforeAndBehindIt) {
-  const auto d = NewListener("d");
-  Attach({a.get(), b.get(), c.get(), c.get(), d.get()});
-  b->Always([this] {
-    a.reset();
-    c.reset();
-  });
-  EXPECT_EQ(Send(1), "a1 b1 d1");
-  EXPECT_EQ(Send(2), "b2 d2");
+  EXPECT_EQ(Send(1), "a1 b1 a1 c1");
+  EXPECT_EQ(Send(2), "a2 a2 c2");
 }
 
 TEST_F(Delivery, ListenerAttachedOnTheWayIsReachedByTheSameWalk) {
@@ -111,15 +93,6 @@ TEST_F(Delivery, ListenerDestroyedInNestedDeliveryLeavesBothWalksWhole) {
   EXPECT_EQ(Send(3), "b3 d3");
 }
 
-TEST_F(Delivery, ListenerThatDetachesInItsCallIsNotLeftDeaf) {
-  Attach({a.get(), b.get()});
-  a->Once([this] { mBroadcaster.RemoveListener(a.get()); });
-  EXPECT_EQ(Send(1), "a1 b1");
-  EXPECT_EQ(Send(2), "b2");
-  Attach({a.get()});
-  EXPECT_EQ(Send(3), "b3 a3");
-}
-
 TEST_F(Delivery, DetachingAndAttachingAgainInTheCallEndsAndMovesToTheBack) {
   Attach({a.get(), b.get()});
   a->Always([this] {
@@ -132,7 +105,7 @@ TEST_F(Delivery, DetachingAndAttachingAgainInTheCallEndsAndMovesToTheBack) {
   EXPECT_EQ(Send(4), "b4 a4");
 }
 
-TEST_F(Delivery, ListenerThatDetachedHearsNothingUntilThatWalkEnds) {
+TEST_F(Delivery, ListenerThatDetachesInItsCallHearsNothingUntilThatWalkEndsAndIsNotDeafThen) {
   Broadcaster other;
   Attach({a.get(), b.get()});
   other.AddListener(a.get());
@@ -162,17 +135,6 @@ TEST_F(Delivery, DetachOnTheWayTakesOneEntryAndDeathTakesTheRest) {
   EXPECT_EQ(Send(3), "b3");
 }
 
-TEST_F(Delivery, MessageFromAnyBroadcasterPassesAListenerInItsCallAndIsNotKept) {
-  Broadcaster other;
-  Attach({a.get()});
-  other.AddListener(a.get());
-  other.AddListener(b.get());
-  a->Once([&other] { other.BroadcastMessage(7); });
-  EXPECT_EQ(Send(1), "a1 b7");
-  other.BroadcastMessage(8);
-  EXPECT_EQ(mLog.Take(), "a8 b8");
-}
-
 TEST_F(Delivery, SuspensionNestsAndLeavesARunningDeliveryAlone) {
   Attach({a.get(), b.get(), c.get()});
   a->Once([this] {
@@ -191,17 +153,6 @@ TEST_F(Delivery, SuspensionNestsAndLeavesARunningDeliveryAlone) {
   EXPECT_EQ(Send(5), "a5 c5");
 }
 
-TEST_F(Delivery, EitherSideMayDieFirst) {
-  auto other = std::make_unique<Broadcaster>();
-  other->AddListener(a.get());
-  Attach({a.get(), b.get()});
-  other->AddListener(a.get());
-  other->AddListener(b.get());
-  b.reset();
-  other.reset();
-  EXPECT_EQ(Send(1), "a1");
-}
-
 TEST_F(Delivery, DeathOfABroadcasterOpensItsListenersToMessagesAgain) {
   auto other = std::make_unique<Broadcaster>();
   Attach({a.get(), b.get()});
@@ -211,46 +162,13 @@ TEST_F(Delivery, DeathOfABroadcasterOpensItsListenersToMessagesAgain) {
     mBroadcaster.BroadcastMessage(2);
   });
   EXPECT_EQ(Send(1), "a1 a2 b2 b1");
+  b.reset();
+  EXPECT_EQ(Send(3), "a3");
 }
 
 TEST_F(Delivery, NullListenerIsRefused) {
   EXPECT_THROW(mBroadcaster.AddListener(nullptr), lumcore::config::Error);
   EXPECT_THROW(mBroadcaster.RemoveListener(nullptr), lumcore::config::Error);
-}
-
-TEST(DeliveryByValue, EachListenerGetsACopyOfItsOwn) {
-  const auto consume = [](std::string inText) { return std::string(std::move(inText)); };
-  EventLog log;
-  vek::messaging::Broadcaster<std::string> broadcaster;
-  test_support::RecordingListener<std::string> first(log, consume);
-  test_support::RecordingListener<std::string> second(log, consume);
-  broadcaster.AddListener(&first);
-  broadcaster.AddListener(&second);
-  broadcaster.BroadcastMessage("a text that is too long for the string's own buffer");
-  EXPECT_EQ(log.Take(),
-            "a text that is too long for the string's own buffer "
-            "a text that is too long for the string's own buffer");
-}
-
-TEST(DeliveryOfTwoTypes, CallForOneTypeDoesNotBlockTheOther) {
-  EventLog log;
-  vek::messaging::Broadcaster<const int&> numbers;
-  vek::messaging::Broadcaster<const char*> words;
-  struct Both : vek::messaging::Listener<const int&>, vek::messaging::Listener<const char*> {
-    Both(EventLog& ioLog, vek::messaging::Broadcaster<const char*>& ioWords)
-        : mLog(ioLog), mWords(ioWords) {}
-    void ListenToMessage(const int& inNumber) override {
-      mLog.Add(std::to_string(inNumber));
-      mWords.BroadcastMessage("word");
-    }
-    void ListenToMessage(const char* inWord) override { mLog.Add(inWord); }
-    EventLog& mLog;
-    vek::messaging::Broadcaster<const char*>& mWords;
-  } both(log, words);
-  numbers.AddListener(&both);
-  words.AddListener(&both);
-  numbers.BroadcastMessage(1);
-  EXPECT_EQ(log.Take(), "1 word");
 }
 
 }  // namespace

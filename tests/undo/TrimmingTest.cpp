@@ -5,7 +5,7 @@
 
 #include "undo/UndoerFixture.h"
 
-namespace undo_tests {
+namespace vek::undo {
 
 using Trimming = UndoerTest;
 
@@ -67,4 +67,4 @@ TEST_F(Trimming, AsksFromTheNewestAndNobodyBeyondTheLimit) {
   EXPECT_EQ(mLog.Take(), "do-c viable-c? viable-b? ~a ~a-a ~b-a");
 }
 
-}  // namespace undo_tests
+}  // namespace vek::undo

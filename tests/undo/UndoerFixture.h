@@ -16,16 +16,9 @@
 #include "vek/undo/ClearUndoStackDeed.h"
 #include "vek/undo/MultiUndoer.h"
 
-namespace undo_tests {
+namespace vek::undo {
 
-using test_support::EventLog;
-using test_support::Outcome;
-using test_support::ScriptedDeed;
-using test_support::ScriptedRestorer;
-using vek::undo::ClearUndoStackDeed;
-using vek::undo::Deed;
-using vek::undo::ItemsChangedMsg;
-using vek::undo::MultiUndoer;
+using namespace test_support;
 
 // An undoer with room for nine deeds. Watch makes hooks and listeners log from then on.
 class UndoerTest : public testing::Test {
@@ -51,18 +44,18 @@ class UndoerTest : public testing::Test {
     Post(deed);
     return deed;
   }
-  std::string Stack() const { return test_support::StackText(*undoer); }
+  std::string Stack() const { return StackText(*undoer); }
 
   EventLog mLog;
-  test_support::RecordingUndoHooks hooks{mLog};
-  test_support::RecordingListener<Deed*> deedListener{
+  RecordingUndoHooks hooks{mLog};
+  RecordingListener<Deed*> deedListener{
       mLog, [](Deed* inDeed) {
         return "[" + (inDeed ? lumcore::utility::ToStdString(inDeed->GetActionString()) : "null") +
                "]";
       }};
-  test_support::RecordingListener<const ItemsChangedMsg&> itemsListener{
+  RecordingListener<const ItemsChangedMsg&> itemsListener{
       mLog, [](const ItemsChangedMsg&) { return "items"; }};
   boost::intrusive_ptr<MultiUndoer> undoer = new MultiUndoer(10);
 };
 
-}  // namespace undo_tests
+}  // namespace vek::undo
