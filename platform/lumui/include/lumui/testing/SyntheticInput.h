@@ -1,0 +1,66 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "lumcore/Strings.h"
+#include "lumcore/geom/Point.h"
+#include "lumui/Export.h"
+#include "lumui/ui/KeyboardCode.h"
+#include "lumui/ui/ModifierKeys.h"
+#include "lumui/ui/PointerEvent.h"
+
+namespace lumui::ui {
+class OS_Window;
+}
+
+// Input as the window system would send it, for tests and for runs by script. All of it passes the
+// event gate. Positions are in the window's coordinates. Every call returns after the event has
+// been handled. The window has a native part (a contract); it need not be in front.
+namespace lumui::testing {
+
+using Position = lumcore::geom::PointT<float>;
+
+LUMUI_API void PressKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey,
+                        ui::ModifierKeys inModifiers = ui::ModifierKeys(), bool inRepeat = false);
+LUMUI_API void ReleaseKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey,
+                          ui::ModifierKeys inModifiers = ui::ModifierKeys());
+LUMUI_API void TapKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey,
+                      ui::ModifierKeys inModifiers = ui::ModifierKeys());
+// Taps the keys that type the text, one after the other.
+LUMUI_API void TypeText(ui::OS_Window& inWindow, const lumcore::UTF16String& inText);
+// Text as an input method commits it, without keys.
+LUMUI_API void CommitInputMethodText(ui::OS_Window& inWindow, const lumcore::UTF16String& inText);
+
+LUMUI_API void MoveMouse(ui::OS_Window& inWindow, const Position& inPosition,
+                         ui::ModifierKeys inModifiers = ui::ModifierKeys());
+LUMUI_API void PressMouse(ui::OS_Window& inWindow, const Position& inPosition,
+                          ui::PointerEvent::Button inButton = ui::PointerEvent::kLeftButton,
+                          ui::ModifierKeys inModifiers = ui::ModifierKeys());
+LUMUI_API void ReleaseMouse(ui::OS_Window& inWindow, const Position& inPosition,
+                            ui::PointerEvent::Button inButton = ui::PointerEvent::kLeftButton,
+                            ui::ModifierKeys inModifiers = ui::ModifierKeys());
+LUMUI_API void ClickMouse(ui::OS_Window& inWindow, const Position& inPosition,
+                          ui::PointerEvent::Button inButton = ui::PointerEvent::kLeftButton,
+                          ui::ModifierKeys inModifiers = ui::ModifierKeys());
+// Two clicks, the second in the time of a double click.
+LUMUI_API void DoubleClickMouse(ui::OS_Window& inWindow, const Position& inPosition,
+                                ui::PointerEvent::Button inButton = ui::PointerEvent::kLeftButton,
+                                ui::ModifierKeys inModifiers = ui::ModifierKeys());
+LUMUI_API void LeaveWindow(ui::OS_Window& inWindow);
+// In notches with fractions; see ui::WheelEvent for the signs.
+LUMUI_API void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
+                         const lumcore::geom::PointT<float>& inNotches,
+                         ui::ModifierKeys inModifiers = ui::ModifierKeys());
+
+// As the cross in the window's frame does.
+LUMUI_API void RequestClose(ui::OS_Window& inWindow);
+// Brings a window to the front; null takes the application from it.
+LUMUI_API void ActivateWindow(ui::OS_Window* inWindow);
+// As a session manager does: asks, and if nobody refuses, ends. True if the session ended.
+LUMUI_API bool EndSession();
+
+// Handles everything that waits, and what that brings, until nothing is left.
+LUMUI_API void ProcessEvents();
+
+}  // namespace lumui::testing

@@ -1,0 +1,69 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <memory>
+
+#include "lumui/Export.h"
+#include "lumui/ui/OS_Event.h"
+
+namespace lumui::ui {
+
+class KeyboardEvent;
+
+// The process's connection with the window system, its event loop and the one gate that every event
+// of our top-level windows passes: pre step, dispatch, post step. There is one at a time, made
+// before any window and destroyed after the last. Everything but Quit belongs to the thread that
+// made it.
+class LUMUI_API Application {
+ public:
+  // False consumes the event: it is not dispatched and the post step is not called.
+  using PreEventStep = std::function<bool(const OS_Event&)>;
+  using PostEventStep = std::function<void(const OS_Event&)>;
+  using ErrorFunction = std::function<void(const std::exception_ptr&)>;
+
+  // The arguments live as long as the application; those that the window system takes are removed.
+  // Without a display it runs headless: all works, and nobody sees it.
+  Application(int& ioArgumentCount, char** ioArguments);
+  ~Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  static Application* Get();  // null while there is none
+
+  bool IsHeadless() const;
+
+  // Either may be empty. A pre step that throws lets the event through.
+  void SetEventSteps(PreEventStep inPre, PostEventStep inPost);
+  // Called once each time the queue has run empty, before the loop waits.
+  void SetIdleFunction(std::function<void()> inIdle);
+  // Gets every exception that a handler lets out. Empty brings the default back, which writes to
+  // the standard error output.
+  void SetErrorFunction(ErrorFunction inFunction);
+  // True keeps a key press from opening a menu by its mnemonic: the press then comes as an event.
+  void SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inClaim);
+
+  // Runs until Quit and returns its code. A Quit from before the call ends it at once. Not
+  // re-entrant (a contract).
+  int Run();
+  void Quit(int inCode = 0);  // from any thread
+  bool IsQuitting() const;
+  // Handles what is in the queue now, and what that brings, until the queue is empty; no idle.
+  void PumpPendingEvents();
+
+  // Runs a function; what it throws goes to the error function. False if it threw.
+  bool RunGuarded(const std::function<void()>& inFunction);
+  // Passes an event through pre step, its window's event function and post step.
+  void SendEvent(OS_Event& ioEvent);
+
+  class Impl;
+  Impl* GetImpl() const { return mImpl.get(); }  // for the platform's own sources
+
+ private:
+  std::unique_ptr<Impl> mImpl;
+};
+
+}  // namespace lumui::ui
