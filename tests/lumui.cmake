@@ -1,0 +1,7 @@
+# The platform's windows, on a platform of Qt that shows nothing.
+vek_test(lumui_tests
+  SOURCES
+    lumui/EventGateTest.cpp
+    lumui/UITest.cpp
+  LIBRARIES lumui)
+set_tests_properties(lumui_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
