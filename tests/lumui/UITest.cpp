@@ -15,7 +15,7 @@ namespace {
 class ApplicationEnvironment : public ::testing::Environment {
  public:
   void SetUp() override {
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     mApplication = std::make_unique<ui::Application>(mCount, mArguments);
     mApplication->PumpPendingEvents();
   }

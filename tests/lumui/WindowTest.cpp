@@ -194,6 +194,46 @@ TEST_F(Window, CoordinatesGoThroughEveryAncestor) {
   EXPECT_EQ(back, lumcore::geom::PointT<int>(1, 2));
 }
 
+TEST_F(Window, KeepsItsPlaceWhereOnlyTheSizeIsGiven) {
+  const boost::intrusive_ptr<ui::OS_Window> window(new ui::OS_Window);
+  window->UI_SetSize(320, 240);
+  window->UI_Show(true);
+  App().PumpPendingEvents();
+  const Rect first = window->UI_GetLocalRectF();
+  EXPECT_EQ(first.width, 320);
+  EXPECT_EQ(first.height, 240);
+  window->UI_SetLocalRectF(Rect(50, 60, 100, 100));
+  window->UI_SetSize(200, 150);
+  App().PumpPendingEvents();
+  EXPECT_EQ(window->UI_GetLocalRectF(), Rect(50, 60, 200, 150));
+  // A node without room keeps its rectangle and is of no size on the screen.
+  const boost::intrusive_ptr<ui::UI_SubView> node(new ui::UI_SubView);
+  node->UI_SetLocalRectF(Rect(5, 5, -10, 20));
+  window->UI_AddChild(node);
+  App().PumpPendingEvents();
+  EXPECT_EQ(node->UI_GetLocalRectF(), Rect(5, 5, -10, 20));
+}
+
+TEST_F(Window, MayHaveAParentThatKeepsWindowsTogether) {
+  const auto log = [this](const std::string& inWord) { Log(inWord); };
+  const boost::intrusive_ptr<RecordingNode> keeper(new RecordingNode("keeper", log));
+  const auto window = MakeWindow();
+  const boost::intrusive_ptr<RecordingNode> node(new RecordingNode("node", log));
+  keeper->UI_SetLocalRectF(Rect(7, 7, 70, 70));
+  window->UI_AddChild(node);
+  keeper->UI_AddChild(window);
+  EXPECT_EQ(node->UI_GetWindowNode(), window.get());
+  EXPECT_EQ(keeper->UI_GetWindowNode(), nullptr);
+  node->UI_SetKeyboardFocus(ui::kFocusOther);
+  TakeLog();
+  // Events end with the window.
+  input::PressKey(*window, ui::KeyboardCode(0x80000041));
+  EXPECT_EQ(TakeLog(), "node:down(80000041) node:char(80000061)");
+  lumcore::geom::PointT<int> point;
+  node->UI_LocalToGlobal(point);
+  EXPECT_EQ(point, lumcore::geom::PointT<int>());
+}
+
 TEST_F(Window, NodesNeverBecomeTheirOwnAncestors) {
   const boost::intrusive_ptr<ui::UI_SubView> outer(new ui::UI_SubView);
   const boost::intrusive_ptr<ui::UI_SubView> inner(new ui::UI_SubView);

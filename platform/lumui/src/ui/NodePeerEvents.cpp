@@ -131,7 +131,9 @@ void NodePeer::AskCursor(UI_Node* inStart, QMouseEvent& inEvent) {
         peer->WithContentOrigin(peer->GetWidget()->mapFromGlobal(inEvent.globalPosition()));
     const MouseEvent event =
         PointerEventOf(inEvent, position, EventGate::Get()->GetCurrentOSEvent());
-    if (node->UI_DoCursor(inStart, event)) return;
+    // Asked before the handler may take the widget away.
+    const bool last = peer->GetWidget()->isWindow();
+    if (node->UI_DoCursor(inStart, event) || last) return;
   }
 }
 
@@ -211,6 +213,7 @@ void NodePeer::Paint() {
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
   const QRectF bounds = QRectF(widget->rect()).translated(mContentOrigin.x, mContentOrigin.y);
+  const StValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {
     drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));
     mNode->UI_Draw(&drawbot);
