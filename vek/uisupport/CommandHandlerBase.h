@@ -32,7 +32,7 @@ class VEK_API CommandHandlerBase {
   // True when somebody took the command. What a handler throws reaches the caller.
   static bool CallCommandChain(int inCommand);
   // True when somebody answered for the command; else the three mean nothing. The caller passes
-  // false, false and no text. outTitle replaces the text of the menu item where it is not empty.
+  // false, false and no text. ioTitle replaces the text of the menu item where it is not empty.
   static bool CallEnablementChain(int inCommand, bool& ioEnabled, bool& ioChecked,
                                   lumcore::UTF16String& ioTitle);
   // A held key has been released.
