@@ -135,24 +135,6 @@ TEST_F(Delivery, DetachOnTheWayTakesOneEntryAndDeathTakesTheRest) {
   EXPECT_EQ(Send(3), "b3");
 }
 
-TEST_F(Delivery, SuspensionNestsAndLeavesARunningDeliveryAlone) {
-  Attach({a.get(), b.get(), c.get()});
-  a->Once([this] {
-    mBroadcaster.SuspendMessages();
-    mBroadcaster.SuspendMessages();
-    mBroadcaster.RemoveListener(b.get());
-    mBroadcaster.BroadcastMessage(2);
-  });
-  EXPECT_EQ(Send(1), "a1 c1");
-  mBroadcaster.ResumeMessages();
-  EXPECT_EQ(Send(3), "");
-  mBroadcaster.ResumeMessages();
-  a->SuspendMessages();
-  EXPECT_EQ(Send(4), "c4");
-  a->ResumeMessages();
-  EXPECT_EQ(Send(5), "a5 c5");
-}
-
 TEST_F(Delivery, DeathOfABroadcasterOpensItsListenersToMessagesAgain) {
   auto other = std::make_unique<Broadcaster>();
   Attach({a.get(), b.get()});

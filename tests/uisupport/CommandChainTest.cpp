@@ -95,15 +95,6 @@ TEST_F(Chain, AttachmentMayRemoveItselfWhileAskedForEnablement) {
   EXPECT_EQ(Ask(), "ask:leaf ask:middle ask:root no +leafmiddleroot");
 }
 
-TEST_F(Chain, EndingAHoldReachesAnAttachmentAddedByTheOneBeforeIt) {
-  middle.AddAttachment(&attachments[0]);
-  attachments[0].mOnEnd = [this] { middle.AddAttachment(&attachments[2]); };
-  EXPECT_EQ(End(), "end:leaf end:1 end:3 end:middle end:root no");
-  attachments[2].mAnswer = true;
-  attachments[2].mOnEnd = [this] { middle.RemoveAttachment(&attachments[2]); };
-  EXPECT_EQ(End(), "end:leaf end:1 end:3 yes");
-}
-
 TEST_F(Chain, HandlerThatAnswersMayDeleteItself) {
   leaf->mAnswer = true;
   leaf->mOnRun = [this] { leaf.reset(); };
