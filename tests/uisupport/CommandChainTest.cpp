@@ -159,7 +159,7 @@ TEST_F(Chain, AttachmentsBelongToTheHandlerTheyWereLastAddedTo) {
   EXPECT_EQ(Run(), "run:leaf run:1 run:middle run:root no");
 }
 
-// Takes command 7 by logging it and describes it by check mark and title.
+// Takes command 7 and counts it; asked, it answers with a check mark and a title.
 template <class Base>
 struct Seven : Base {
   bool DoUnifiedDispatch(int inCommand, CommandEnableQuery* ioQuery) override {
