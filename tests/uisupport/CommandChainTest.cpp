@@ -88,11 +88,15 @@ TEST_F(Chain, ExecutingCallsThoseThatStoodThereWhenTheTurnBegan) {
 }
 
 TEST_F(Chain, AttachmentMayRemoveItselfWhileAskedForEnablement) {
-  Attach(middle);
-  for (auto& attachment : attachments)
-    attachment.mOnAsk = [this, &attachment] { middle.RemoveAttachment(&attachment); };
+  middle.AddAttachment(&attachments[0]);
+  middle.AddAttachment(&attachments[1]);
+  // The one that comes instead is likely to get the memory of the entry that goes.
+  attachments[0].mOnAsk = [this] {
+    middle.RemoveAttachment(&attachments[0]);
+    middle.AddAttachment(&attachments[2]);
+  };
   EXPECT_EQ(Ask(), "ask:leaf ask:1 ask:2 ask:3 ask:middle ask:root no +leaf123middleroot");
-  EXPECT_EQ(Ask(), "ask:leaf ask:middle ask:root no +leafmiddleroot");
+  EXPECT_EQ(Ask(), "ask:leaf ask:2 ask:3 ask:middle ask:root no +leaf23middleroot");
 }
 
 TEST_F(Chain, HandlerThatAnswersMayDeleteItself) {
