@@ -1,9 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-// Linked into a test program it gives the program an application object, without a display unless the
-// environment names a platform. It ends behind the last test and not at the process's exit, where it
-// would outlive the toolkit's own statics.
+// Linked into a test program it gives the program an application object, without a display unless
+// the environment names a platform. It ends behind the last test and not at the process's exit,
+// where it would outlive the toolkit's own statics.
 
 #include <gtest/gtest.h>
 
