@@ -6,9 +6,10 @@ vek_test(lumui_tests
     lumui/InputCaptureTest.cpp
     lumui/KeyboardCodeTest.cpp
     lumui/MessageDialogTest.cpp
+    lumui/NativeSideTest.cpp
     lumui/ScrollViewTest.cpp
     lumui/TimerTest.cpp
     lumui/WindowTest.cpp
     lumui/UITest.cpp
-  LIBRARIES lumui)
+  LIBRARIES lumui Qt6::Widgets)
 set_tests_properties(lumui_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)

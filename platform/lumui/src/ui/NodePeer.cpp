@@ -125,6 +125,8 @@ void NodePeer::Destroy() {
   Unlink();
   EventGate* const gate = EventGate::Get();
   if (gate && gate->IsInEvent()) {
+    // What it still does before it goes is told to nobody.
+    widget->blockSignals(true);
     widget->hide();
     widget->deleteLater();
   } else {
