@@ -24,10 +24,7 @@ constexpr int kCommand = 42;
 // addresses. Nothing is current at first.
 class Chain : public testing::Test {
  protected:
-  ~Chain() override {
-    CommandHandlerBase::SetCurrentCommandHandler(nullptr);
-    CommandHandlerBase::SetDefaultCommandHandler(nullptr);
-  }
+  ~Chain() override { CommandHandlerBase::ResetCommandChain(); }
   void Attach(CommandHandler& ioHandler) {
     for (const int index : {2, 0, 1})  // not in the order of addresses
       ioHandler.AddAttachment(&attachments[static_cast<std::size_t>(index)]);

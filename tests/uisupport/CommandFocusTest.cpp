@@ -28,8 +28,8 @@ class Focus : public testing::Test {
     CommandHandlerBase::NotifyWhenCurrHandlerChanges(callback);
   }
   ~Focus() override {
-    CommandHandlerBase::SetCurrentCommandHandler(nullptr);
-    callback->clear();
+    CommandHandlerBase::ResetCommandChain();
+    EXPECT_TRUE(callback->empty()) << "the end of the list clears the functions on it";
   }
   static std::string Name(CommandHandlerBase* inHandler) {
     return inHandler ? static_cast<RecordingHandler*>(inHandler)->mName : "none";
