@@ -1,0 +1,14 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "vek/selection/Junction.h"
+
+namespace vek::selection {
+
+Junction::~Junction() = default;
+
+std::list<Node*> Junction::DefaultSelectables() {
+  return {};
+}
+
+}  // namespace vek::selection

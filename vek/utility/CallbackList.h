@@ -1,0 +1,70 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <boost/function.hpp>
+#include <boost/shared_ptr.hpp>
+#include <list>
+
+#include "vek/utility/ScopedValue.h"
+
+namespace vek::utility {
+
+// Functions that others hold too. A holder unsubscribes by clearing the function that it shares:
+// the next call skips it, and the next Add drops it. There is no removal. When the list dies it
+// clears every function first, so that a holder sees an empty one and never a dangling one.
+//
+// A callback may clear itself, add others (they are reached by the same call) and call the list
+// again.
+template <class... Args>
+class CallbackList {
+ public:
+  using Function = boost::function<void(Args...)>;
+  using Entry = boost::shared_ptr<Function>;
+
+  CallbackList() = default;
+  CallbackList(const CallbackList&) = delete;
+  CallbackList& operator=(const CallbackList&) = delete;
+  ~CallbackList() {
+    for (const Entry& entry : mEntries) {
+      if (entry) entry->clear();
+    }
+  }
+
+  void Add(Entry inEntry) {
+    DropUnsubscribed();
+    mEntries.push_back(std::move(inEntry));
+  }
+
+  // inMakeArgument is asked anew before each call and gives what is passed to that callback.
+  template <class MakeArgument>
+  void CallEach(MakeArgument inMakeArgument) {
+    const StScopedValue<int> depth(mCallDepth, mCallDepth + 1);
+    for (auto entry = mEntries.begin(); entry != mEntries.end(); ++entry) {
+      if (!*entry || (*entry)->empty()) continue;
+      // Called through a copy: a callback that clears itself would destroy what is running.
+      const Function function = **entry;
+      function(inMakeArgument());
+    }
+  }
+
+ private:
+  static bool IsUnsubscribed(const Entry& inEntry) { return !inEntry || inEntry->empty(); }
+
+  // While a call walks the list its nodes stay, and only what they hold is given up.
+  void DropUnsubscribed() {
+    if (mCallDepth == 0) {
+      mEntries.remove_if(&IsUnsubscribed);
+      return;
+    }
+    for (Entry& entry : mEntries) {
+      if (IsUnsubscribed(entry)) entry.reset();
+    }
+  }
+
+  std::list<Entry> mEntries;
+  int mCallDepth = 0;
+};
+
+}  // namespace vek::utility
