@@ -11,11 +11,10 @@
 #include <cstring>
 #include <string>
 
-#include "vek/messaging/Listener.h"
 #include "vek/selection/Junction.h"
 #include "vek/selection/Manager.h"
 #include "vek/selection/Restorer.h"
-#include "vek/uisupport/UnifiedDispatch.h"
+#include "vek/uisupport/CommandHandler.h"
 #include "vek/undo/MultiDeed.h"
 #include "vek/undo/MultiUndoerHooks.h"
 
@@ -56,19 +55,11 @@ struct HandlerProbe : vek::uisupport::CommandHandler {
   }
 };
 
-struct AttachmentProbe : vek::uisupport::CommandAttachment {
-  static std::string Get() {
-    return Positions(&AttachmentProbe::DoHandleCommand, &AttachmentProbe::DoCommandEnabled,
-                     &AttachmentProbe::DoEndHoldCommand);
-  }
-};
-
 TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   using vek::selection::Junction;
   using vek::selection::Manager;
   using vek::selection::Restorer;
   using Hooks = vek::undo::MultiUndoerHooks;
-  EXPECT_EQ(Positions(&vek::messaging::Listener<int>::ListenToMessage), "2 ");
   EXPECT_EQ(Positions(&Junction::AllSelectables, &Junction::DefaultSelectables), "2 3 ");
   EXPECT_EQ(Positions(&Restorer::Restore, &Restorer::MergeIn), "2 3 ");
   // Behind the destructor and the three operations of the counted base.
@@ -80,8 +71,6 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
             "2 3 4 5 6 7 ");
   // The destructor stands second.
   EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
-  EXPECT_EQ(AttachmentProbe::Get(), "2 3 4 ");
-  EXPECT_EQ(Positions(&vek::uisupport::UnifiedDispatchBase::DoUnifiedDispatch), "0 ");
 }
 
 }  // namespace

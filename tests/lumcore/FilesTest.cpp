@@ -40,7 +40,10 @@ TEST(Files, FailuresNamePathAndTheSystemsWords) {
   EXPECT_EQ(ErrorOf([&] { File(none).GetSize(); }), "Cannot measure" + tail);
   EXPECT_EQ(ErrorOf([&] { Dir(none).GetFiles(); }), "Cannot list" + tail);
   EXPECT_EQ(ErrorOf([&] { File("/tmp").ReadAll(); }), "Cannot read \"/tmp\": Is a directory");
-  EXPECT_EQ(ErrorOf([&] { File("/tmp").Remove(); }), "Cannot delete \"/tmp\": Is a directory");
+  const TemporaryFolder folder;
+  const std::string path = folder.GetDir().GetPath();
+  EXPECT_EQ(ErrorOf([&] { File(path).Remove(); }),
+            "Cannot delete \"" + path + "\": Is a directory");
   EXPECT_EQ(ErrorOf([&] { Dir("/dev/null/x").Create(); }),
             "Cannot create folder \"/dev/null/x\": Not a directory");
   EXPECT_EQ(ErrorOf([&] { File(none).Remove(); }), "no error");

@@ -26,36 +26,35 @@ std::string State(const Deed& inDeed) {
 }
 
 TEST(DeedStates, MoveByRedoAndUndoOnlyWhereTheyMay) {
-  const struct {
+  struct Case {
     ScriptedDeed::Undoable undoable;
     ScriptedDeed::Built built;
     bool viable;
-    const char* before;
     const char* events;  // of undo, redo, redo, undo, undo, redo
-    const char* after;
-  } kCases[] = {
-      {ScriptedDeed::kUndoable, ScriptedDeed::kNew, true, "new can-redo", "do-d undo-d do-d",
-       "done can-undo"},
-      {ScriptedDeed::kUndoable, ScriptedDeed::kDone, true, "done can-undo",
-       "undo-d do-d undo-d do-d", "done can-undo"},
-      {ScriptedDeed::kFinal, ScriptedDeed::kNew, true, "new can-redo", "do-d", "done"},
-      {ScriptedDeed::kFinal, ScriptedDeed::kDone, true, "done", "", "done"},
-      {ScriptedDeed::kUndoable, ScriptedDeed::kNew, false, "new can-redo", "do-d", "done"},
-      {ScriptedDeed::kUndoable, ScriptedDeed::kDone, false, "done", "", "done"},
+    const char* states;  // before and after them
+  };
+  using D = ScriptedDeed;
+  const Case kCases[] = {
+      {D::kUndoable, D::kNew, true, "do-d undo-d do-d", "new can-redo, done can-undo"},
+      {D::kUndoable, D::kDone, true, "undo-d do-d undo-d do-d", "done can-undo, done can-undo"},
+      {D::kFinal, D::kNew, true, "do-d", "new can-redo, done"},
+      {D::kFinal, D::kDone, true, "", "done, done"},
+      {D::kUndoable, D::kNew, false, "do-d", "new can-redo, done"},
+      {D::kUndoable, D::kDone, false, "", "done, done"},
   };
   for (const auto& expected : kCases) {
     EventLog log;
     ScriptedDeed deed(log, "d", expected.undoable, expected.built);
     deed.mViable = expected.viable;
-    EXPECT_EQ(State(deed), expected.before);
+    const std::string before = State(deed);
     deed.Undo();
     deed.Redo();
     deed.Redo();
     deed.Undo();
     deed.Undo();
     deed.Redo();
-    EXPECT_EQ(log.Take(), expected.events) << expected.before;
-    EXPECT_EQ(State(deed), expected.after);
+    EXPECT_EQ(log.Take(), expected.events);
+    EXPECT_EQ(before + ", " + State(deed), expected.states);
   }
 }
 
@@ -72,18 +71,6 @@ TEST(DeedStates, UndoneDeedThatIsNoLongerViableStaysUndone) {
   deed.Undo();  // asks, though the deed is not done
   EXPECT_EQ(log.Take(), "viable-d? viable-d?");
   EXPECT_EQ(State(deed), "undone");
-}
-
-TEST(DeedStates, FailureLeavesThemAsTheyWere) {
-  EventLog log;
-  ScriptedDeed deed(log, "d");
-  deed.mOnRedo = deed.mOnUndo = [] { throw std::string("broken"); };
-  EXPECT_EQ(Outcome([&] { deed.Redo(); }), "broken");
-  EXPECT_EQ(State(deed), "new can-redo");
-  deed.mOnRedo = nullptr;
-  deed.Redo();
-  EXPECT_EQ(Outcome([&] { deed.Undo(); }), "broken");
-  EXPECT_EQ(State(deed), "done can-undo");
 }
 
 TEST(DeedDescriptions, KeepTheBlankWhereThereIsNoName) {
@@ -103,17 +90,11 @@ TEST(DeedRestorers, AreOwnedAndReplaced) {
     deed.SetBeforeRestorer(first);
     deed.SetBeforeRestorer(first);
     EXPECT_EQ(log.Take(), "");
-    deed.SetBeforeRestorer(new ScriptedRestorer(log, "second"));
-    EXPECT_EQ(log.Take(), "~first");
     deed.SetBeforeRestorer(nullptr);
     EXPECT_FALSE(deed.HasBeforeRestorer());
-    EXPECT_EQ(log.Take(), "~second");
-
+    EXPECT_EQ(log.Take(), "~first");
     deed.SetBeforeRestorer(new ScriptedRestorer(log, "before"));
     deed.SetAfterRestorer(new ScriptedRestorer(log, "after"));
-    deed.RestoreBeforeSelection();
-    deed.RestoreAfterSelection();
-    EXPECT_EQ(log.Take(), "restore-before restore-after");
   }
   EXPECT_EQ(log.Take(), "~d ~after ~before");
 }

@@ -17,7 +17,6 @@ namespace {
 using namespace test_support;
 
 using lumcore::utility::ToStdString;
-using lumcore::utility::ToUTF16;
 
 class Group : public testing::Test {
  protected:
@@ -64,34 +63,18 @@ TEST_F(Group, TakesItsCharacterFromTheFirstChildAndLosesUndoabilityToAny) {
   EXPECT_EQ(State(), "new undoable 1");
   Add("b", ScriptedDeed::kUndoable, ScriptedDeed::kDone);
   EXPECT_EQ(State(), "new undoable 2");
-  Add("c", ScriptedDeed::kFinal);
+  ScriptedDeed* const third = Add("c", ScriptedDeed::kFinal);
   Add("d");
   EXPECT_EQ(State(), "new final 4");
+  EXPECT_EQ(ToStdString(group->GetUndoDescription()), "Undo a");
+  EXPECT_TRUE(group->StillViable());
+  third->mViable = false;
+  EXPECT_FALSE(group->StillViable());
 
   group = std::make_unique<MultiDeed>(lumcore::UTF16String());
   Add("a", ScriptedDeed::kUndoable, ScriptedDeed::kDone);
   Add("b");
   EXPECT_EQ(State(), "done undoable 2");
-}
-
-TEST_F(Group, BearsItsOwnNameOrTheFirstChilds) {
-  EXPECT_EQ(ToStdString(group->GetUndoDescription()), "Undo ");
-  Add("first");
-  Add("second");
-  EXPECT_EQ(ToStdString(group->GetUndoDescription()), "Undo first");
-  group->SetActionString(ToUTF16("Move rows"));
-  EXPECT_EQ(ToStdString(group->GetRedoDescription()), "Redo Move rows");
-}
-
-TEST_F(Group, ViabilityStopsAtTheFirstChildThatHasLostIt) {
-  AddThree();
-  for (ScriptedDeed* child : {a, b, c})
-    child->mLogsViability = true;
-  EXPECT_TRUE(group->StillViable());
-  EXPECT_EQ(mLog.Take(), "viable-a? viable-b? viable-c?");
-  b->mViable = false;
-  EXPECT_FALSE(group->StillViable());
-  EXPECT_EQ(mLog.Take(), "viable-a? viable-b?");
 }
 
 TEST_F(Group, KeepsTheFirstBeforeRestorerAndTheLastAfterRestorer) {
@@ -171,6 +154,14 @@ TEST_F(Group, FailureInARollbackStopsItAndIsTheOneThatLeaves) {
   b->mOnUndo = nullptr;
   EXPECT_EQ(Outcome([this] { group->Redo(); }), "c failed");
   EXPECT_EQ(mLog.Take(), "do-c undo-b undo-a");
+
+  c->mOnRedo = nullptr;
+  group->Redo();
+  a->mOnUndo = [] { FailOrdinarily("a failed"); };
+  c->mOnRedo = [] { FailOrdinarily("rollback failed"); };
+  mLog.Take();
+  EXPECT_EQ(Outcome([this] { group->Undo(); }), "rollback failed");
+  EXPECT_EQ(mLog.Take(), "undo-c undo-b undo-a do-b do-c");
 }
 
 TEST_F(Group, NonCriticalFailureDropsThatChildForGood) {

@@ -169,13 +169,6 @@ TEST_F(Undoer, DeedThatIsNotKeptDiesBeforeAnUndoerThatIsDroppedOnTheWay) {
   EXPECT_EQ(mLog.Take(), "do-f items ~f ~undoer");
 }
 
-TEST_F(Undoer, ListenerMayPostWhileADeedIsPosted) {
-  deedListener.Once([this] { Post("inner"); });
-  undoer->GetDeedNotifier()->AddListener(&deedListener);
-  Post("outer");
-  EXPECT_EQ(Stack(), "inner outer #2");
-}
-
 using UndoerFailure = UndoerTest;
 
 TEST_F(UndoerFailure, FailedPostLeavesTheStackAndWhatWasUndone) {

@@ -18,7 +18,13 @@
 
 namespace vek::undo {
 
-using namespace test_support;
+using test_support::EventLog;
+using test_support::Outcome;
+using test_support::RecordingListener;
+using test_support::RecordingUndoHooks;
+using test_support::ScriptedDeed;
+using test_support::ScriptedRestorer;
+using test_support::StackText;
 
 // An undoer with room for nine deeds. Watch makes hooks and listeners log from then on.
 class UndoerTest : public testing::Test {

@@ -56,6 +56,9 @@ class VEK_API CommandHandlerBase {
   // clears the function that it holds.
   static void NotifyWhenCurrHandlerChanges(boost::shared_ptr<HandlerChangeFunction> inCallback);
 
+  // No current and no default handler and no callbacks, as at start; nobody is told. For tests.
+  static void ResetCommandChain();
+
   // A name that key maps may bind keys to. Empty for none.
   const lumcore::UTF8String& GetCommandContext() { return DoGetCommandContext(); }
   bool HasCommandContext() { return !DoGetCommandContext().empty(); }

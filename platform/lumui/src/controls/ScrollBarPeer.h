@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointer>
 #include <QScrollBar>
 
 #include "lumui/controls/UI_ScrollBar.h"
@@ -26,7 +27,7 @@ class UI_ScrollBar::Peer : public ui::NodePeer {
   void Apply();
 
   bool mHorizontal;
-  QScrollBar* mBar = nullptr;  // the widget, which may go before the peer
+  QPointer<QScrollBar> mBar;  // the widget, which may go before the peer
   bool mShowing = false;
   double mRange = 0;
   double mOffset = 0;

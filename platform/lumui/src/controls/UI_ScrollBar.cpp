@@ -3,7 +3,9 @@
 
 #include "lumui/controls/UI_ScrollBar.h"
 
+#include <QApplication>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -35,7 +37,6 @@ QWidget* UI_ScrollBar::Peer::DoMakeWidget(QWidget* inParent) {
   QObject::connect(bar, &QScrollBar::actionTriggered, bar, [this](int inAction) {
     ui::EventGate::Get()->RunGuarded([&] { HandleAction(inAction); });
   });
-  QObject::connect(bar, &QObject::destroyed, [this] { mBar = nullptr; });
   mBar = bar;
   Apply();
   return bar;
@@ -112,9 +113,7 @@ UI_ScrollBar::Peer* UI_ScrollBar::GetBarPeer() const {
 }
 
 float UI_ScrollBar::GetThickness() const {
-  const QScrollBar measure(mHorizontal ? Qt::Horizontal : Qt::Vertical);
-  const QSize size = measure.sizeHint();
-  return static_cast<float>(mHorizontal ? size.height() : size.width());
+  return static_cast<float>(QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 void UI_ScrollBar::NotifyWhenChangedInteractively(

@@ -261,7 +261,8 @@ void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
       for (boost::intrusive_ptr<UI_Node> node = start; node && !taken;) {
         taken = true;
         RunGuarded([&] { taken = node->UI_DoKeyboardEvent(start.get(), event); });
-        node = node->UI_GetParentNode();
+        // As for the keys, the walk ends with the window.
+        node = node.get() == &inWindow ? nullptr : node->UI_GetParentNode();
       }
     });
   }

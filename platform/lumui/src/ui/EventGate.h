@@ -48,6 +48,7 @@ class LUMUI_API EventGate : public QApplication {
   const OS_Event& GetCurrentOSEvent() const { return mCurrentOSEvent; }
   bool IsInEvent() const { return mDepth > 0; }
   bool IsInPointerEvent() const { return mInPointerEvent; }
+  bool IsPainting() const { return mPainting; }
 
   // The key event that is being dispatched, for the node that Qt asks. Null at other times.
   const KeyboardEvent* GetCurrentKey() const { return mKey ? &mKey->event : nullptr; }
@@ -71,6 +72,8 @@ class LUMUI_API EventGate : public QApplication {
   std::function<void(int)> mQuitFunction;
 
  private:
+  friend class NodePeer;
+
   struct KeyState {
     KeyboardEvent event;
     bool charactersDropped = false;
@@ -95,6 +98,7 @@ class LUMUI_API EventGate : public QApplication {
   int mDepth = 0;
   bool mSwallowMouse = false;
   bool mInPointerEvent = false;
+  bool mPainting = false;
   ModifierKeys mTypingModifiers;
   bool mSessionEnding = false;
   int mAnnouncedModals = 0;

@@ -4,6 +4,7 @@
 #include "ui/NodePeer.h"
 
 #include <QHash>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -29,6 +30,11 @@ int Rounded(double inValue) {
   constexpr double kLimit = QWIDGETSIZE_MAX;
   if (!(rounded > -kLimit)) return -QWIDGETSIZE_MAX;
   return rounded < kLimit ? static_cast<int>(rounded) : QWIDGETSIZE_MAX;
+}
+
+// A window may have a node for its parent that only keeps windows together.
+bool IsWindow(const UI_Node& inNode) {
+  return dynamic_cast<const OS_Window*>(&inNode) != nullptr;
 }
 
 }  // namespace
@@ -88,7 +94,8 @@ void NodePeer::PlaceIn(QWidget* inParent) {
   ApplyDisabled();
   ApplyRect();
   for (std::size_t i = 0; i < mNode->UI_GetChildCount(); ++i) {
-    mNode->UI_GetChild(i)->GetPeer()->PlaceIn(GetContainer());
+    UI_Node* const child = mNode->UI_GetChild(i);
+    if (!IsWindow(*child)) child->GetPeer()->PlaceIn(GetContainer());
   }
   // Last, so that everything shows at once. A top-level window waits until it has its native part.
   if (inParent) ApplyVisible();
@@ -96,7 +103,7 @@ void NodePeer::PlaceIn(QWidget* inParent) {
 
 void NodePeer::PlaceChild(UI_Node& inChild, UI_Node* inNextSibling) {
   QWidget* const container = GetContainer();
-  if (!container) return;
+  if (!container || IsWindow(inChild)) return;
   inChild.GetPeer()->PlaceIn(container);
   QWidget* const widget = inChild.GetPeer()->GetWidget();
   QWidget* const next = inNextSibling ? inNextSibling->GetPeer()->GetWidget() : nullptr;
@@ -125,6 +132,8 @@ void NodePeer::Destroy() {
   Unlink();
   EventGate* const gate = EventGate::Get();
   if (gate && gate->IsInEvent()) {
+    // What it still does before it goes is told to nobody.
+    widget->blockSignals(true);
     widget->hide();
     widget->deleteLater();
   } else {
@@ -136,14 +145,25 @@ QRect NodePeer::RoundedRect() const {
   const auto& rect = mNode->UI_GetLocalRectF();
   const int left = Rounded(rect.x);
   const int top = Rounded(rect.y);
-  return QRect(left, top, Rounded(double(rect.x) + rect.width) - left,
-               Rounded(double(rect.y) + rect.height) - top);
+  const auto size = [](double inEnd, int inStart) {
+    return std::clamp(Rounded(inEnd) - inStart, 0, QWIDGETSIZE_MAX);
+  };
+  return QRect(left, top, size(double(rect.x) + rect.width, left),
+               size(double(rect.y) + rect.height, top));
 }
 
 void NodePeer::ApplyRect() {
   if (!mWidget || mApplyingRect) return;
+  // A window that nobody has given a place gets one from the window system.
+  if (mWidget->isWindow() && mNode->UI_GetLocalRectF().IsEmpty()) return;
   const StValue<bool> applying(mApplyingRect, true);
   mWidget->setGeometry(RoundedRect());
+}
+
+void NodePeer::ApplySize(int inWidth, int inHeight) {
+  const StValue<bool> applying(mApplyingRect, true);
+  mWidget->resize(inWidth, inHeight);
+  mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(mWidget->geometry())));
 }
 
 void NodePeer::ApplyVisible() {

@@ -72,6 +72,8 @@ class LUMUI_API NodePeer {
   void Destroy();
 
   void ApplyRect();
+  // Of a window with a widget: the size alone, the place stays whose it is.
+  void ApplySize(int inWidth, int inHeight);
   void ApplyVisible();
   void ApplyDisabled();
   void ApplyToolTip();

@@ -101,8 +101,12 @@ bool NodePeer::Offer(QEvent& inEvent, const std::function<bool(UI_Node*)>& inAsk
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   const bool drawn = IsDrawn();
   UI_Node* const start = EventGate::Get()->GetStartNode();
+  const OS_Window* const window = mNode->UI_GetWindowNode();
+  const HWND handle = window ? window->UI_GetHandle() : nullptr;
   bool taken = true;
   EventGate::Get()->RunGuarded([&] { taken = inAsk(start ? start : mNode); });
+  // The event ends with its window.
+  if (handle && !OS_Window::UI_GetWindow(handle)) taken = true;
   if (!taken && !drawn) return false;
   inEvent.setAccepted(taken);
   return true;
@@ -127,7 +131,9 @@ void NodePeer::AskCursor(UI_Node* inStart, QMouseEvent& inEvent) {
         peer->WithContentOrigin(peer->GetWidget()->mapFromGlobal(inEvent.globalPosition()));
     const MouseEvent event =
         PointerEventOf(inEvent, position, EventGate::Get()->GetCurrentOSEvent());
-    if (node->UI_DoCursor(inStart, event)) return;
+    // Asked before the handler may take the widget away.
+    const bool last = peer->GetWidget()->isWindow();
+    if (node->UI_DoCursor(inStart, event) || last) return;
   }
 }
 
@@ -136,8 +142,8 @@ bool NodePeer::HandleWheel(QWheelEvent& inEvent) {
     const auto position = WithContentOrigin(mWidget->mapFromGlobal(inEvent.globalPosition()));
     // Qt counts what the wheel does, the event where the view goes.
     const lumcore::geom::PointT<float> notches(
-        -static_cast<float>(inEvent.angleDelta().x()) / kWheelUnitsANotch,
-        -static_cast<float>(inEvent.angleDelta().y()) / kWheelUnitsANotch);
+        static_cast<float>(-inEvent.angleDelta().x()) / kWheelUnitsANotch,
+        static_cast<float>(-inEvent.angleDelta().y()) / kWheelUnitsANotch);
     return mNode->UI_DoMouseWheel(
         inStart, WheelEvent(ModifiersFromQt(inEvent.modifiers()), position, notches,
                             EventGate::Get()->GetCurrentOSEvent()));
@@ -207,6 +213,7 @@ void NodePeer::Paint() {
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
   const QRectF bounds = QRectF(widget->rect()).translated(mContentOrigin.x, mContentOrigin.y);
+  const StValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {
     drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));
     mNode->UI_Draw(&drawbot);

@@ -131,6 +131,7 @@ void OS_Window::UI_SetTitle(const lumcore::UTF16String& inTitle) {
 }
 
 void OS_Window::UI_SetSize(int inWidth, int inHeight) {
+  if (mHandle) return GetPeer()->ApplySize(inWidth, inHeight);
   lumcore::geom::RectT<float> rect = UI_GetLocalRectF();
   rect.width = static_cast<float>(inWidth);
   rect.height = static_cast<float>(inHeight);

@@ -3,11 +3,13 @@
 
 #include "ui/QtEvents.h"
 
+#include <private/qkeymapper_p.h>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 
 #include "ui/KeyTable.h"
 
@@ -86,6 +88,26 @@ ModifierKeys WithOwnKey(ModifierKeys inModifiers, KeyboardCode inCode, bool inDo
     inModifiers.Clear(own);
   }
   return inModifiers;
+}
+
+// Qt has told combinations as int and later as a type of their own.
+int KeyOf(int inCombination) {
+  return inCombination & ~static_cast<int>(Qt::KeyboardModifierMask);
+}
+[[maybe_unused]] int KeyOf(QKeyCombination inCombination) {
+  return inCombination.key();
+}
+
+// With Shift, Qt names the character that the key types, "!" for the key with the "1". The
+// keyboard's layout tells the cap: the first of the possible keys is the one without Shift.
+int KeyOnCap(const QKeyEvent& inEvent) {
+  const int key = inEvent.key();
+  const bool character = key > Qt::Key_Space && key <= 0xFFFF;
+  if (!character || !inEvent.modifiers().testFlag(Qt::ShiftModifier)) return key;
+  const std::unique_ptr<QKeyEvent> copy(inEvent.clone());
+  const auto possible = QKeyMapper::possibleKeys(copy.get());
+  const int cap = possible.isEmpty() ? key : KeyOf(possible.first());
+  return cap > Qt::Key_Space && cap <= 0xFFFF ? cap : key;
 }
 
 // Alt alone makes the system's variants of the key messages; with Ctrl it types third-level
@@ -167,7 +189,7 @@ OS_Event OSEventOf(HWND inWindow, const QWheelEvent& inEvent) {
 KeyboardEvent KeyEventOf(HWND inWindow, const QKeyEvent& inEvent) {
   const bool down = inEvent.type() != QEvent::KeyRelease;
   const KeyboardCode code =
-      CodeFromQt(QtKey{inEvent.key(), inEvent.modifiers().testFlag(Qt::KeypadModifier)});
+      CodeFromQt(QtKey{KeyOnCap(inEvent), inEvent.modifiers().testFlag(Qt::KeypadModifier)});
   const ModifierKeys modifiers = WithOwnKey(ModifiersFromQt(inEvent.modifiers()), code, down);
   const bool system = IsSystemKey(modifiers);
   const int osCode = code.GetOSCode();

@@ -89,10 +89,11 @@ UI_Node* UI_Node::UI_GetChild(std::size_t inIndex) const {
 }
 
 OS_Window* UI_Node::UI_GetWindowNode() const {
-  const UI_Node* top = this;
-  while (top->mParent)
-    top = top->mParent;
-  return dynamic_cast<OS_Window*>(const_cast<UI_Node*>(top));
+  for (const UI_Node* node = this; node; node = node->mParent) {
+    const auto* const window = dynamic_cast<const OS_Window*>(node);
+    if (window) return const_cast<OS_Window*>(window);
+  }
+  return nullptr;
 }
 
 bool UI_Node::UI_IsAncestorOf(const UI_Node& inNode) const {
@@ -232,7 +233,7 @@ void UI_Node::UI_InvalidateAll() {
 
 void UI_Node::UI_UpdateNow(lumcore::utility::Flags<unsigned int>) {
   QWidget* const widget = mPeer->GetWidget();
-  if (!widget || !widget->isVisible()) return;
+  if (!widget || !widget->isVisible() || EventGate::Get()->IsPainting()) return;
   // What is waiting stands as one event of the window, the whole window's.
   QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
 }
@@ -246,7 +247,7 @@ void UI_Node::UI_LocalToGlobal(lumcore::geom::PointT<int>& ioPoint) const {
     ioPoint = lumcore::geom::PointT<int>(point.x(), point.y());
     return;
   }
-  for (const UI_Node* node = this; node->mParent; node = node->mParent) {
+  for (const UI_Node* node = this; node->mParent && node != window; node = node->mParent) {
     ioPoint.x += Rounded(node->mLocalRect.x);
     ioPoint.y += Rounded(node->mLocalRect.y);
   }
