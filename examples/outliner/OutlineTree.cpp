@@ -140,6 +140,22 @@ OutlineTree::Rows OutlineTree::RemoveRows(OutlineRow& inParent, std::size_t inIn
   return rows;
 }
 
+void OutlineTree::MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount,
+                                 std::size_t inNewIndex) {
+  const auto at = [&](std::size_t inPlace) {
+    return inParent.mChildren.begin() + static_cast<std::ptrdiff_t>(inPlace);
+  };
+  if (inNewIndex < inIndex) {
+    std::rotate(at(inNewIndex), at(inIndex), at(inIndex + inCount));
+  } else {
+    std::rotate(at(inIndex), at(inIndex + inCount), at(inNewIndex + inCount));
+  }
+  const std::size_t end = std::max(inIndex, inNewIndex) + inCount;
+  for (std::size_t index = std::min(inIndex, inNewIndex); index < end; ++index)
+    inParent.mChildren[index]->mIndex = static_cast<std::uint32_t>(index);
+  mLinesKnown = false;
+}
+
 void OutlineTree::SetInTree(OutlineRow& inRow, bool inPresent) {
   VisitRows(inRow, [&](OutlineRow& inBelow) {
     mRowsById[inBelow.GetId()] = inPresent ? &inBelow : nullptr;
