@@ -3,6 +3,7 @@
 
 #include "EditScript.h"
 
+#include <algorithm>
 #include <optional>
 #include <ostream>
 #include <sstream>

@@ -73,6 +73,7 @@ OutlineRow* OutlineTree::FindRow(OutlineRow::Id inId) const {
 const std::vector<OutlineRow*>& OutlineTree::GetLines() const {
   if (!mLinesKnown) {
     mLines.clear();
+    mLines.reserve(mRowsById.size());
     VisitRows(*mRoot, [this](OutlineRow& inRow) {
       if (&inRow == mRoot.get()) return;
       inRow.mLine = static_cast<std::uint32_t>(mLines.size());
@@ -278,12 +279,16 @@ void OutlineTree::AdoptLayout() {
     const TextPool::Id trailing = inRow.mChildren.empty() ? kNothing : atDepth(inDepth);
     if (inRow.mTrailing == trailing) inRow.mTrailing = kByLayout;
   };
+  // What grew row by row holds up to twice what it needs.
+  mRowsById.shrink_to_fit();
+  mRoot->mChildren.shrink_to_fit();
   adopt(*mRoot, 0);
   std::vector<std::size_t> depths;
   depths.reserve(GetLines().size());
   for (OutlineRow* row : GetLines()) {
     depths.push_back(row->mParent == mRoot.get() ? 1 : depths[row->mParent->mLine] + 1);
     adopt(*row, depths.back());
+    row->mChildren.shrink_to_fit();
   }
 }
 

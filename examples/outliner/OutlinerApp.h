@@ -6,6 +6,7 @@
 #include <boost/intrusive_ptr.hpp>
 #include <exception>
 #include <functional>
+#include <memory>
 
 #include "OutlineWindow.h"
 #include "vek/uisupport/CommandHandler.h"

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "OutlineRow.h"
 #include "TextEdit.h"

@@ -1,15 +1,16 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include <cstring>
 #include <exception>
 #include <iostream>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "EditScript.h"
 #include "OutlinerApp.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/Application.h"
 
 namespace {
@@ -21,9 +22,14 @@ constexpr int kExitFailure = 1;
 constexpr int kExitUsage = 2;
 
 constexpr const char* kUsage =
+    "$$$/outliner/Main/Usage="
     "outliner FILE                   edit an outline\n"
     "outliner --new FILE             begin one; FILE is written when it is saved\n"
     "outliner --script SCRIPT FILE   replay keys and clicks on it, without a display\n";
+
+lumcore::UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+}
 
 struct Options {
   std::string file;
@@ -50,7 +56,11 @@ bool ReadOptions(int inCount, char** inArguments, Options& outOptions) {
 std::unique_ptr<OutlineDocument> OpenDocument(const Options& inOptions) {
   const File file(inOptions.file);
   if (!inOptions.isNew) return OutlineDocument::Open(file);
-  if (file.Exists()) throw std::runtime_error(inOptions.file + ": the file is there already");
+  if (file.Exists()) {
+    throw lumcore::config::Error(lumcore::utility::ReplaceInString(
+        Localized("$$$/outliner/Main/FileExists=@0: the file is there already"),
+        {lumcore::utility::ToUTF16(inOptions.file)}));
+  }
   return std::make_unique<OutlineDocument>(std::make_unique<outliner::OutlineTree>(), file);
 }
 
@@ -58,7 +68,10 @@ int RunScript(outliner::OutlinerApp& ioApp, const Options& inOptions) {
   outliner::OutlineWindow& window = ioApp.Show(OpenDocument(inOptions));
   outliner::EditScript(window, std::cout).Run(File(inOptions.script));
   if (window.GetDocument().IsDirty()) {
-    std::cout << window.GetDocument().GetFile().GetPath() << " has changes that are not saved\n";
+    const auto text = lumcore::utility::ReplaceInString(
+        Localized("$$$/outliner/Main/NotSaved=@0 has changes that are not saved"),
+        {lumcore::utility::ToUTF16(window.GetDocument().GetFile().GetPath())});
+    std::cout << lumcore::utility::ToStdString(text) << "\n";
   }
   return 0;
 }
@@ -66,7 +79,9 @@ int RunScript(outliner::OutlinerApp& ioApp, const Options& inOptions) {
 int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
               const Options& inOptions) {
   if (ioApplication.IsHeadless()) {
-    throw std::runtime_error("there is no display to show a window on; --script needs none");
+    throw lumcore::config::Error(
+        Localized("$$$/outliner/Main/NoDisplay=there is no display to show a window on; --script "
+                  "needs none"));
   }
   ioApp.Show(OpenDocument(inOptions));
   ioApplication.SetErrorFunction(
@@ -80,7 +95,7 @@ int Run(int inCount, char** inArguments) {
   lumui::ui::Application application(inCount, inArguments);
   Options options;
   if (!ReadOptions(inCount, inArguments, options)) {
-    std::cerr << kUsage;
+    std::cerr << lumcore::utility::ToStdString(Localized(kUsage));
     return kExitUsage;
   }
   outliner::OutlinerApp app([&application] { application.Quit(); });
