@@ -4,5 +4,4 @@ vek_test(outliner_tests
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
     hosts/OutlineText.cpp
-    hosts/TempFolder.cpp
   LIBRARIES outliner_core)

@@ -55,7 +55,7 @@ bool StartsWith(TextView inText, TextView inStart) {
 
 OutlineTree::OutlineTree() {
   mMarkup.Intern(Text("by layout"));  // holds number 0, and is never looked at
-  mMarkup.Intern({});
+  mMarkup.Intern(UTF16String());
   mRoot.reset(new OutlineRow(0));
   mRowsById.push_back(mRoot.get());
   mEnvelope.before = Text(
