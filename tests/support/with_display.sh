@@ -26,6 +26,8 @@ until [ -s "$folder/display" ]; do
 done
 DISPLAY=":$(cat "$folder/display")"
 export DISPLAY
+# No message bus: the program would start one and leave it running.
+export DBUS_SESSION_BUS_ADDRESS=disabled:
 setxkbmap us
 
 openbox >"$folder/manager.log" 2>&1 &
