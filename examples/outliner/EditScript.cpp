@@ -30,10 +30,9 @@ namespace {
       lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {ToUTF16(inArgument)}));
 }
 
-std::string_view Trimmed(std::string_view inText) {
-  while (!inText.empty() && (inText.back() == '\r' || inText.back() == ' '))
-    inText.remove_suffix(1);
-  return inText;
+std::string_view WithoutLineEnd(std::string_view inLine) {
+  if (!inLine.empty() && inLine.back() == '\r') inLine.remove_suffix(1);
+  return inLine;
 }
 
 // All of a step's words; every one of them must be used.
@@ -133,7 +132,7 @@ void EditScript::Run(const lumcore::filesupport::File& inScript) {
   for (std::string line; std::getline(lines, line);) {
     ++number;
     try {
-      RunLine(Trimmed(line));
+      RunLine(WithoutLineEnd(line));
     } catch (const std::exception& error) {
       throw lumcore::config::Error(
           ToUTF16(inScript.GetPath() + ":" + std::to_string(number) + ": " + error.what()));

@@ -60,7 +60,7 @@ OutlineTree::OutlineTree() {
   mRowsById.push_back(mRoot.get());
   mEnvelope.before = Text(
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<opml version=\"2.0\">\n  <head>\n"
-      "    <title></title>\n  </head>\n  <body");
+      "    <title/>\n  </head>\n  <body");
   mEnvelope.after = Text("\n</opml>\n");
   mEnvelope.encoding = "UTF-8";
   FindLayout();

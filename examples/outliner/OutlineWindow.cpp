@@ -81,6 +81,7 @@ void OutlineWindow::BuildNodes() {
   using Flags = lumcore::utility::Flags<unsigned int>;
   mScrollView.reset(new lumui::controls::UI_ScrollView(
       Flags(lumui::controls::UI_ScrollView::kNoHorizontalBar), mView));
+  mScrollView->UI_SetNodeID("rows");
   mStatusLine.reset(new StatusLine);
   mView->SetScrollView(mScrollView.get());
   UI_AddChild(mTitleStrip);

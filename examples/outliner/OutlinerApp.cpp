@@ -6,35 +6,26 @@
 #include <utility>
 
 #include "OutlinerCommands.h"
-#include "lumcore/config/Localizer.h"
-#include "lumcore/utility/StringUtils.h"
-#include "lumui/dialogs/MessageDialog.h"
+#include "lumcore/config/ThrowError.h"
+#include "vek/uisupport/MainWindowLookup.h"
+#include "vek/uisupport/ReportError.h"
 
 namespace outliner {
 
 using lumcore::UTF16String;
 
-namespace {
-
-UTF16String TextOf(const std::exception_ptr& inError) {
-  try {
-    std::rethrow_exception(inError);
-  } catch (const std::exception& error) {
-    return lumcore::utility::ToUTF16(error.what());
-  } catch (...) {
-    // Whatever it is, the user must hear that something went wrong.
-    return lumcore::config::Localizer::Get()->GetLocalizedString(
-        "$$$/outliner/Error/Unknown=An unknown error has occurred.");
-  }
-}
-
-}  // namespace
-
 OutlinerApp::OutlinerApp(std::function<void()> inQuit) : mQuit(std::move(inQuit)) {
   SetDefaultCommandHandler(this);
+  vek::uisupport::SetMainWindowLookup([this] { return FindOpenWindow(); });
 }
 
-OutlinerApp::~OutlinerApp() = default;
+OutlinerApp::~OutlinerApp() {
+  vek::uisupport::SetMainWindowLookup({});
+}
+
+OutlineWindow* OutlinerApp::FindOpenWindow() const {
+  return mWindow && mWindow->UI_GetHandle() ? mWindow.get() : nullptr;
+}
 
 OutlineWindow& OutlinerApp::Show(std::unique_ptr<OutlineDocument> inDocument) {
   mWindow.reset(new OutlineWindow(std::move(inDocument), this));
@@ -46,18 +37,21 @@ OutlineWindow& OutlinerApp::Show(std::unique_ptr<OutlineDocument> inDocument) {
 }
 
 void OutlinerApp::ShowError(const std::exception_ptr& inError) {
-  lumui::dialogs::MessageDialogArgs args;
-  args.title =
-      lumcore::config::Localizer::Get()->GetLocalizedString("$$$/outliner/Error/Title=outliner");
-  args.text = TextOf(inError);
-  args.icon = lumui::dialogs::MessageIcon::kError;
-  args.owner = mWindow && mWindow->UI_GetHandle() ? mWindow.get() : nullptr;
-  lumui::dialogs::RunMessageDialog(args);
+  try {
+    std::rethrow_exception(inError);
+  } catch (const lumcore::config::Error& error) {
+    vek::uisupport::ReportError(error.GetText(), 0, false);
+  } catch (const std::exception& error) {
+    vek::uisupport::ReportError(error, false);
+  } catch (...) {
+    // Whatever it is, the user must hear that something went wrong.
+    vek::uisupport::ReportError(false);
+  }
 }
 
 bool OutlinerApp::DoHandleCommand(int inCommand) {
   if (inCommand != kCommandQuit) return false;
-  if (!mWindow || !mWindow->UI_GetHandle()) {
+  if (!FindOpenWindow()) {
     mQuit();
   } else if (mWindow->MayClose()) {
     mWindow->UI_DoClose();

@@ -33,6 +33,8 @@ class OutlinerApp final : public vek::uisupport::CommandHandler {
                         lumcore::UTF16String& ioTitle) override;
 
  private:
+  OutlineWindow* FindOpenWindow() const;  // null when there is none, or it has closed
+
   std::function<void()> mQuit;
   boost::intrusive_ptr<OutlineWindow> mWindow;
 };
