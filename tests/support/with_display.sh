@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 #
 # with_display.sh PROGRAM ARGUMENTS...: runs the program on an X server of its own that shows nothing,
-# with a window manager, and ends both when the program ends. Needs Xvfb, openbox, xprop, setxkbmap.
+# with a window manager, and ends both when the program ends. Needs Xvfb, openbox, setxkbmap.
 set -eu
 
 folder=$(mktemp -d)
@@ -30,9 +30,11 @@ export DISPLAY
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 setxkbmap us
 
-openbox >"$folder/manager.log" 2>&1 &
+# Its own word that it is ready: what it announces on the root window comes before it looks after
+# windows, and one that is shown in between never gets the keyboard.
+openbox --startup "touch $folder/ready" >"$folder/manager.log" 2>&1 &
 manager=$!
-until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q '#'; do
+until [ -e "$folder/ready" ]; do
   kill -0 "$manager" 2>/dev/null || { cat "$folder/manager.log" >&2; exit 1; }
   sleep 0.02
 done
