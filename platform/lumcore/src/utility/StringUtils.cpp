@@ -7,11 +7,14 @@
 #include <unicode/ustring.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 #include <vector>
 
 #include "lumcore/config/ThrowError.h"
+#include "utility/AppendUTF16.h"
 
 namespace lumcore::utility {
 
@@ -67,21 +70,46 @@ UTF16String MapCase(const UTF16String& inText, Map inMap) {
   return result;
 }
 
+// How many bytes at the front are ASCII, in whole machine words as far as there are any.
+std::size_t CountASCII(std::string_view inBytes) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+  std::size_t at = 0;
+  for (std::uint64_t word; at + sizeof word <= inBytes.size(); at += sizeof word) {
+    std::memcpy(&word, inBytes.data() + at, sizeof word);
+    if (word & kHighBits) break;
+  }
+  while (at < inBytes.size() && static_cast<unsigned char>(inBytes[at]) < 0x80)
+    ++at;
+  return at;
+}
+
 bool IsDigit(unsigned short inUnit) {
   return inUnit >= '0' && inUnit <= '9';
 }
 
 }  // namespace
 
-UTF16String ToUTF16(std::string_view inUTF8) {
+void AppendUTF16(std::string_view inUTF8, UTF16String& ioText) {
+  const std::size_t before = ioText.size();
   const int32_t length = CheckedLength(inUTF8.size());
   // One UTF-16 unit is the most that one byte comes to.
-  UTF16String result(inUTF8.size(), 0);
+  ioText.resize(before + inUTF8.size());
+  unsigned short* const text = ioText.data() + before;
+  // Most text is ASCII, and for that ICU's general road is long.
+  const std::size_t plain = CountASCII(inUTF8);
+  std::copy_n(inUTF8.data(), plain, text);
+  if (plain == inUTF8.size()) return;
   int32_t written = 0;
   UErrorCode status = U_ZERO_ERROR;
-  u_strFromUTF8WithSub(AsICU(result), length, &written, inUTF8.data(), length,
-                       kReplacementCharacter, nullptr, &status);
-  result.resize(static_cast<std::size_t>(written));
+  const auto rest = length - static_cast<int32_t>(plain);
+  u_strFromUTF8WithSub(reinterpret_cast<UChar*>(text + plain), rest, &written,
+                       inUTF8.data() + plain, rest, kReplacementCharacter, nullptr, &status);
+  ioText.resize(before + plain + static_cast<std::size_t>(written));
+}
+
+UTF16String ToUTF16(std::string_view inUTF8) {
+  UTF16String result;
+  AppendUTF16(inUTF8, result);
   return result;
 }
 

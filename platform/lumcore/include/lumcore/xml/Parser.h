@@ -17,7 +17,11 @@
 
 namespace lumcore::xml {
 
-// The attributes of one element, in the order of the document. Names are qualified names as written.
+class EventSource;
+
+// The attributes of one element, in the order of the document. Names are qualified names as
+// written. What a handler is given is filled anew for the next element: keep a copy, not a
+// reference.
 class LUMCORE_API Attributes {
  public:
   using Entry = std::pair<UTF16String, UTF16String>;
@@ -29,17 +33,24 @@ class LUMCORE_API Attributes {
   const UTF16String* Find(const UTF16String& inName) const;
   const UTF16String* Find(const char* inName) const;  // UTF-8
 
-  std::vector<Entry>::const_iterator begin() const { return mEntries.begin(); }
-  std::vector<Entry>::const_iterator end() const { return mEntries.end(); }
-  std::size_t size() const { return mEntries.size(); }
-  bool empty() const { return mEntries.empty(); }
+  using const_iterator = std::vector<Entry>::const_iterator;
+  const_iterator begin() const { return mEntries.begin(); }
+  const_iterator end() const { return mEntries.begin() + static_cast<std::ptrdiff_t>(mCount); }
+  std::size_t size() const { return mCount; }
+  bool empty() const { return mCount == 0; }
 
  private:
+  friend class EventSource;
+
+  // Entries behind the count wait to be filled again, so that a document of many elements does not
+  // ask for new memory for each.
   std::vector<Entry> mEntries;
+  std::size_t mCount;
 };
 
-// Receives a document as events, in document order. One text may come in several pieces. An exception
-// that a handler throws ends the parse and reaches the caller of Parse.
+// Receives a document as events, in document order. One text may come in several pieces. An
+// exception that a handler throws ends the parse and reaches the caller of Parse. A handler may
+// parse another document during an event, with this parser or another one.
 class LUMCORE_API AbstractParseHandler {
  public:
   AbstractParseHandler();
@@ -60,8 +71,19 @@ class LUMCORE_API AbstractParseHandler {
   // inStandalone is -1 where it is not given, else 0 or 1.
   virtual void Declaration(const UTF16String& inVersion, const UTF16String& inEncoding,
                            int inStandalone);
-  // The document type declaration as it stands in the file, from "<!DOCTYPE" to its ">".
+  // The document type declaration as it stands in the file, from "<!DOCTYPE" to its ">". The
+  // comments and instructions within are part of it and are no events of their own.
   virtual void DocumentType(const UTF16String& inText);
+
+ protected:
+  // For a document that is well-formed and still wrong: throws a ParseError with the place of the
+  // event that is being handled. To be called during an event only.
+  [[noreturn]] void ThrowParseError(const UTF16String& inCause) const;
+
+ private:
+  friend class EventSource;
+
+  const EventSource* mSource = nullptr;  // set during a parse
 };
 
 // A document that cannot be read. The text is "path:line:column: cause".
@@ -83,8 +105,11 @@ class LUMCORE_API ParseError : public config::Error {
   UTF16String mCause;
 };
 
-// Reads well-formed XML 1.0 in any encoding that ICU has a converter for. Internal entities and
-// inline document types are read; external entities never are, whatever they name.
+// Reads well-formed XML 1.0 in any encoding that ICU has a converter for. A byte order mark, or
+// zeros between the first characters, decide over what the declaration names. Internal entities and
+// inline document types are read; external ones never are, whatever they name: a document type that
+// stands elsewhere is passed over, and a reference to an entity that is declared elsewhere, or
+// nowhere, is a ParseError, as its text would be lost.
 class LUMCORE_API Parser {
  public:
   virtual ~Parser();

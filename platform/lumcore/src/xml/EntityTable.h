@@ -1,0 +1,37 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+namespace lumcore::xml {
+
+// The entities that a document declares, as far as the parser itself leaves them to its caller.
+//
+// Two of its habits would hurt. In a document whose type stands elsewhere, a reference to an
+// unknown entity within an attribute is dropped without a word, so the text would be lost. And
+// entities that refer to each other are followed by recursion, so a long enough chain would end the
+// stack.
+class EntityTable {
+ public:
+  // inValue is null for an entity of another file. False when more entities refer to others than
+  // any sensible document has.
+  bool Declare(std::string_view inName, const std::string_view* inValue, bool inIsParameter);
+
+  // The first general entity that inSource refers to, directly or through another, and that nobody
+  // has declared; empty where there is none.
+  std::string FindUndeclared(std::string_view inSource) const;
+
+ private:
+  std::string FindUndeclared(std::string_view inSource, std::set<std::string>& ioSeen) const;
+
+  std::map<std::string, std::string, std::less<>> mValues;
+  std::size_t mReferring = 0;
+};
+
+}  // namespace lumcore::xml
