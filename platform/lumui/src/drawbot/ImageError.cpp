@@ -19,21 +19,28 @@ namespace {
   throw lumcore::config::Error(lumcore::utility::ReplaceInString(text, inArguments));
 }
 
+// The text around a cause ends the sentence, and some of the toolkit's causes do so themselves.
+lumcore::UTF16String ToCause(QString inCause) {
+  while (inCause.endsWith(u'.'))
+    inCause.chop(1);
+  return FromQt(inCause);
+}
+
 }  // namespace
 
 void ThrowCannotRead(std::string_view inName, const QString& inCause) {
   Throw("$$$/lumui/drawbot/Image/CannotRead=The image \"@0\" cannot be read: @1.",
-        {lumcore::utility::ToUTF16(inName), FromQt(inCause)});
+        {lumcore::utility::ToUTF16(inName), ToCause(inCause)});
 }
 
 void ThrowDamaged(std::string_view inName, const QString& inCause) {
   Throw("$$$/lumui/drawbot/Image/Damaged=The image \"@0\" is damaged: @1.",
-        {lumcore::utility::ToUTF16(inName), FromQt(inCause)});
+        {lumcore::utility::ToUTF16(inName), ToCause(inCause)});
 }
 
 void ThrowCannotWrite(std::string_view inName, const QString& inCause) {
   Throw("$$$/lumui/drawbot/Image/CannotWrite=The image \"@0\" cannot be written: @1.",
-        {lumcore::utility::ToUTF16(inName), FromQt(inCause)});
+        {lumcore::utility::ToUTF16(inName), ToCause(inCause)});
 }
 
 void ThrowBadSize(std::string_view inName, double inWidth, double inHeight) {

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QTextLayout>
+#include <limits>
 
 #include "drawbot/QtConvert.h"
 #include "lumcore/debug/Contract.h"
@@ -46,7 +47,9 @@ std::unique_ptr<PreparedText> Prepare(const QString& inText, const QFont& inFont
   QTextLayout layout(inText, inFont);
   layout.setTextOption(option);
   layout.beginLayout();
-  prepared->ascent = layout.createLine().ascent();
+  QTextLine line = layout.createLine();
+  line.setLineWidth(std::numeric_limits<int>::max());  // a line has no ascent before it has a width
+  prepared->ascent = line.ascent();
   layout.endLayout();
 
   prepared->text.setTextFormat(Qt::PlainText);
