@@ -1,0 +1,4 @@
+vek_test(vek_keys_tests
+  SOURCES
+    uisupport/CommandRegistryTest.cpp
+  LIBRARIES vek)
