@@ -8,6 +8,9 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/vekConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/vekConfig.cmake ${PROJECT_BINARY_DIR}/vekConfigVersion.cmake
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/vek)
 install(EXPORT vekTargets NAMESPACE vek:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/vek)
-install(DIRECTORY platform/lumcore/include/ platform/lumui/include/
+install(
+  DIRECTORY
+    platform/lumcore/include/ platform/lumui/include/
+    platform/lumworkspace/include/ platform/lumscripting/include/
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY vek DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")

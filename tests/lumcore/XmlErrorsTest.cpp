@@ -65,11 +65,17 @@ TEST(XmlErrors, NoTextIsLostToAnEntityThatIsNotRead) {
        "doc.xml:2:1: the entity \"late\" is not declared in this file"},
       {"<!DOCTYPE a SYSTEM 'a.dtd' [<!ENTITY e '<b c=\"&u;\"/>'>]>\n<a>&e;</a>",
        "doc.xml:2:4: the entity \"u\" is not declared in this file"},
+      {"<!DOCTYPE a SYSTEM 'a.dtd' [<!ATTLIST a b CDATA 'x&u;'>]><a/>",
+       "doc.xml:1:57: the entity \"u\" is not declared in this file"},
       {"<!DOCTYPE a [<!ENTITY e SYSTEM '/etc/hostname'>]>\n<a>&e;</a>",
        "doc.xml:2:4: the entity \"e\" stands in another file, and other files are not read"},
       {"<!DOCTYPE a [<!ENTITY e SYSTEM '/etc/hostname'>]>\n<a b='&e;'/>",
        "doc.xml:2:7: reference to external entity in attribute"},
   });
+  // What only looks like a reference is none.
+  const std::string entity =
+      "<!DOCTYPE a SYSTEM 'a.dtd' [<!ENTITY % p \"<!ATTLIST a b CDATA 'x'>\">%p;]>";
+  EXPECT_EQ(Events(entity + "<a><![CDATA[&u;%]]></a>"), "{" + entity + "}<a b='x'>[(&u;%)]</a>");
   EXPECT_EQ(Events(outside + "<a b='&lt;&#38;'>&gt;</a>"), "{" + outside + "}<a b='<&'>(>)</a>");
 }
 

@@ -11,6 +11,7 @@
 
 #include "lumcore/config/Localizer.h"
 #include "support/KeyFiles.h"
+#include "support/TemporaryFolder.h"
 #include "vek/uisupport/SyntheticCmdMgr.h"
 
 namespace {
@@ -174,7 +175,7 @@ TEST_F(CommandRegistryTest, WithoutIdsAllCommandsShareNoneOrReserveTheirOwn) {
 }
 
 TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
-  const ScratchFolder scratch;
+  const TemporaryFolder folder;
   const std::string good = "<cmdreg><cmd id='1'><name>A</name></cmd>";
   const struct {
     std::string bytes;
@@ -189,7 +190,8 @@ TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
   };
   for (const auto& row : rows) {
     Register(8, "Before");
-    const auto file = scratch.Write("commands.xml", row.bytes);
+    const auto file = folder.GetFile("commands.xml");
+    file.ReplaceContents(row.bytes);
     EXPECT_EQ(WordsOf([&] { Registry().LoadFromFile(file, false); }), file.GetPath() + row.words);
     EXPECT_EQ(Commands() + Ids({"A", "Before"}), "A=0 Before=0 ") << row.bytes;
   }
@@ -200,19 +202,20 @@ TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
   EXPECT_EQ(Commands() + Ids({"A", "Before"}), "A=0 Before=0 ");
 
   Register(8, "Before");
-  const lumcore::filesupport::File folder(scratch.GetDir().GetPath());
-  EXPECT_NE(WordsOf([&] { Registry().LoadFromFile(folder, false); }).find(folder.GetPath()),
+  const lumcore::filesupport::File self(folder.GetDir().GetPath());
+  EXPECT_NE(WordsOf([&] { Registry().LoadFromFile(self, false); }).find(self.GetPath()),
             std::string::npos);
   EXPECT_EQ(Commands(), "");
 }
 
 TEST_F(CommandRegistryTest, ALoadReplacesAndAMissingFileEmpties) {
-  const ScratchFolder scratch;
-  const auto file = scratch.Write("c.xml", "<any><cmd id='2'><name>B</name></cmd></any>");
+  const TemporaryFolder folder;
+  const auto file = folder.GetFile("c.xml");
+  file.ReplaceContents("<any><cmd id='2'><name>B</name></cmd></any>");
   Register(8, "Before");
   Registry().LoadFromFile(file, false);
   EXPECT_EQ(Commands() + " " + Ids({"B", "Before"}), "2 B|| B=2 Before=0 ");
-  Registry().LoadFromFile(scratch.Name("none.xml"), false);
+  Registry().LoadFromFile(folder.GetFile("none.xml"), false);
   EXPECT_EQ(Commands() + Ids({"B"}), "B=0 ");
 }
 

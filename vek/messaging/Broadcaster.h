@@ -95,6 +95,7 @@ void Broadcaster<T>::AddListener(Listener<T>* inListener) {
 
 template <class T>
 void Broadcaster<T>::RemoveListener(Listener<T>* inListener) {
+  LUM_INPUT_CONTRACT(inListener != nullptr);
   if (mDeliveryDepth == 0) {
     mListeners.remove(inListener);
     inListener->mBroadcasters.remove(this);

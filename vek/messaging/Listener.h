@@ -20,9 +20,10 @@ class Listener {
  public:
   Listener() = default;
   virtual ~Listener() {
-    StopWaiting();
     while (!mBroadcasters.empty())
       mBroadcasters.front()->RemoveListener(this);
+    // Last, since leaving in the middle of the own call is what makes a listener wait.
+    StopWaiting();
   }
   Listener(const Listener&) = delete;
   Listener& operator=(const Listener&) = delete;

@@ -17,10 +17,10 @@ class Junction;
 class Node;
 class RestorerFactory;
 
-// Only the value 1 deselects others.
-enum DeselectOthersEnum { eKeepOthers = 0, eDeselectOthers = 1 };
+// Both are ints at heart, so that a host's own value is well defined. Only 1 deselects others.
+enum DeselectOthersEnum : int { eKeepOthers = 0, eDeselectOthers = 1 };
 // Any value but 0 suppresses.
-enum SuppressMessagesEnum { eSendMessages = 0, eSuppressMessages = 1 };
+enum SuppressMessagesEnum : int { eSendMessages = 0, eSuppressMessages = 1 };
 
 // The selected nodes of one junction. A whole change is one toggle with one message that lists the
 // nodes affected, sent on this manager's broadcaster and then on the process-wide one. The set

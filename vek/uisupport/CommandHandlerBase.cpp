@@ -3,6 +3,7 @@
 
 #include "vek/uisupport/CommandHandlerBase.h"
 
+#include <memory>
 #include <utility>
 
 #include "vek/utility/CallbackList.h"
@@ -23,8 +24,9 @@ struct ChainEnds {
   CommandHandlerBase* mDefault = nullptr;
 };
 
-HandlerChangeCallbacks& GetCallbacks() {
-  static HandlerChangeCallbacks sCallbacks;
+// Destroyed at the end of the process, which clears the functions that are still held.
+std::unique_ptr<HandlerChangeCallbacks>& GetCallbacks() {
+  static auto sCallbacks = std::make_unique<HandlerChangeCallbacks>();
   return sCallbacks;
 }
 
@@ -104,12 +106,17 @@ bool CommandHandlerBase::IsCurrentCommandHandler() const {
 
 void CommandHandlerBase::NotifyWhenCurrHandlerChanges(
     boost::shared_ptr<HandlerChangeFunction> inCallback) {
-  GetCallbacks().Add(std::move(inCallback));
+  GetCallbacks()->Add(std::move(inCallback));
 }
 
 // Each callback hears of the handler that is current when its turn comes.
 void CommandHandlerBase::NotifyCurrHandlerChanged() {
-  GetCallbacks().CallEach([] { return ChainEnds::Get().mCurrent; });
+  GetCallbacks()->CallEach([] { return ChainEnds::Get().mCurrent; });
+}
+
+void CommandHandlerBase::ResetCommandChain() {
+  ChainEnds::Get() = ChainEnds();
+  GetCallbacks() = std::make_unique<HandlerChangeCallbacks>();
 }
 
 void CommandHandlerBase::DoSetAsCurrentCommandHandler() {

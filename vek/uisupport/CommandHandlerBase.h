@@ -32,7 +32,7 @@ class VEK_API CommandHandlerBase {
   // True when somebody took the command. What a handler throws reaches the caller.
   static bool CallCommandChain(int inCommand);
   // True when somebody answered for the command; else the three mean nothing. The caller passes
-  // false, false and no text. outTitle replaces the text of the menu item where it is not empty.
+  // false, false and no text. ioTitle replaces the text of the menu item where it is not empty.
   static bool CallEnablementChain(int inCommand, bool& ioEnabled, bool& ioChecked,
                                   lumcore::UTF16String& ioTitle);
   // A held key has been released.
@@ -55,6 +55,9 @@ class VEK_API CommandHandlerBase {
   // Called with the new current handler, which may be null. There is no removal: a subscriber
   // clears the function that it holds.
   static void NotifyWhenCurrHandlerChanges(boost::shared_ptr<HandlerChangeFunction> inCallback);
+
+  // No current and no default handler and no callbacks, as at start; nobody is told. For tests.
+  static void ResetCommandChain();
 
   // A name that key maps may bind keys to. Empty for none.
   const lumcore::UTF8String& GetCommandContext() { return DoGetCommandContext(); }

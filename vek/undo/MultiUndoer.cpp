@@ -34,16 +34,18 @@ MultiUndoer::~MultiUndoer() {
 void MultiUndoer::PostDeed(std::auto_ptr<Deed> inDeed) {
   LUM_INPUT_CONTRACT(inDeed.get() != nullptr);
   const StKeepAlive alive(*this);
-  Deed* const deed = inDeed.get();
+  // A parameter outlives the body: taken over here, the deed dies before the undoer does.
+  std::auto_ptr<Deed> owned(inDeed);
+  Deed* const deed = owned.get();
   mDeedNotifier.BroadcastMessage(deed);
   CallHook(&MultiUndoerHooks::WillPostDeed, deed);
   try {
     RedoOne(deed);
     deed->RestoreAfterSelection();
     if (deed->IsUndoable()) {
-      Keep(inDeed);
+      Keep(owned);
     } else {
-      TrimTo(0, inDeed, nullptr);
+      TrimTo(0, owned, nullptr);
       // A deed that only clears the stack has not changed the data, so the state keeps its number.
       if (!dynamic_cast<ClearUndoStackDeed*>(deed)) mFloorSerial = ++mLastSerial;
     }
@@ -60,11 +62,13 @@ void MultiUndoer::PostDeed(std::auto_ptr<Deed> inDeed) {
 // caller, who still has to show it to the hooks.
 void MultiUndoer::Keep(std::auto_ptr<Deed>& ioDeed) {
   Deed* const deed = ioDeed.get();
+  Stack node(1, deed);  // first, so that where memory runs out nothing is half entered
   DiscardRedoTail();
-  mSerials[deed] = ++mLastSerial;
-  mStack.push_back(deed);
+  mSerials[deed] = mLastSerial + 1;
+  ++mLastSerial;
+  mStack.splice(mStack.end(), node);
   ioDeed.release();
-  TrimTo(mLevelLimit - 1, ioDeed, deed);
+  TrimTo(std::max(mLevelLimit, 1) - 1, ioDeed, deed);
 }
 
 void MultiUndoer::Undo() {
@@ -187,7 +191,7 @@ void MultiUndoer::RedoOne(Deed* inDeed) {
 
 // Viability takes effect here and nowhere else: the walk goes back as far as the count allows, and
 // the deed where it stops leaves with everything older. The count comes first, so that a deed
-// beyond the limit is not asked; it is signed, so that a limit of 1 or less keeps nothing.
+// beyond the limit is not asked; it is signed, and 0 keeps nothing.
 void MultiUndoer::TrimTo(int inDeeds, std::auto_ptr<Deed>& outSpared, const Deed* inSpare) {
   int count = 1;
   auto cut = mStack.rbegin();

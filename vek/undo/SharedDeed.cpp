@@ -11,6 +11,7 @@ namespace vek::undo {
 
 namespace {
 
+// Each argument of the base class checks for itself, since nothing says which is made first.
 const Deed& Checked(const boost::shared_ptr<Deed>& inWrapped) {
   LUM_INPUT_CONTRACT(inWrapped.get() != nullptr);
   return *inWrapped;
@@ -19,7 +20,7 @@ const Deed& Checked(const boost::shared_ptr<Deed>& inWrapped) {
 }  // namespace
 
 SharedDeed::SharedDeed(boost::shared_ptr<Deed> inWrapped)
-    : Deed(Checked(inWrapped).IsUndoable(), inWrapped->IsDone(), lumcore::UTF16String()),
+    : Deed(Checked(inWrapped).IsUndoable(), Checked(inWrapped).IsDone(), lumcore::UTF16String()),
       mWrapped(std::move(inWrapped)) {}
 
 SharedDeed::~SharedDeed() = default;

@@ -48,7 +48,7 @@ UTF8String File::ReadAll() const {
   system::Handle handle(system::OpenForReading(mPath), mPath);
   // The size is a hint: a file may grow while it is read, and some report none.
   constexpr std::size_t kLeastRoom = 4096;
-  UTF8String content(static_cast<std::size_t>(GetSize()) + 1, 0);
+  UTF8String content(static_cast<std::size_t>(handle.GetSizeHint()) + 1, 0);
   std::size_t length = 0;
   while (const std::size_t count =
              handle.ReadSome(content.data() + length, content.size() - length)) {

@@ -3,6 +3,7 @@
 
 #include "lumcore/filesupport/FileError.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -15,9 +16,14 @@ namespace lumcore::filesupport {
 
 namespace {
 
+constexpr UTF16String::value_type kReplacementCharacter = 0xFFFD;
+
 UTF16String Text(const char* inKey, const std::string& inPath, const std::string& inCause) {
+  UTF16String path = utility::ToUTF16(inPath);
+  // A zero would end the text where it is read as what().
+  std::replace(path.begin(), path.end(), UTF16String::value_type(0), kReplacementCharacter);
   return utility::ReplaceInString(config::Localizer::Get()->GetLocalizedString(inKey),
-                                  {utility::ToUTF16(inPath), utility::ToUTF16(inCause)});
+                                  {path, utility::ToUTF16(inCause)});
 }
 
 }  // namespace

@@ -29,6 +29,8 @@ class Handle {
   // either way.
   void Close();
 
+  // 0 where the system does not know; the file may have grown by the next call.
+  std::uint64_t GetSizeHint() const;
   bool IsOpen() const { return mNumber != -1; }
   const std::string& GetPath() const { return mPath; }
 

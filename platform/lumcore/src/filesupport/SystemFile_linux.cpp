@@ -213,6 +213,12 @@ void Handle::Close() {
   if (::close(number) != 0 && errno != EINTR) ThrowSystemError(kWriteKey, mPath, errno);
 }
 
+std::uint64_t Handle::GetSizeHint() const {
+  struct stat status = {};
+  if (::fstat(static_cast<int>(mNumber), &status) != 0 || !S_ISREG(status.st_mode)) return 0;
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
 std::intptr_t OpenForReading(const std::string& inPath) {
   return Open(kOpenKey, inPath, O_RDONLY);
 }

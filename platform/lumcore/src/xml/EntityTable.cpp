@@ -43,20 +43,15 @@ bool EntityTable::Declare(std::string_view inName, const std::string_view* inVal
   return true;
 }
 
-std::string EntityTable::FindUndeclared(std::string_view inSource) const {
-  std::set<std::string> seen;
-  return FindUndeclared(inSource, seen);
-}
-
 // The recursion is no deeper than Declare allows.
-std::string EntityTable::FindUndeclared(std::string_view inSource,
-                                        std::set<std::string>& ioSeen) const {
+std::string EntityTable::FindUndeclared(std::string_view inSource) {
   std::size_t at = 0;
   for (std::string_view name; !(name = NextReference(inSource, '&', at)).empty();) {
-    if (IsPredefined(name) || !ioSeen.emplace(name).second) continue;
+    if (IsPredefined(name) || mSearched.count(name) != 0) continue;
     const auto found = mValues.find(name);
     if (found == mValues.end()) return std::string(name);
-    std::string inner = FindUndeclared(found->second, ioSeen);
+    mSearched.emplace(name);
+    std::string inner = FindUndeclared(found->second);
     if (!inner.empty()) return inner;
   }
   return {};

@@ -24,13 +24,14 @@ class EntityTable {
   bool Declare(std::string_view inName, const std::string_view* inValue, bool inIsParameter);
 
   // The first general entity that inSource refers to, directly or through another, and that nobody
-  // has declared; empty where there is none.
-  std::string FindUndeclared(std::string_view inSource) const;
+  // has declared; empty where there is none. To be asked when all are declared: each entity is
+  // looked into once only, as an entity of many elements would otherwise be searched for each of
+  // them.
+  std::string FindUndeclared(std::string_view inSource);
 
  private:
-  std::string FindUndeclared(std::string_view inSource, std::set<std::string>& ioSeen) const;
-
   std::map<std::string, std::string, std::less<>> mValues;
+  std::set<std::string, std::less<>> mSearched;
   std::size_t mReferring = 0;
 };
 

@@ -93,6 +93,12 @@ struct EventSource::Callbacks {
       source.OnEntity(inName, inIsParameter != 0, inValue, inLength);
     });
   }
+  static void DefaultValue(void* inSource, const char*, const char*, const char*,
+                           const char* inValue, int) {
+    Guard(inSource, [&](EventSource& source) {
+      if (inValue) source.OnDefaultValue();
+    });
+  }
   static int ExternalReference(XML_Parser inParser, const char* inContext, const char*, const char*,
                                const char*) {
     int result = XML_STATUS_ERROR;
@@ -149,6 +155,7 @@ void EventSource::SetCallbacks() {
   XML_SetDefaultHandlerExpand(parser, &Callbacks::Other);
   XML_SetEndDoctypeDeclHandler(parser, &Callbacks::EndDocumentType);
   XML_SetEntityDeclHandler(parser, &Callbacks::Entity);
+  XML_SetAttlistDeclHandler(parser, &Callbacks::DefaultValue);
   XML_SetSkippedEntityHandler(parser, &Callbacks::SkippedEntity);
   // Parameter entities of the inline part are read by this; those of other files come to
   // ExternalReference, which opens nothing.
@@ -212,6 +219,11 @@ void EventSource::ThrowUndeclared(std::string_view inName) const {
            {utility::ToUTF16(inName)}));
 }
 
+void EventSource::ThrowIfUndeclared(std::string_view inSource) {
+  const std::string undeclared = mEntities.FindUndeclared(inSource);
+  if (!undeclared.empty()) ThrowUndeclared(undeclared);
+}
+
 std::string_view EventSource::GetEventBytes() const {
   const XML_Index start = XML_GetCurrentByteIndex(mParser.get());
   if (start < 0) return {};
@@ -222,10 +234,7 @@ std::string_view EventSource::GetEventBytes() const {
 void EventSource::OnStartElement(const char* inName, const char** inAttributes) {
   FlushText();
   ++mDepth;
-  if (mMayDropEntities) {
-    const std::string undeclared = mEntities.FindUndeclared(GetEventBytes());
-    if (!undeclared.empty()) ThrowUndeclared(undeclared);
-  }
+  if (mMayDropEntities) ThrowIfUndeclared(GetEventBytes());
   FillAttributes(inAttributes);
   Assign(inName, mElementName);
   mHandler.StartElement(mElementName, mAttributes);
@@ -265,6 +274,7 @@ void EventSource::OnOther(std::string_view inBytes) {
 
 void EventSource::OnEndDocumentType() {
   mInDocumentType = false;
+  if (mMayDropEntities) ThrowIfUndeclared(mDefaultValues);
   const auto last = static_cast<std::size_t>(XML_GetCurrentByteIndex(mParser.get()));
   mHandler.DocumentType(
       utility::ToUTF16(mBytes.substr(mDocumentTypeStart, last + 1 - mDocumentTypeStart)));
@@ -277,6 +287,17 @@ void EventSource::OnEntity(const char* inName, bool inIsParameter, const char* i
   if (mEntities.Declare(inName, inValue ? &value : nullptr, inIsParameter)) return;
   ThrowHere(
       Text("$$$/lumcore/xml/Error/EntityChain=too many entities refer to other entities", {}));
+}
+
+// Kept as it is written, from quote to quote: the value that the parser gives has its entities
+// replaced, or dropped. The event here is a place in the document without an extent.
+void EventSource::OnDefaultValue() {
+  const XML_Index start = XML_GetCurrentByteIndex(mParser.get());
+  if (start < 0) return;
+  const std::string_view rest = mBytes.substr(static_cast<std::size_t>(start));
+  // Declared within a parameter entity: the place is that of the reference, not of the value.
+  if (rest.empty() || (rest.front() != '"' && rest.front() != '\'')) return;
+  mDefaultValues += rest.substr(0, rest.find(rest.front(), 1));
 }
 
 // A context stands for a reference in the text, none for a part of the document type.

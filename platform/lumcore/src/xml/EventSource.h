@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <exception>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "lumcore/Strings.h"
@@ -40,6 +41,7 @@ class EventSource {
   void FlushText();
   void FillAttributes(const char** inAttributes);
   [[noreturn]] void ThrowUndeclared(std::string_view inName) const;
+  void ThrowIfUndeclared(std::string_view inSource);
   // The bytes of the document that the current event comes from.
   std::string_view GetEventBytes() const;
 
@@ -51,6 +53,7 @@ class EventSource {
   void OnOther(std::string_view inBytes);
   void OnEndDocumentType();
   void OnEntity(const char* inName, bool inIsParameter, const char* inValue, int inLength);
+  void OnDefaultValue();
   bool OnExternalReference(const char* inContext);
   void OnSkippedEntity(const char* inName, bool inIsParameter);
 
@@ -66,6 +69,7 @@ class EventSource {
   std::size_t mDepth = 0;
 
   EntityTable mEntities;
+  std::string mDefaultValues;     // of attributes, as written in the document type
   bool mMayDropEntities = false;  // parts of the document type were not read
   bool mInDocumentType = false;
   std::size_t mDocumentTypeStart = 0;

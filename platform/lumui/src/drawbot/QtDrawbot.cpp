@@ -22,6 +22,9 @@ namespace {
 
 // Pixels: what rounding of scales and places in a float leaves at screen coordinates.
 constexpr double kPixelTolerance = 0.01;
+// Pixels. Up to this width the painter strokes side by side with flat ends, which leaves corners
+// open.
+constexpr float kWidestThinPen = 1;
 
 QBrush MakeBrush(const Brush& inBrush) {
   if (!inBrush.IsGradient()) return QBrush(ToQt(inBrush.GetStartColor()));
@@ -132,8 +135,20 @@ void QtDrawbot::FillRect(const Rect& inRect, const Brush& inBrush) {
 
 void QtDrawbot::StrokeRect(const Rect& inRect, const Pen& inPen) {
   if (inRect.IsEmpty() || !IsVisible(inPen)) return;
-  mPainter.setPen(MakePen(inPen));
-  mPainter.drawRect(ToQt(inRect));
+  if (!inPen.dashes.empty()) {
+    Path path;
+    path.AddRect(inRect);
+    return StrokePath(path, inPen);
+  }
+  // The painter strokes thin rectangles as four lines with flat ends, which leaves the corners
+  // open; the ring between two rectangles has them.
+  const qreal half = 0.5 * inPen.width;
+  const QRectF rect = ToQt(inRect);
+  QPainterPath ring;
+  ring.addRect(rect.adjusted(-half, -half, half, half));
+  const QRectF hole = rect.adjusted(half, half, -half, -half);
+  if (hole.width() > 0 && hole.height() > 0) ring.addRect(hole);
+  mPainter.fillPath(ring, ToQt(inPen.color));
 }
 
 void QtDrawbot::StrokeLine(const Point& inStart, const Point& inEnd, const Pen& inPen) {
@@ -149,7 +164,11 @@ void QtDrawbot::FillPath(const Path& inPath, const Brush& inBrush) {
 
 void QtDrawbot::StrokePath(const Path& inPath, const Pen& inPen) {
   if (inPath.IsEmpty() || !IsVisible(inPen)) return;
-  mPainter.strokePath(ToQt(inPath), MakePen(inPen));
+  const QPen pen = MakePen(inPen);
+  const bool isThin = inPen.width * GetScale() <= kWidestThinPen;
+  if (!isThin) return mPainter.strokePath(ToQt(inPath), pen);
+  QPainterPathStroker stroker(pen);
+  mPainter.fillPath(stroker.createStroke(ToQt(inPath)), pen.brush());
 }
 
 void QtDrawbot::DrawString(const lumcore::UTF16String& inText, const FontP& inFont,

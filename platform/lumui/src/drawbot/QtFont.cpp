@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QTextLayout>
+#include <algorithm>
 #include <limits>
 
 #include "drawbot/QtConvert.h"
@@ -130,10 +131,16 @@ lumcore::UTF16String QtFont::MakeTruncated(const lumcore::UTF16String& inText,
                                            TextTruncation inTruncation, float inMaxWidth) const {
   if (!(inMaxWidth > 0)) return lumcore::UTF16String();
   const auto mode = inTruncation == TextTruncation::kMiddle ? Qt::ElideMiddle : Qt::ElideRight;
-  lumcore::UTF16String result =
-      FromQt(mMetrics.elidedText(ToOneLine(inText), mode, static_cast<double>(inMaxWidth)));
-  // What is left when nothing else fits is the ellipsis alone, be it too wide or not.
-  return MeasureWidthOnce(result) <= inMaxWidth ? result : lumcore::UTF16String();
+  const QString text = ToOneLine(inText);
+  // A ligature that the cut takes apart is wider in two parts, so a shortened text may stick out by
+  // a little: then it is made for a place that is less by as much.
+  for (float room = inMaxWidth; room > 0;) {
+    const auto result = FromQt(mMetrics.elidedText(text, mode, static_cast<double>(room)));
+    const float excess = MeasureWidthOnce(result) - inMaxWidth;
+    if (excess <= 0) return result;
+    room -= std::max(excess, 1.0f);
+  }
+  return lumcore::UTF16String();
 }
 
 const QtFont& AsQtFont(const FontP& inFont) {

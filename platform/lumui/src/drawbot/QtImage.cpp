@@ -148,8 +148,6 @@ bool MayBeXML(std::string_view inBytes) {
 boost::intrusive_ptr<ImageInterface> MakeRasterImage(const QImage& inPixels, float inScale) {
   LUM_INPUT_CONTRACT(inScale > 0);
   QImage pixels = inPixels.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  // The drawbot does the scaling; a ratio in the picture would do it twice.
-  pixels.setDevicePixelRatio(1);
   const float width = static_cast<float>(pixels.width()) / inScale;
   const float height = static_cast<float>(pixels.height()) / inScale;
   return boost::intrusive_ptr<ImageInterface>(

@@ -88,7 +88,6 @@ boost::intrusive_ptr<Surface> QtSupplier::NewSurface(float inWidth, float inHeig
                 QImage::Format_ARGB32_Premultiplied);
   if (pixels.isNull()) throw std::bad_alloc();
   pixels.fill(Qt::transparent);
-  pixels.setDevicePixelRatio(inScale);
   return boost::intrusive_ptr<Surface>(
       new QtSurface(inWidth, inHeight, inScale, std::move(pixels)));
 }

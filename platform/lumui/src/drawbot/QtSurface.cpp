@@ -13,13 +13,23 @@
 
 namespace lumui::drawbot {
 
+namespace {
+
+// The picture's own device pixel ratio would do this too, but not below 1.
+QPainter& Scaled(QPainter& inPainter, float inScale) {
+  inPainter.scale(inScale, inScale);
+  return inPainter;
+}
+
+}  // namespace
+
 QtSurface::QtSurface(float inWidth, float inHeight, float inScale, QImage inPixels)
     : mWidth(inWidth),
       mHeight(inHeight),
       mScale(inScale),
       mPixels(std::move(inPixels)),
       mPainter(&mPixels),
-      mDrawbot(mPainter, lumcore::geom::RectT<float>(0, 0, inWidth, inHeight)) {}
+      mDrawbot(Scaled(mPainter, inScale), lumcore::geom::RectT<float>(0, 0, inWidth, inHeight)) {}
 
 ColorRGBA QtSurface::GetPixel(int inX, int inY) const {
   if (!mPixels.valid(inX, inY)) return ColorRGBA(0, 0, 0, 0);

@@ -11,8 +11,8 @@
 namespace lumcore::config {
 
 // Turns a key with its default, "$$$/vek/area/Name=English text", into the text for the user. The
-// base class knows no catalogue: it answers with the text behind the first '=', which is empty where
-// there is none.
+// base class knows no catalogue: it answers with the text behind the first '=', which is empty
+// where there is none.
 class LUMCORE_API Localizer {
  public:
   Localizer();

@@ -36,6 +36,7 @@ LUMCORE_API bool IsDebuggerAttached();
 }  // namespace lumcore::debug
 
 // The one check of what a caller passes. It stays in every build.
-#define LUM_INPUT_CONTRACT(inExpression)                                                        \
-  ((inExpression) ? static_cast<void>(0)                                                        \
-                  : ::lumcore::debug::FailInputContract(#inExpression, __FILE__, __func__, __LINE__))
+#define LUM_INPUT_CONTRACT(inExpression) \
+  ((inExpression)                        \
+       ? static_cast<void>(0)            \
+       : ::lumcore::debug::FailInputContract(#inExpression, __FILE__, __func__, __LINE__))

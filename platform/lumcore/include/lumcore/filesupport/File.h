@@ -34,10 +34,12 @@ class LUMCORE_API File {
   // The whole content. Throws FileError.
   UTF8String ReadAll() const;
 
-  // Replaces the content in one step: writes a new file beside the old one, flushes it to disk, gives
-  // it the old one's permissions and renames it over it. A link is followed, so that what it points
-  // to is replaced and the link stays. After a throw of FileError the old file is as it was and
-  // nothing is left beside it.
+  // Replaces the content in one step: writes a new file beside the old one, flushes it to disk,
+  // gives it the old one's permissions and renames it over it. A link is followed, so that what it
+  // points to is replaced and the link stays. A new file has the permissions that the process
+  // gives. After a throw of FileError the old file is as it was and nothing is left beside it. A
+  // file that may not be written, and what is no file (a device, a folder), is refused. Further
+  // hard links keep the old content, and access lists do not pass to the new file.
   void ReplaceContents(std::string_view inBytes) const;
 
   void Remove() const;  // throws FileError; a file that is not there is no failure

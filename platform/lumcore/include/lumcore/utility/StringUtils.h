@@ -28,9 +28,9 @@ LUMCORE_API UTF16String ToLowerCase(const UTF16String& inText);
 // Full default case folding: two texts that differ only in case fold to the same text.
 LUMCORE_API UTF16String FoldCase(const UTF16String& inText);
 
-// Replaces the placeholders @0, @1, ... in inText by the arguments, in one walk from the front: text
-// that an argument brings in is not searched again. A placeholder without an argument stays. The
-// longest number that has an argument is taken.
+// Replaces the placeholders @0, @1, ... in inText by the arguments, in one walk from the front:
+// text that an argument brings in is not searched again. A placeholder without an argument stays.
+// The longest number that has an argument is taken.
 LUMCORE_API UTF16String ReplaceInString(const UTF16String& inText,
                                         std::initializer_list<UTF16String> inArguments);
 

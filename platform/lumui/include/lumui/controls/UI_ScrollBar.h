@@ -28,6 +28,9 @@ class LUMUI_API UI_ScrollBar : public ui::UI_SubView {
   // when the program has. Clearing it takes it back.
   void NotifyWhenChangedInteractively(const boost::shared_ptr<ChangedFunction>& inFunction);
 
+  // The wheel over a bar turns the view.
+  bool UI_DoMouseWheel(ui::UI_Node* inNode, const ui::WheelEvent& inEvent) override;
+
  private:
   friend class UI_ScrollView;
   class Peer;

@@ -47,6 +47,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   void SetOffset(const lumcore::geom::PointT<double>& inOffset);
   // How far an arrow of a bar, or a third of a notch of the wheel, moves; 20 at start.
   void SetLineStep(float inUnits);
+  float GetLineStep() const { return mLineStep; }
 
   bool UI_DoMouseWheel(ui::UI_Node* inNode, const ui::WheelEvent& inEvent) override;
 
@@ -60,7 +61,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
 
   // A move by the user along one axis, in units; tells the listeners if anything moved.
   void ScrollByUser(bool inHorizontal, double inDistance);
-  void SetOffsetByUser(bool inHorizontal, double inOffset);
+  void SetBarOffsetByUser(bool inHorizontal, double inOffset);  // from the start of the content
   bool MoveTo(const lumcore::geom::PointT<double>& inWanted);
   lumcore::geom::PointT<double> Limited(const lumcore::geom::PointT<double>& inOffset) const;
   lumcore::geom::PointT<double> GetViewSize() const;

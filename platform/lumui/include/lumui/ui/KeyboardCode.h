@@ -66,8 +66,9 @@ class LUMUI_API KeyboardCode {
   std::uint32_t GetValue(bool inWithExtended) const;
   // 0 for a character. inWithExtended keeps bit 30 in the result.
   std::uint32_t GetControlCode(bool inWithExtended) const;
-  // The Windows virtual-key number, negative for the extended form of a key; 0 for a key that those
-  // numbers do not know.
+  // The Windows virtual-key number, negative for the keys that Windows calls extended: the arrows
+  // and their neighbours beside the number pad, the pad's Enter and slash, Num Lock and a few more.
+  // 0 for a key that those numbers do not know.
   int GetOSCode() const;
 
   friend bool operator==(KeyboardCode inA, KeyboardCode inB) { return inA.mValue == inB.mValue; }

@@ -31,6 +31,12 @@ class LUMUI_API KeyboardEvent {
   bool IsActionKeyUp() const { return mAction == kActionKeyUp; }
   KeyboardCode GetCode() const { return mCode; }
   ModifierKeys GetModKey() const { return mModifiers; }
+  int GetOSCode() const { return mCode.GetOSCode(); }
+  // What a character event has typed: one UTF-16 unit. A key down or up has typed nothing.
+  int GetNumCharacters() const { return mAction == kActionCharacter ? 1 : 0; }
+  unsigned short GetCharacter(int inIndex = 0) const {
+    return inIndex == 0 && mAction == kActionCharacter ? mCode.GetCharacter() : 0;
+  }
   // True for the presses that a key held down makes by itself.
   bool IsRepeat() const { return mRepeat; }
   // The message behind the event; never null, alive as long as this event object.

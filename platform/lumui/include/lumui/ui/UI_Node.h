@@ -98,8 +98,8 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // manager. If nobody does, it becomes the arrow, and the move may still set another.
   virtual bool UI_DoCursor(UI_Node* inNode, const MouseEvent& inEvent);
   virtual bool UI_DoKeyboardEvent(UI_Node* inNode, const KeyboardEvent& inEvent);
-  // Whether the Tab key and a press reach the node with the focus. The base operation answers what
-  // UI_SetWantsKeyboardFocus said, false at start.
+  // Whether the Tab key stops at the node. A node that wants the focus at a press takes it itself.
+  // The base operation answers what UI_SetWantsKeyboardFocus said, false at start.
   virtual bool UI_WantsKeyboardFocus() const;
   virtual void UI_DoTimerNotify(unsigned int inTimerID);
   // After the node has gained or lost the focus: UI_HasKeyboardFocus tells which.

@@ -1,0 +1,117 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "OutlineRow.h"
+#include "TextPool.h"
+#include "lumcore/Strings.h"
+
+namespace outliner {
+
+// What a file has around its rows, as markup, and how its bytes are made. Nothing of it is edited.
+struct OutlineEnvelope {
+  lumcore::UTF16String before;  // up to the start tag of the body, which still lacks its ">"
+  lumcore::UTF16String after;   // from behind the body's end tag
+  lumcore::UTF16String title;   // plain text; empty where the head has none
+  std::string encoding;         // as a converter is asked for, with the byte order where it has one
+  std::string byteOrderMark;    // the bytes in front of the text, mostly none
+  bool endsLinesWithCR = false;
+};
+
+// The white space of rows that have none of their own: a new line and indentation for each level,
+// or nothing at all in a file that is written without.
+struct OutlineLayout {
+  lumcore::UTF16String rowStart;  // in front of a row of the first level
+  lumcore::UTF16String unit;      // added for each level
+  lumcore::UTF16String bodyEnd;   // in front of the body's end tag
+};
+
+// The rows of an outline and all else that its file holds: pure data, with neither selection nor
+// undo. The root stands for the body; it is never shown and has the number 0.
+//
+// The tree owns the rows that are in it. Calls keep the pointers that others hold valid; only who
+// gets rows out of RemoveRows may end them.
+class OutlineTree {
+ public:
+  using Rows = std::vector<std::unique_ptr<OutlineRow>>;
+
+  // Markup number 0 is no markup: the layout decides what stands there. Number 1 is the empty text.
+  static constexpr TextPool::Id kByLayout = 0;
+  static constexpr TextPool::Id kNothing = 1;
+
+  OutlineTree();  // an empty outline in UTF-8 with an empty title
+
+  OutlineRow& GetRoot() { return *mRoot; }
+  const OutlineRow& GetRoot() const { return *mRoot; }
+  // Null for a row that is not in the tree now.
+  OutlineRow* FindRow(OutlineRow::Id inId) const;
+
+  // All rows but the root in document order. The list is made anew after rows have come, gone or
+  // moved, and stays as it is until then.
+  const std::vector<OutlineRow*>& GetLines() const;
+  std::size_t GetLine(const OutlineRow& inRow) const;  // its place in that list
+  // Behind the last row below inRow, in that list.
+  std::size_t GetEndLine(const OutlineRow& inRow) const;
+
+  // A row with a number of its own that is not in the tree yet.
+  std::unique_ptr<OutlineRow> NewRow(const lumcore::UTF16String& inText);
+  // Puts rows, with what is below them, in front of the child numbered inIndex.
+  void InsertRows(OutlineRow& inParent, std::size_t inIndex, Rows inRows);
+  Rows RemoveRows(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount);
+
+  // Characters that XML does not allow become U+FFFD.
+  void SetText(OutlineRow& inRow, const lumcore::UTF16String& inText);
+  void SetLeading(OutlineRow& inRow, TextPool::Id inMarkup) { inRow.mLeading = inMarkup; }
+  void SetTrailing(OutlineRow& inRow, TextPool::Id inMarkup) { inRow.mTrailing = inMarkup; }
+
+  // For reading: a new last child, and its attributes in order; `text` itself is set by SetText.
+  OutlineRow& AppendRow(OutlineRow& inParent);
+  void AddAttribute(OutlineRow& inRow, TextPool::Id inName, lumcore::UTF16String inValue);
+  void SetTextPlace(OutlineRow& inRow, std::size_t inPlace);
+  void MarkTextMissing(OutlineRow& inRow);
+
+  // Null where the row has none of that name.
+  const lumcore::UTF16String* FindAttribute(const OutlineRow& inRow, TextView inName) const;
+
+  TextPool& GetNames() { return mNames; }
+  const TextPool& GetNames() const { return mNames; }
+  TextPool& GetMarkup() { return mMarkup; }
+  // The markup itself, with the layout's in the place of number 0. inDepth is the row's.
+  void AppendLeading(const OutlineRow& inRow, std::size_t inDepth,
+                     lumcore::UTF16String& outText) const;
+  void AppendTrailing(const OutlineRow& inRow, std::size_t inDepth,
+                      lumcore::UTF16String& outText) const;
+  // Whether the markup holds more than white space.
+  bool IsForeign(TextPool::Id inMarkup) const;
+
+  OutlineEnvelope& GetEnvelope() { return mEnvelope; }
+  const OutlineEnvelope& GetEnvelope() const { return mEnvelope; }
+  // Finds the layout that the file was written in, and frees the rows that keep to it from white
+  // space of their own. Called once, when all rows are read.
+  void AdoptLayout();
+
+ private:
+  OutlineRow::Extras& Extras(OutlineRow& inRow);
+  void SetInTree(OutlineRow& inRow, bool inPresent);
+  void AppendLayout(std::size_t inDepth, lumcore::UTF16String& outText) const;
+  void FindLayout();
+  // All of the markup, or where it is foreign, its last line as far as that is white space.
+  bool FindWhiteSpace(TextPool::Id inMarkup, lumcore::UTF16String& outText) const;
+
+  std::unique_ptr<OutlineRow> mRoot;
+  std::vector<OutlineRow*> mRowsById;  // null for a row that is out of the tree
+  TextPool mNames;
+  TextPool mMarkup;
+  OutlineEnvelope mEnvelope;
+  OutlineLayout mLayout;
+  mutable std::vector<OutlineRow*> mLines;
+  mutable bool mLinesKnown = true;
+};
+
+}  // namespace outliner

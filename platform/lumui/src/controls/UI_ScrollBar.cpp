@@ -1,0 +1,142 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumui/controls/UI_ScrollBar.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+#include "controls/ScrollBarPeer.h"
+#include "lumcore/debug/Contract.h"
+#include "lumui/controls/UI_InteractiveControlChangedMessage.h"
+#include "lumui/controls/UI_ScrollView.h"
+#include "ui/EventGate.h"
+#include "ui/ScopedValue.h"
+
+namespace lumui::controls {
+
+namespace {
+
+// Leaves room below the limit of int for the page that Qt adds to the value.
+constexpr double kLargestBarRange = 1 << 30;
+
+}  // namespace
+
+UI_InteractiveControlChangedMessage::~UI_InteractiveControlChangedMessage() = default;
+
+UI_ScrollBar::Peer::Peer(bool inHorizontal) : NodePeer(Kind::kNative), mHorizontal(inHorizontal) {}
+
+QWidget* UI_ScrollBar::Peer::DoMakeWidget(QWidget* inParent) {
+  auto* const bar =
+      new ui::NodeWidgetT<QScrollBar>(*this, mHorizontal ? Qt::Horizontal : Qt::Vertical, inParent);
+  bar->setContextMenuPolicy(Qt::NoContextMenu);
+  QObject::connect(bar, &QScrollBar::actionTriggered, bar, [this](int inAction) {
+    ui::EventGate::Get()->RunGuarded([&] { HandleAction(inAction); });
+  });
+  mBar = bar;
+  Apply();
+  return bar;
+}
+
+void UI_ScrollBar::Peer::ShowOffset(double inRange, double inOffset, double inViewed) {
+  mRange = inRange;
+  mOffset = inOffset;
+  mViewed = inViewed;
+  Apply();
+}
+
+void UI_ScrollBar::Peer::Apply() {
+  if (!mBar) return;
+  const ui::StValue<bool> showing(mShowing, true);
+  const double factor = mRange > kLargestBarRange ? kLargestBarRange / mRange : 1;
+  const auto toBar = [&](double inUnits) {
+    return static_cast<int>(std::lround(inUnits * factor));
+  };
+  mBar->setRange(0, toBar(mRange));
+  mBar->setPageStep(std::max(1, toBar(std::min(mViewed, kLargestBarRange / factor))));
+  // Only what differs: while the user drags, the slider stays where the hand is.
+  const int value = toBar(mOffset);
+  if (mBar->value() != value || mBar->sliderPosition() != value) mBar->setValue(value);
+}
+
+// Qt has already moved the slider by a step of its own. Lines and pages are units of the content
+// here, and the end of the bar is the exact end.
+void UI_ScrollBar::Peer::HandleAction(int inAction) {
+  if (mShowing) return;
+  auto* const node = static_cast<UI_ScrollBar*>(GetNode());
+  auto* const view = dynamic_cast<UI_ScrollView*>(node->UI_GetParentNode());
+  if (!view) return;
+  const lumcore::utility::StKeepAlive keepAlive(*view);
+  const int position = mBar->sliderPosition();
+  const int last = mBar->maximum();
+  const double line = view->GetLineStep();
+  const double page = std::max(line, mViewed - line);
+  if (inAction != QAbstractSlider::SliderMove) {
+    const ui::StValue<bool> showing(mShowing, true);
+    mBar->setSliderPosition(mBar->value());
+  }
+  const bool x = mHorizontal;
+  switch (inAction) {
+    case QAbstractSlider::SliderSingleStepAdd:
+      return view->ScrollByUser(x, line);
+    case QAbstractSlider::SliderSingleStepSub:
+      return view->ScrollByUser(x, -line);
+    case QAbstractSlider::SliderPageStepAdd:
+      return view->ScrollByUser(x, page);
+    case QAbstractSlider::SliderPageStepSub:
+      return view->ScrollByUser(x, -page);
+    case QAbstractSlider::SliderToMinimum:
+      return view->SetBarOffsetByUser(x, 0);
+    case QAbstractSlider::SliderToMaximum:
+      return view->SetBarOffsetByUser(x, mRange);
+    case QAbstractSlider::SliderMove:
+      return view->SetBarOffsetByUser(
+          x, position >= last ? mRange : mRange * position / std::max(1, last));
+    default:
+      return;
+  }
+}
+
+UI_ScrollBar::UI_ScrollBar(bool inHorizontal)
+    : UI_SubView(std::make_unique<Peer>(inHorizontal)), mHorizontal(inHorizontal) {
+  UI_SetNodeID("UI_ScrollBar");
+}
+
+UI_ScrollBar::~UI_ScrollBar() = default;
+
+UI_ScrollBar::Peer* UI_ScrollBar::GetBarPeer() const {
+  return static_cast<Peer*>(GetPeer());
+}
+
+float UI_ScrollBar::GetThickness() const {
+  return static_cast<float>(QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+}
+
+void UI_ScrollBar::NotifyWhenChangedInteractively(
+    const boost::shared_ptr<ChangedFunction>& inFunction) {
+  LUM_INPUT_CONTRACT(inFunction != nullptr);
+  auto& functions = mChangedFunctions;
+  const auto cleared = [](const auto& inEntry) { return inEntry->empty(); };
+  functions.erase(std::remove_if(functions.begin(), functions.end(), cleared), functions.end());
+  functions.push_back(inFunction);
+}
+
+void UI_ScrollBar::NotifyChanged() {
+  UI_InteractiveControlChangedMessage message(this);
+  // From a copy, since a function may install another.
+  const auto functions = mChangedFunctions;
+  for (const auto& function : functions) {
+    if (*function) (*function)(&message);
+  }
+}
+
+bool UI_ScrollBar::UI_DoMouseWheel(ui::UI_Node* inNode, const ui::WheelEvent& inEvent) {
+  ui::UI_Node* const view = UI_GetParentNode();
+  return view && view->UI_DoMouseWheel(inNode, inEvent);
+}
+
+}  // namespace lumui::controls

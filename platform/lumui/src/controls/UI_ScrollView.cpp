@@ -1,0 +1,186 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumui/controls/UI_ScrollView.h"
+
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+
+#include "controls/ScrollBarPeer.h"
+#include "lumcore/debug/Contract.h"
+#include "lumui/controls/UI_ScrollBar.h"
+#include "lumui/ui/PointerEvent.h"
+
+namespace lumui::controls {
+
+namespace {
+
+using Point = lumcore::geom::PointT<double>;
+using Rect = lumcore::geom::RectT<float>;
+
+constexpr double kLinesANotch = 3;
+
+// The least move along one axis that shows the extent; the near edge first.
+double Revealed(double inOffset, double inViewed, double inStart, double inSize) {
+  if (inStart < inOffset || inSize > inViewed) return inStart;
+  return std::max(inOffset, inStart + inSize - inViewed);
+}
+
+}  // namespace
+
+UI_ScrollView::UI_ScrollView(lumcore::utility::Flags<unsigned int> inFlags,
+                             const boost::intrusive_ptr<ui::UI_Node>& inContent)
+    : mFlags(inFlags),
+      mContent(inContent),
+      mBarX(new UI_ScrollBar(true)),
+      mBarY(new UI_ScrollBar(false)) {
+  LUM_INPUT_CONTRACT(inContent != nullptr);
+  mBarX->UI_Show(false);
+  mBarY->UI_Show(false);
+  // The bars lie over the content, so they come behind it.
+  UI_AddChild(mContent);
+  UI_AddChild(mBarX);
+  UI_AddChild(mBarY);
+}
+
+UI_ScrollView::~UI_ScrollView() {
+  mContent->GetPeer()->SetContentOrigin(Point());
+}
+
+void UI_ScrollView::SetContentRectF(const Rect& inRect) {
+  mContentRect = inRect;
+}
+
+void UI_ScrollView::SetLineStep(float inUnits) {
+  LUM_INPUT_CONTRACT(inUnits > 0);
+  mLineStep = inUnits;
+}
+
+void UI_ScrollView::Update() {
+  PlaceBars();
+  MoveTo(mWanted);
+  ShowOffsetInBars();
+  mContent->UI_InvalidateAll();
+}
+
+void UI_ScrollView::UI_SizeChanged(const Rect& inRect) {
+  UI_SubView::UI_SizeChanged(inRect);
+  mContent->UI_SetLocalRectF(inRect);
+  Update();
+}
+
+// A bar takes room from the other axis, so that one may need the other.
+void UI_ScrollView::PlaceBars() {
+  const Rect& area = UI_GetLocalRectF();
+  const float thickX = mBarX->GetThickness();
+  const float thickY = mBarY->GetThickness();
+  const bool mayX = !mFlags.Has(kNoHorizontalBar);
+  const bool mayY = !mFlags.Has(kNoVerticalBar);
+  bool needX = mayX && mContentRect.width > area.width;
+  const bool needY = mayY && mContentRect.height > area.height - (needX ? thickX : 0);
+  needX = mayX && mContentRect.width > area.width - (needY ? thickY : 0);
+  const bool bothY = mayY && mContentRect.height > area.height - (needX ? thickX : 0);
+  const float roomX = std::max(0.0f, area.width - (bothY ? thickY : 0));
+  const float roomY = std::max(0.0f, area.height - (needX ? thickX : 0));
+  mBarX->UI_SetLocalRectF(Rect(0, area.height - thickX, roomX, thickX));
+  mBarY->UI_SetLocalRectF(Rect(area.width - thickY, 0, thickY, roomY));
+  if (mBarX->UI_IsVisible() != needX) mBarX->UI_Show(needX);
+  if (mBarY->UI_IsVisible() != bothY) mBarY->UI_Show(bothY);
+}
+
+Point UI_ScrollView::GetViewSize() const {
+  const Rect& area = UI_GetLocalRectF();
+  const float barX = mBarX->UI_IsVisible() ? mBarX->UI_GetLocalRectF().height : 0;
+  const float barY = mBarY->UI_IsVisible() ? mBarY->UI_GetLocalRectF().width : 0;
+  return Point(std::max(0.0f, area.width - barY), std::max(0.0f, area.height - barX));
+}
+
+Rect UI_ScrollView::GetViewedContentRectF() const {
+  const Point size = GetViewSize();
+  return Rect(static_cast<float>(mOffset.x), static_cast<float>(mOffset.y),
+              static_cast<float>(size.x), static_cast<float>(size.y));
+}
+
+bool UI_ScrollView::DoLimitsToContent() const {
+  return true;
+}
+
+Point UI_ScrollView::Limited(const Point& inOffset) const {
+  if (!DoLimitsToContent()) return inOffset;
+  const Point size = GetViewSize();
+  const auto limit = [](double inValue, double inStart, double inContent, double inViewed) {
+    return std::max(inStart, std::min(inValue, inStart + inContent - inViewed));
+  };
+  return Point(limit(inOffset.x, mContentRect.x, mContentRect.width, size.x),
+               limit(inOffset.y, mContentRect.y, mContentRect.height, size.y));
+}
+
+// The offset is whole units of the device, or text and lines would blur; what is left of the wish
+// is kept, so that many small turns of a fine wheel add up.
+bool UI_ScrollView::MoveTo(const Point& inWanted) {
+  LUM_INPUT_CONTRACT(std::isfinite(inWanted.x) && std::isfinite(inWanted.y));
+  mWanted = Limited(inWanted);
+  const QWidget* const widget = GetPeer()->GetWidget();
+  const double scale = widget ? widget->devicePixelRatioF() : 1;
+  const auto snapped = [&](double inUnits) { return std::round(inUnits * scale) / scale; };
+  const Point offset(snapped(mWanted.x), snapped(mWanted.y));
+  if (offset == mOffset) return false;
+  mOffset = offset;
+  mContent->GetPeer()->SetContentOrigin(offset);
+  ShowOffsetInBars();
+  mContent->UI_InvalidateAll();
+  return true;
+}
+
+void UI_ScrollView::ShowOffsetInBars() {
+  const Point size = GetViewSize();
+  mBarX->GetBarPeer()->ShowOffset(std::max(0.0, mContentRect.width - size.x),
+                                  mOffset.x - mContentRect.x, size.x);
+  mBarY->GetBarPeer()->ShowOffset(std::max(0.0, mContentRect.height - size.y),
+                                  mOffset.y - mContentRect.y, size.y);
+}
+
+void UI_ScrollView::ScrollIntoView(const Rect& inRect, bool inDrawNow) {
+  const Point size = GetViewSize();
+  MoveTo(Point(Revealed(mOffset.x, size.x, inRect.x, inRect.width),
+               Revealed(mOffset.y, size.y, inRect.y, inRect.height)));
+  if (inDrawNow) mContent->UI_UpdateNow(lumcore::utility::Flags<unsigned int>(~0u));
+}
+
+void UI_ScrollView::SetOffset(const Point& inOffset) {
+  MoveTo(inOffset);
+}
+
+void UI_ScrollView::ScrollByUser(bool inHorizontal, double inDistance) {
+  Point wanted = mWanted;
+  (inHorizontal ? wanted.x : wanted.y) += inDistance;
+  if (MoveTo(wanted)) (inHorizontal ? mBarX : mBarY)->NotifyChanged();
+}
+
+void UI_ScrollView::SetBarOffsetByUser(bool inHorizontal, double inOffset) {
+  Point wanted = mWanted;
+  if (inHorizontal) {
+    wanted.x = mContentRect.x + inOffset;
+  } else {
+    wanted.y = mContentRect.y + inOffset;
+  }
+  if (MoveTo(wanted)) (inHorizontal ? mBarX : mBarY)->NotifyChanged();
+}
+
+bool UI_ScrollView::UI_DoMouseWheel(ui::UI_Node*, const ui::WheelEvent& inEvent) {
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  const auto& notches = inEvent.GetNotches();
+  const double step = kLinesANotch * mLineStep;
+  if (notches.x != 0) ScrollByUser(true, notches.x * step);
+  if (notches.y != 0) ScrollByUser(false, notches.y * step);
+  return true;
+}
+
+UI_ManualScrollView::~UI_ManualScrollView() = default;
+
+bool UI_ManualScrollView::DoLimitsToContent() const {
+  return false;
+}
+
+}  // namespace lumui::controls

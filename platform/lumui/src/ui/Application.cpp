@@ -1,0 +1,126 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumui/ui/Application.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <clocale>
+#include <utility>
+
+#include "lumcore/debug/Contract.h"
+#include "ui/ApplicationImpl.h"
+#include "ui/EventGate.h"
+#include "ui/NodeManagerImpl.h"
+#include "ui/NodePeer.h"
+#include "ui/ScopedValue.h"
+
+namespace lumui::ui {
+
+namespace {
+
+Application* sApplication = nullptr;
+
+}  // namespace
+
+Application::Application(int& ioArgumentCount, char** ioArguments)
+    : mImpl(std::make_unique<Impl>()) {
+  LUM_INPUT_CONTRACT(sApplication == nullptr);
+  ChooseWindowSystem();
+  mImpl->gate = std::make_unique<EventGate>(ioArgumentCount, ioArguments);
+  ForgetWindowSystem();
+  // Qt takes the user's locale over; files are read and written with a point in their numbers.
+  std::setlocale(LC_NUMERIC, "C");
+  mImpl->manager = new UI_NodeManager;
+  mImpl->gate->mQuitFunction = [this](int inCode) { Quit(inCode); };
+  sApplication = this;
+  QObject::connect(mImpl->gate.get(), &QGuiApplication::applicationStateChanged, mImpl->gate.get(),
+                   [](Qt::ApplicationState inState) {
+                     NodeManagerImpl().TellActivation(inState == Qt::ApplicationActive);
+                   });
+}
+
+Application::~Application() {
+  mImpl->manager->EndInputCapture(true);
+  NodePeer::DropAllWidgets();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  sApplication = nullptr;
+  delete std::exchange(mImpl->manager, nullptr);
+  mImpl->gate.reset();
+}
+
+Application* Application::Get() {
+  return sApplication;
+}
+
+bool Application::IsHeadless() const {
+  const QString name = QGuiApplication::platformName();
+  return name == QLatin1String("offscreen") || name.startsWith(QLatin1String("minimal"));
+}
+
+void Application::SetEventSteps(PreEventStep inPre, PostEventStep inPost) {
+  mImpl->gate->mPreStep = std::move(inPre);
+  mImpl->gate->mPostStep = std::move(inPost);
+}
+
+void Application::SetIdleFunction(std::function<void()> inIdle) {
+  mImpl->idle = std::move(inIdle);
+}
+
+void Application::SetErrorFunction(ErrorFunction inFunction) {
+  mImpl->gate->mErrorFunction = std::move(inFunction);
+}
+
+void Application::SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inClaim) {
+  mImpl->gate->mShortcutClaim = std::move(inClaim);
+}
+
+int Application::Run() {
+  LUM_INPUT_CONTRACT(!mImpl->running);
+  const StValue<bool> running(mImpl->running, true);
+  while (!IsQuitting()) {
+    QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
+    const bool any = dispatcher->processEvents(QEventLoop::AllEvents);
+    // Without a loop of Qt's own nobody else deletes what was let go outside an event.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (any || IsQuitting()) continue;
+    const std::function<void()> idle = mImpl->idle;
+    if (idle) RunGuarded(idle);
+    if (!IsQuitting()) {
+      dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+  }
+  mImpl->quitting = false;
+  return mImpl->exitCode;
+}
+
+void Application::Quit(int inCode) {
+  mImpl->exitCode = inCode;
+  mImpl->quitting = true;
+  // The loop may be waiting in the system.
+  if (auto* const dispatcher = QAbstractEventDispatcher::instance(mImpl->gate->thread())) {
+    dispatcher->wakeUp();
+  }
+}
+
+bool Application::IsQuitting() const {
+  return mImpl->quitting;
+}
+
+void Application::PumpPendingEvents() {
+  QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
+  while (dispatcher->processEvents(QEventLoop::AllEvents)) {
+  }
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool Application::RunGuarded(const std::function<void()>& inFunction) {
+  return mImpl->gate->RunGuarded(inFunction);
+}
+
+void Application::SendEvent(OS_Event& ioEvent) {
+  mImpl->gate->PassToWindow(ioEvent);
+}
+
+}  // namespace lumui::ui

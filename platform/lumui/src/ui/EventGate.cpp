@@ -1,0 +1,384 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/EventGate.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QSessionManager>
+#include <QThread>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QWidget>
+#include <QWindow>
+#include <cstdio>
+#include <exception>
+#include <utility>
+
+#include "drawbot/QtConvert.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/ui/OS_Window.h"
+#include "lumui/ui/UI_NodeManager.h"
+#include "ui/NodeManagerImpl.h"
+#include "ui/NodePeer.h"
+#include "ui/QtEvents.h"
+#include "ui/ScopedValue.h"
+#include "ui/WindowRegistry.h"
+
+namespace lumui::ui {
+
+namespace {
+
+EventGate* sGate = nullptr;
+
+bool IsPointerEvent(QEvent::Type inType) {
+  return inType == QEvent::MouseButtonPress || inType == QEvent::MouseButtonRelease ||
+         inType == QEvent::MouseButtonDblClick || inType == QEvent::MouseMove;
+}
+
+bool IsRoutedToNodes(QEvent::Type inType) {
+  return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
+         inType == QEvent::KeyRelease;
+}
+
+// What a key types by itself: no control characters, and nothing of a chord.
+bool IsTyped(QChar inCharacter) {
+  const char16_t unit = inCharacter.unicode();
+  return unit >= 0x20 && !(unit >= 0x7F && unit < 0xA0);
+}
+
+void WriteError(const std::exception_ptr& inError) {
+  try {
+    std::rethrow_exception(inError);
+  } catch (const std::exception& exception) {
+    std::fprintf(stderr, "unhandled exception: %s\n", exception.what());
+  } catch (...) {
+    std::fprintf(stderr, "unhandled exception of an unknown type\n");
+  }
+}
+
+}  // namespace
+
+EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
+    : QApplication(ioArgumentCount, ioArguments) {
+  sGate = this;
+  setQuitOnLastWindowClosed(false);
+  connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
+    if (!AskSessionEnd()) ioSession.cancel();
+  });
+  const auto displayChanged = [this] { TellDisplayChange(); };
+  const auto watchScreen = [this, displayChanged](QScreen* inScreen) {
+    connect(inScreen, &QScreen::geometryChanged, this, displayChanged);
+    displayChanged();
+  };
+  for (QScreen* screen : screens()) {
+    connect(screen, &QScreen::geometryChanged, this, displayChanged);
+  }
+  connect(this, &QGuiApplication::screenAdded, this, watchScreen);
+  connect(this, &QGuiApplication::screenRemoved, this, displayChanged);
+}
+
+EventGate::~EventGate() {
+  sGate = nullptr;
+}
+
+EventGate* EventGate::Get() {
+  return sGate;
+}
+
+// The catch is the last net: handlers of ours are guarded where they are called.
+bool EventGate::notify(QObject* inReceiver, QEvent* inEvent) {
+  if (QThread::currentThread() != thread()) return QApplication::notify(inReceiver, inEvent);
+  const StValue<int> depth(mDepth, mDepth + 1);
+  try {
+    return Route(inReceiver, inEvent);
+  } catch (...) {
+    ReportError(std::current_exception());
+    return true;
+  }
+}
+
+bool EventGate::Route(QObject* inReceiver, QEvent* inEvent) {
+  if (inReceiver->isWidgetType()) return RouteWidget(*static_cast<QWidget*>(inReceiver), *inEvent);
+  if (inReceiver->isWindowType()) return RouteWindow(*static_cast<QWindow*>(inReceiver), *inEvent);
+  if (inReceiver == this && inEvent->type() == QEvent::Quit) return HandleQuit();
+  return QApplication::notify(inReceiver, inEvent);
+}
+
+bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
+  if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
+    NodeManagerImpl().capture.End(true);
+  }
+  OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
+  if (!window) return QApplication::notify(&inNative, &inEvent);
+  const lumcore::utility::StKeepAlive keepAlive(*window);
+  switch (inEvent.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+      return HandlePointer(*window, inNative, static_cast<QMouseEvent&>(inEvent));
+    case QEvent::Wheel:
+    case QEvent::Leave:
+      return HandleWheel(*window, inNative, inEvent);
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      return HandleKey(*window, inNative, static_cast<QKeyEvent&>(inEvent));
+    case QEvent::ShortcutOverride:
+      if (HandleShortcutOverride(*window, static_cast<QKeyEvent&>(inEvent))) return true;
+      return QApplication::notify(&inNative, &inEvent);
+    case QEvent::Close:
+      return HandleClose(*window, inEvent);
+    default:
+      return QApplication::notify(&inNative, &inEvent);
+  }
+}
+
+bool EventGate::RouteWidget(QWidget& inWidget, QEvent& inEvent) {
+  const QEvent::Type type = inEvent.type();
+  if (mSwallowMouse && IsPointerEvent(type)) {
+    inEvent.accept();
+    return true;
+  }
+  WatchWidget(inWidget, inEvent);
+  if (!IsRoutedToNodes(type)) return QApplication::notify(&inWidget, &inEvent);
+  const boost::intrusive_ptr<UI_Node> start = NodePeer::NodeOf(&inWidget);
+  const StValue<UI_Node*> startNode(mStartNode, start.get());
+  return QApplication::notify(&inWidget, &inEvent);
+}
+
+void EventGate::WatchWidget(QWidget& inWidget, QEvent& inEvent) {
+  if (!inWidget.isWindow()) return;
+  auto* const manager = NodeManagerImplIfAny();
+  if (!manager) return;
+  if (inEvent.type() == QEvent::WindowDeactivate) {
+    if (UI_Node* const node = NodePeer::NodeOf(&inWidget)) manager->capture.CancelFor(*node);
+  } else if (inEvent.type() == QEvent::Show) {
+    if (inWidget.windowType() == Qt::Popup) manager->capture.End(true);
+    if (inWidget.isModal() && mAnnouncedModals == 0 && Application::Get()->IsHeadless()) {
+      RejectModal(inWidget);
+    }
+  }
+}
+
+bool EventGate::HandToQt(QObject& inReceiver, QEvent& inEvent, const OS_Event& inOSEvent) {
+  const StValue<OS_Event> current(mCurrentOSEvent, inOSEvent);
+  return QApplication::notify(&inReceiver, &inEvent);
+}
+
+bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEvent& inEvent) {
+  // Qt keeps this press for itself and sends the double click next.
+  if (IsPressOfDoubleClick(inEvent)) return QApplication::notify(&inNative, &inEvent);
+  const bool press =
+      inEvent.type() == QEvent::MouseButtonPress || inEvent.type() == QEvent::MouseButtonDblClick;
+  CaptureState& capture = NodeManagerImpl().capture;
+  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inEvent);
+  bool handled = true;
+  {
+    const StValue<bool> inPointerEvent(mInPointerEvent, true);
+    const bool passed = Pass(os, [&] {
+      if (capture.IsRunning()) {
+        const StValue<OS_Event> current(mCurrentOSEvent, os);
+        capture.Deliver(inEvent, os);
+        // Qt still sees the event, or its idea of the held buttons goes stale; no widget does.
+        const StValue<bool> swallow(mSwallowMouse, true);
+        handled = QApplication::notify(&inNative, &inEvent);
+        return;
+      }
+      bool swallowed = false;
+      if (press) {
+        const MouseEvent event = PointerEventOf(
+            inEvent, drawbot::FromQt(QRectF(inEvent.position(), QSizeF())).Origin(), os);
+        RunGuarded([&] { swallowed = UI_Node::UI_DispatchPrePointerEvent(&inWindow, event); });
+      }
+      if (!swallowed) handled = HandToQt(inNative, inEvent, os);
+    });
+    if (!passed) inEvent.accept();
+  }
+  NodeManagerImpl().ApplyCursor();
+  return handled;
+}
+
+// Both turn into a message and go on to Qt as they are.
+bool EventGate::HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEvent) {
+  OS_Event os = inEvent.type() == QEvent::Wheel
+                    ? OSEventOf(inWindow.UI_GetHandle(), static_cast<QWheelEvent&>(inEvent))
+                    : OS_Event(inWindow.UI_GetHandle(), kMessageMouseLeave, 0, 0);
+  bool handled = true;
+  Pass(os, [&] { handled = HandToQt(inNative, inEvent, os); });
+  return handled;
+}
+
+bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent) {
+  // Some window systems repeat a held key as release and press; only the presses are told.
+  if (inEvent.type() == QEvent::KeyRelease && inEvent.isAutoRepeat()) return true;
+  KeyState key;
+  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  OS_Event os = *key.event.GetOSEvent();
+  bool handled = true;
+  bool passed = false;
+  {
+    const StValue<KeyState*> current(mKey, &key);
+    passed = Pass(os, [&] { handled = HandToQt(inNative, inEvent, os); });
+  }
+  if (!passed) {
+    inEvent.accept();
+    return true;
+  }
+  const ModifierKeys modifiers = key.event.GetModKey();
+  const bool chord = modifiers.Has(kModCommand) && !modifiers.Has(kModAlt);
+  const bool takenByControl = inEvent.isAccepted() && !key.takenByNode;
+  if (key.event.IsActionKeyDown() && !key.charactersDropped && !chord && !takenByControl) {
+    const StValue<ModifierKeys> typing(mTypingModifiers, modifiers);
+    TypeCharacters(inWindow, inEvent.text());
+  }
+  return handled;
+}
+
+void EventGate::DropPendingCharacters() {
+  if (mKey) mKey->charactersDropped = true;
+}
+
+void EventGate::NoteKeyTakenByNode() {
+  if (mKey) mKey->takenByNode = true;
+}
+
+void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
+  const lumcore::utility::StKeepAlive keepAlive(inWindow);
+  const ModifierKeys modifiers = mTypingModifiers;
+  for (const QChar character : inText) {
+    if (!IsTyped(character) || !inWindow.UI_GetHandle()) continue;
+    const KeyboardEvent event =
+        CharacterEventOf(inWindow.UI_GetHandle(), character.unicode(), modifiers);
+    OS_Event os = *event.GetOSEvent();
+    Pass(os, [&] {
+      UI_Node* const focus = inWindow.UI_GetFocusNode();
+      const boost::intrusive_ptr<UI_Node> start = focus ? focus : &inWindow;
+      bool taken = false;
+      for (boost::intrusive_ptr<UI_Node> node = start; node && !taken;) {
+        taken = true;
+        RunGuarded([&] { taken = node->UI_DoKeyboardEvent(start.get(), event); });
+        // As for the keys, the walk ends with the window.
+        node = node.get() == &inWindow ? nullptr : node->UI_GetParentNode();
+      }
+    });
+  }
+}
+
+bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
+  if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
+  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  bool claimed = !NodeManagerImpl().mnemonics;
+  const auto claim = mShortcutClaim;
+  if (claim) RunGuarded([&] { claimed = claim(event) || claimed; });
+  if (claimed) inEvent.accept();
+  return claimed;
+}
+
+bool EventGate::HandleClose(OS_Window& inWindow, QEvent& inEvent) {
+  // Qt must not close by itself: that would make a second close event.
+  inEvent.ignore();
+  OS_Event os(inWindow.UI_GetHandle(), kMessageClose, 0, 0);
+  const HWND handle = os.window;
+  bool permitted = false;
+  Pass(os, [&] {
+    const OSEventFunction function = inWindow.UI_GetEventFunction();
+    const bool done = !function || RunGuarded([&] { function(&os); });
+    permitted = done && os.result != 0;
+    // The function may have destroyed it.
+    if (permitted && OS_Window::UI_GetWindow(handle) == &inWindow) {
+      RunGuarded([&] { inWindow.UI_DoClose(); });
+    }
+  });
+  return true;
+}
+
+bool EventGate::HandleQuit() {
+  if (mSessionEnding) {
+    EndSession();
+  } else if (mQuitFunction) {
+    mQuitFunction(0);
+  }
+  return true;
+}
+
+bool EventGate::AskSessionEnd() {
+  bool permitted = true;
+  ForEachWindow([&](OS_Window& inWindow) {
+    if (!permitted) return;
+    permitted = inWindow.UI_SendMessage(kMessageQueryEndSession, 0, 0) != 0;
+  });
+  mSessionEnding = permitted;
+  return permitted;
+}
+
+void EventGate::EndSession() {
+  mSessionEnding = false;
+  ForEachWindow([](OS_Window& inWindow) { inWindow.UI_SendMessage(kMessageEndSession, 1, 0); });
+  if (mQuitFunction) mQuitFunction(0);
+}
+
+void EventGate::TellDisplayChange() {
+  ForEachWindow([](OS_Window& inWindow) { inWindow.UI_SendMessage(kMessageDisplayChange, 0, 0); });
+}
+
+bool EventGate::RunGuarded(const std::function<void()>& inFunction) {
+  try {
+    inFunction();
+    return true;
+  } catch (...) {
+    ReportError(std::current_exception());
+    return false;
+  }
+}
+
+void EventGate::ReportError(const std::exception_ptr& inError) {
+  // A copy: the function may put another in its place.
+  const Application::ErrorFunction function = mErrorFunction;
+  if (!function) return WriteError(inError);
+  try {
+    function(inError);
+  } catch (...) {
+    // The reporter itself failed: both errors go where they can still be seen.
+    WriteError(inError);
+    WriteError(std::current_exception());
+  }
+}
+
+bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch) {
+  const Application::PreEventStep pre = mPreStep;
+  bool goOn = true;
+  if (pre) RunGuarded([&] { goOn = pre(ioEvent); });
+  if (!goOn) return false;
+  inDispatch();
+  const Application::PostEventStep post = mPostStep;
+  if (post) RunGuarded([&] { post(ioEvent); });
+  return true;
+}
+
+void EventGate::PassToWindow(OS_Event& ioEvent) {
+  Pass(ioEvent, [&] {
+    OS_Window* const window = OS_Window::UI_GetWindow(ioEvent.window);
+    const OSEventFunction function = window ? window->UI_GetEventFunction() : nullptr;
+    if (!function) return;
+    const lumcore::utility::StKeepAlive keepAlive(*window);
+    RunGuarded([&] { function(&ioEvent); });
+  });
+}
+
+// A box that nobody can answer would hold the process for ever.
+void EventGate::RejectModal(QWidget& inWidget) {
+  using lumcore::utility::ReplaceInString;
+  const auto text = ReplaceInString(
+      lumcore::config::Localizer::Get()->GetLocalizedString(
+          "$$$/lumui/Error/UnannouncedModal=A modal window opened in a run without a display and "
+          "was closed: \"@0\""),
+      {drawbot::FromQt(inWidget.windowTitle())});
+  QTimer::singleShot(0, &inWidget, [&inWidget] { inWidget.close(); });
+  ReportError(std::make_exception_ptr(lumcore::config::Error(text)));
+}
+
+}  // namespace lumui::ui

@@ -1,0 +1,190 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumui/ui/OS_Window.h"
+
+#include <QApplication>
+#include <QImageWriter>
+#include <QPixmap>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "drawbot/QtConvert.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/debug/Contract.h"
+#include "lumcore/utility/StringUtils.h"
+#include "ui/EventGate.h"
+#include "ui/NodeManagerImpl.h"
+#include "ui/NodePeer.h"
+#include "ui/WindowRegistry.h"
+
+namespace lumui::ui {
+
+namespace {
+
+constexpr unsigned kStyleCaption = 0xC00000;
+constexpr unsigned kStyleSizingFrame = 0x40000;
+constexpr unsigned kStyleDefault = 0xCF0000;  // caption, frame, and the caption's buttons
+
+std::vector<OS_Window*>& Windows() {
+  static std::vector<OS_Window*> sWindows;
+  return sWindows;
+}
+
+// Never used again, so that a handle kept too long finds no other window.
+HWND NewHandle() {
+  static std::uintptr_t sLast = 0;
+  return reinterpret_cast<HWND>(++sLast);
+}
+
+}  // namespace
+
+OS_Window* FindWindowOf(const QWindow& inNative) {
+  for (OS_Window* window : Windows()) {
+    if (NativeOf(*window) == &inNative) return window;
+  }
+  return nullptr;
+}
+
+void ForEachWindow(const std::function<void(OS_Window&)>& inFunction) {
+  const std::vector<OS_Window*> atStart = Windows();
+  for (OS_Window* window : atStart) {
+    const auto& now = Windows();
+    if (std::find(now.begin(), now.end(), window) == now.end()) continue;
+    const lumcore::utility::StKeepAlive keepAlive(*window);
+    inFunction(*window);
+  }
+}
+
+QWindow* NativeOf(const OS_Window& inWindow) {
+  const QWidget* const widget = inWindow.GetPeer()->GetWidget();
+  return widget ? widget->windowHandle() : nullptr;
+}
+
+OS_Window::OS_Window(OSEventFunction inEventFunction, bool inConstructNow)
+    : OS_Window(inEventFunction, std::make_unique<NodePeer>()) {
+  if (inConstructNow) OS_Window::UI_ConstructWindow(nullptr);
+}
+
+OS_Window::OS_Window(OSEventFunction inEventFunction, std::unique_ptr<NodePeer> inPeer)
+    : UI_Node(std::move(inPeer)), mEventFunction(inEventFunction), mStyleFlags(kStyleDefault) {
+  UI_Show(false);
+}
+
+OS_Window::~OS_Window() {
+  UI_DestroyWindow();
+}
+
+OS_Window* OS_Window::UI_GetWindow(HWND inHandle) {
+  for (OS_Window* window : Windows()) {
+    if (inHandle && window->mHandle == inHandle) return window;
+  }
+  return nullptr;
+}
+
+LRESULT OS_Window::UI_DefaultEventProc(HWND, unsigned inMessage, WPARAM, LPARAM) {
+  return OS_Event(nullptr, inMessage, 0, 0).result;
+}
+
+void OS_Window::UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
+  LUM_INPUT_CONTRACT(Application::Get() != nullptr);
+  if (mHandle) return;
+  if (inRect) {
+    UI_SetLocalRectF(lumcore::geom::RectT<float>(
+        static_cast<float>(inRect->x), static_cast<float>(inRect->y),
+        static_cast<float>(inRect->width), static_cast<float>(inRect->height)));
+  }
+  GetPeer()->PlaceIn(nullptr);
+  mHandle = NewHandle();
+  QWidget* const widget = GetPeer()->GetWidget();
+  widget->winId();  // makes the native window, and so windowHandle()
+  Windows().push_back(this);
+  UI_SetWindowStyleFlags(mStyleFlags);
+  widget->setWindowTitle(drawbot::ToQt(mTitle));
+  GetPeer()->ApplyVisible();
+}
+
+void OS_Window::UI_DestroyWindow() {
+  if (!mHandle) return;
+  if (auto* const manager = NodeManagerImplIfAny()) manager->capture.CancelFor(*this);
+  OS_Event destroy(mHandle, kMessageDestroy, 0, 0);
+  // Over before the message is sent: whoever gets it finds no window and may make a new one.
+  mHandle = nullptr;
+  auto& windows = Windows();
+  windows.erase(std::remove(windows.begin(), windows.end(), this), windows.end());
+  GetPeer()->Destroy();
+  EventGate* const gate = EventGate::Get();
+  const OSEventFunction function = mEventFunction;
+  if (!gate) return;
+  gate->Pass(destroy, [&] {
+    if (function) gate->RunGuarded([&] { function(&destroy); });
+  });
+}
+
+void OS_Window::UI_SetTitle(const lumcore::UTF16String& inTitle) {
+  mTitle = inTitle;
+  if (mHandle) GetPeer()->GetWidget()->setWindowTitle(drawbot::ToQt(inTitle));
+}
+
+void OS_Window::UI_SetSize(int inWidth, int inHeight) {
+  if (mHandle) return GetPeer()->ApplySize(inWidth, inHeight);
+  lumcore::geom::RectT<float> rect = UI_GetLocalRectF();
+  rect.width = static_cast<float>(inWidth);
+  rect.height = static_cast<float>(inHeight);
+  UI_SetLocalRectF(rect);
+}
+
+void OS_Window::UI_Activate() {
+  UI_Show(true);
+  if (!mHandle) return;
+  GetPeer()->GetWidget()->raise();
+  GetPeer()->GetWidget()->activateWindow();
+}
+
+bool OS_Window::UI_IsActive() const {
+  return mHandle && GetPeer()->GetWidget()->isActiveWindow();
+}
+
+UI_Node* OS_Window::UI_GetFocusNode() const {
+  return mHandle ? NodePeer::NodeOf(GetPeer()->GetWidget()->focusWidget()) : nullptr;
+}
+
+void OS_Window::UI_SetWindowStyleFlags(unsigned inFlags) {
+  mStyleFlags = inFlags;
+  if (!mHandle) return;
+  QWidget* const widget = GetPeer()->GetWidget();
+  const bool frameless = (inFlags & (kStyleCaption | kStyleSizingFrame)) == 0;
+  if (widget->windowFlags().testFlag(Qt::FramelessWindowHint) == frameless) return;
+  // Qt hides a window whose flags change.
+  widget->setWindowFlag(Qt::FramelessWindowHint, frameless);
+  widget->winId();
+  GetPeer()->ApplyVisible();
+}
+
+LRESULT OS_Window::UI_SendMessage(unsigned inMessage, WPARAM inWParam, LPARAM inLParam) {
+  LUM_INPUT_CONTRACT(mHandle != nullptr);
+  OS_Event event(mHandle, inMessage, inWParam, inLParam);
+  EventGate::Get()->PassToWindow(event);
+  return event.result;
+}
+
+void OS_Window::UI_SavePicture(const lumcore::UTF16String& inPath) {
+  LUM_INPUT_CONTRACT(mHandle != nullptr);
+  const QPixmap picture = GetPeer()->GetWidget()->grab();
+  QImageWriter writer(drawbot::ToQt(inPath), "png");
+  if (writer.write(picture.toImage())) return;
+  throw lumcore::config::Error(lumcore::utility::ReplaceInString(
+      lumcore::config::Localizer::Get()->GetLocalizedString(
+          "$$$/lumui/Error/SavePicture=The picture \"@0\" cannot be written: @1"),
+      {inPath, drawbot::FromQt(writer.errorString())}));
+}
+
+void OS_Window::UI_DoClose() {
+  UI_DestroyWindow();
+}
+
+}  // namespace lumui::ui

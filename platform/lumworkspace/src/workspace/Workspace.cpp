@@ -1,0 +1,61 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumworkspace/workspace/Workspace.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "lumcore/debug/Contract.h"
+#include "lumworkspace/workspace/TopLevelWindow.h"
+
+namespace lumworkspace::workspace {
+
+using lumui::ui::OSEventFunction;
+using lumui::ui::UI_Node;
+
+Workspace::Workspace(lumui::drawbot::SupplierInterface* inSupplier) : mSupplier(inSupplier) {}
+
+// Whoever else holds a window keeps the node, and it has no native part any more.
+Workspace::~Workspace() {
+  const auto windows = std::exchange(mWindows, {});
+  for (const auto& window : windows)
+    window->UI_DestroyWindow();
+}
+
+bool Workspace::ChildRequestRemove(boost::intrusive_ptr<UI_Node> inChild) {
+  const auto child = std::find(mWindows.begin(), mWindows.end(), inChild);
+  if (child == mWindows.end()) return false;
+  const boost::intrusive_ptr<TopLevelWindow> window = *child;
+  mWindows.erase(child);
+  window->UI_DestroyWindow();
+  return true;
+}
+
+void Workspace::CreateMainTopLevelWindow(OSEventFunction inEventFunction) {
+  LUM_INPUT_CONTRACT(GetMainTopLevelWindow() == nullptr);
+  const boost::intrusive_ptr<TopLevelWindow> window(
+      new TopLevelWindow(this, true, inEventFunction));
+  window->ConstructWindow(nullptr);
+  AddChild(window);
+}
+
+boost::intrusive_ptr<TopLevelWindow> Workspace::CreateTopLevelWindow(
+    bool inIsMain, const lumcore::geom::RectT<int>* inRect) {
+  const boost::intrusive_ptr<TopLevelWindow> window(new TopLevelWindow(this, inIsMain, nullptr));
+  window->ConstructWindow(inRect);
+  return window;
+}
+
+void Workspace::AddChild(const boost::intrusive_ptr<TopLevelWindow>& inWindow) {
+  LUM_INPUT_CONTRACT(inWindow && inWindow->GetWorkspace() == this);
+  mWindows.push_back(inWindow);
+}
+
+TopLevelWindow* Workspace::GetMainTopLevelWindow() const {
+  const auto main = std::find_if(mWindows.begin(), mWindows.end(),
+                                 [](const auto& inWindow) { return inWindow->IsMain(); });
+  return main == mWindows.end() ? nullptr : main->get();
+}
+
+}  // namespace lumworkspace::workspace

@@ -1,0 +1,76 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+// Hosts that were compiled earlier call by position, so the order of virtual operations may not
+// change. A pointer to a virtual member holds that position in the Itanium C++ ABI for x86-64: one
+// more than the offset in the table. A destructor takes two positions there.
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+
+#include "vek/selection/Junction.h"
+#include "vek/selection/Manager.h"
+#include "vek/selection/Restorer.h"
+#include "vek/uisupport/CommandHandler.h"
+#include "vek/undo/MultiDeed.h"
+#include "vek/undo/MultiUndoerHooks.h"
+
+namespace {
+
+template <class Member>
+int Position(Member inMember) {
+  std::ptrdiff_t offset = 0;
+  std::memcpy(&offset, &inMember, sizeof(offset));
+  return static_cast<int>((offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)));
+}
+
+template <class... Members>
+std::string Positions(Members... inMembers) {
+  std::string text;
+  ((text += std::to_string(Position(inMembers)) + " "), ...);
+  return text;
+}
+
+// Protected operations are named through a derived class.
+struct DeedProbe : vek::undo::MultiDeed {
+  static std::string Get() {
+    return Positions(&DeedProbe::GetActionString, &DeedProbe::GetUndoDescription,
+                     &DeedProbe::GetRedoDescription, &DeedProbe::Undo, &DeedProbe::Redo,
+                     &DeedProbe::DoStillViable, &DeedProbe::RedoSelf, &DeedProbe::UndoSelf,
+                     &DeedProbe::AddDeed);
+  }
+};
+
+struct HandlerProbe : vek::uisupport::CommandHandler {
+  static std::string Get() {
+    return Positions(&HandlerProbe::SetAsCurrentCommandHandler, &HandlerProbe::DoCallMyCommandChain,
+                     &HandlerProbe::DoCallMyEnablementChain, &HandlerProbe::DoCallEndHoldCommand,
+                     &HandlerProbe::DoGetCommandContext, &HandlerProbe::DoLostCommandFocus,
+                     &HandlerProbe::DoGainedCommandFocus, &HandlerProbe::OnParentHandlerSet,
+                     &HandlerProbe::DoHandleCommand, &HandlerProbe::DoCommandEnabled,
+                     &HandlerProbe::DoEndHoldCommand);
+  }
+};
+
+TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
+  using vek::selection::Junction;
+  using vek::selection::Manager;
+  using vek::selection::Restorer;
+  using Hooks = vek::undo::MultiUndoerHooks;
+  EXPECT_EQ(Positions(&Junction::AllSelectables, &Junction::DefaultSelectables), "2 3 ");
+  EXPECT_EQ(Positions(&Restorer::Restore, &Restorer::MergeIn), "2 3 ");
+  // Behind the destructor and the three operations of the counted base.
+  EXPECT_EQ(Positions(&Manager::SelectAll, &Manager::DeselectAll, &Manager::NewRestorerFactory),
+            "5 6 7 ");
+  EXPECT_EQ(DeedProbe::Get(), "2 3 4 5 6 7 8 9 10 ");
+  EXPECT_EQ(Positions(&Hooks::WillPostDeed, &Hooks::DidPostDeed, &Hooks::WillUndoDeed,
+                      &Hooks::DidUndoDeed, &Hooks::WillRedoDeed, &Hooks::DidRedoDeed),
+            "2 3 4 5 6 7 ");
+  // The destructor stands second.
+  EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
+}
+
+}  // namespace

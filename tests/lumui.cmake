@@ -1,0 +1,31 @@
+# The platform's windows, on a platform of Qt that shows nothing.
+vek_test(lumui_tests
+  SOURCES
+    lumui/EventGateTest.cpp
+    lumui/EventLoopTest.cpp
+    lumui/InputCaptureTest.cpp
+    lumui/KeyboardCodeTest.cpp
+    lumui/MessageDialogTest.cpp
+    lumui/NativeSideTest.cpp
+    lumui/ScrollViewTest.cpp
+    lumui/TimerTest.cpp
+    lumui/WindowTest.cpp
+    lumui/UITest.cpp
+  LIBRARIES lumui Qt6::Widgets)
+set_tests_properties(lumui_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+
+# The same on a real X server with a window manager, where the tools for one are installed.
+foreach(tool Xvfb openbox xdotool xprop setxkbmap)
+  find_program(VEK_${tool} ${tool})
+  if(NOT VEK_${tool})
+    message(STATUS "No ${tool}: tests on a real display are left out")
+    return()
+  endif()
+endforeach()
+add_executable(lumui_display_tests lumui/RealDisplayTest.cpp lumui/UITest.cpp)
+target_link_libraries(lumui_display_tests PRIVATE vek_test_support lumui vek_build_options)
+add_test(NAME lumui_display_tests
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh $<TARGET_FILE:lumui_display_tests>
+    --gtest_brief=1
+    --gtest_output=json:${CMAKE_CURRENT_BINARY_DIR}/results/lumui_display_tests.json)
+set_tests_properties(lumui_display_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=xcb TIMEOUT 60)

@@ -1,0 +1,76 @@
+# What a host's developer does: installs the build, moves the installation elsewhere, and builds the
+# first host of the docs against it, outside this tree. A second program of that project includes
+# every installed header, and no file of Qt may be among what the compiler has read for either.
+# Needs SOURCE_DIR, BUILD_DIR, WORK_DIR and CXX.
+file(REMOVE_RECURSE ${WORK_DIR})
+set(prefix ${WORK_DIR}/moved)
+set(host ${WORK_DIR}/host)
+
+function(run what)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT result EQUAL 0)
+    string(REPLACE "\n" "\n  " output "${output}")  # shown as it stands
+    message(FATAL_ERROR "${what} failed (${result}):\n  ${output}")
+  endif()
+  set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+run("installing" ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
+file(RENAME ${WORK_DIR}/installed ${prefix})
+
+file(COPY ${SOURCE_DIR}/docs/firsthost/ DESTINATION ${host})
+file(GLOB_RECURSE headers RELATIVE ${prefix}/include ${prefix}/include/*.h)
+list(LENGTH headers header_count)
+if(header_count LESS 20)
+  message(FATAL_ERROR "only ${header_count} headers are installed: ${headers}")
+endif()
+list(FILTER headers EXCLUDE REGEX "_win\\.h$")  # the half of a header that Windows alone reads
+list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n")
+list(JOIN headers "" includes)
+file(WRITE ${host}/everyheader.cpp "${includes}int main() {}\n")
+file(APPEND ${host}/CMakeLists.txt "
+add_executable(everyheader everyheader.cpp)
+target_link_libraries(everyheader PRIVATE vek::vek)
+target_compile_options(firsthost PRIVATE -Wall -Wextra -Werror)
+target_compile_options(everyheader PRIVATE -Wall -Wextra -Werror)
+")
+
+# The only hint it gets is where the installation lies.
+run("configuring the host" ${CMAKE_COMMAND} -S ${host} -B ${host}/build
+  -G "Unix Makefiles" -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_PREFIX_PATH=${prefix})
+run("building the host" ${CMAKE_COMMAND} --build ${host}/build --parallel 2)
+
+file(GLOB_RECURSE dependency_files ${host}/build/*.cpp.o.d)
+list(LENGTH dependency_files dependency_file_count)
+if(NOT dependency_file_count EQUAL 2)
+  message(FATAL_ERROR "no lists of what the compiler has read: ${dependency_files}")
+endif()
+foreach(file IN LISTS dependency_files)
+  file(READ ${file} dependencies)
+  if(NOT dependencies MATCHES "/moved/include/vek/undo/Deed\\.h")
+    message(FATAL_ERROR "${file} was not compiled against the installed headers:\n${dependencies}")
+  endif()
+  if(dependencies MATCHES "[^ \n]*/qglobal\\.h")  # every header of Qt reads it
+    message(FATAL_ERROR "a header of Qt was needed: ${CMAKE_MATCH_0}")
+  endif()
+endforeach()
+
+run("the host" ${host}/build/firsthost)
+file(READ ${SOURCE_DIR}/tests/package/expected.txt expected)
+if(NOT output STREQUAL expected)
+  message(FATAL_ERROR "the host wrote\n${output}\nand not\n${expected}")
+endif()
+
+# What is installed must find its libraries by itself, wherever it was moved to.
+file(GLOB programs ${prefix}/bin/*)
+foreach(file IN LISTS programs)
+  if(NOT IS_SYMLINK ${file})
+    run("ldd" ldd ${file})
+    if(output MATCHES "[^\n]*not found[^\n]*")
+      message(FATAL_ERROR "${file}: ${CMAKE_MATCH_0}")
+    endif()
+    if(output MATCHES "${BUILD_DIR}/lib[^\n]*")
+      message(FATAL_ERROR "${file} still uses the build tree: ${CMAKE_MATCH_0}")
+    endif()
+  endif()
+endforeach()
