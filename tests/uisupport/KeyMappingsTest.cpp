@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include <boost/make_shared.hpp>
-#include <initializer_list>
 
 #include "uisupport/KeyFixture.h"
 
@@ -81,60 +80,43 @@ TEST_F(KeyMappings, TheLastMappingOfACommandIsShown) {
   EXPECT_EQ(U8(text), "Alt+C");
 }
 
-TEST_F(KeyMappings, KeysAreShownByName) {
-  const struct {
-    std::uint32_t code;
-    unsigned char modifiers;
-    const char* text;
-  } rows[] = {
-      {0x8000005A, 0, "Z"},
-      {0x8000005A, 31, "Ctrl+Shift+Alt+Z"},
-      {0x8000005A, 1, "Ctrl+Z"},
-      {0x8000005A, 8, "Z"},
-      {0x800000DC, 4, "Ctrl+\xC3\x9C"},
-      {0x80000020, 0, " "},
-      {0x01, 0, "Space"},
-      {0x02, 0, "Backspace"},
-      {0x03, 0, "Tab"},
-      {0x04, 0, "Return"},
-      {0x05, 0, "Enter"},
-      {0x06, 2, "Shift+Esc"},
-      {0x07, 0, "F1"},
-      {0x12, 0, "F12"},
-      {0x21, 0, "Pause"},
-      {0x22, 0, "Ins"},
-      {0x23, 0, "Del"},
-      {0x24, 0, "Home"},
-      {0x25, 0, "End"},
-      {0x26, 0, "Page Up"},
-      {0x27, 0, "Page Down"},
-      {0x2A, 0, "Left Arrow"},
-      {0x2B, 0, "Right Arrow"},
-      {0x2C, 0, "Up Arrow"},
-      {0x2D, 0, "Down Arrow"},
-      {0x32, 0, "Shift"},
-      {0x4000002E, 0, "Num Lock"},
-      {0xC000002A, 0, "Num *"},
-      {0xC000002B, 4, "Ctrl+Num +"},
-      {0xC000002D, 0, "Num -"},
-      {0xC000002E, 0, "Num ."},
-      {0xC000002F, 0, "Num /"},
-      {0xC000003D, 0, "Num ="},
-      {0xC0000030, 0, "Num 0"},
-      {0xC0000039, 0, "Num 9"},
-      // The extended form has a name of its own or none, and takes the modifiers with it.
-      {0x40000023, 4, ""},
-      {0x13, 4, ""},
-      {0x2E, 0, ""},
-      {0, 31, ""},
-      {0xC0000041, 0, "A"},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(U8(KeyCommandManager::GetShortcutString(KeyboardCode(row.code),
-                                                      ModifierKeys(row.modifiers))),
-              row.text)
-        << row.code;
+std::string Shown(std::uint32_t inCode, unsigned char inModifiers) {
+  return U8(KeyCommandManager::GetShortcutString(KeyboardCode(inCode), ModifierKeys(inModifiers)));
+}
+
+// "1 Space, 2 Backspace": what is longer than a character, from a code on to the end of its row.
+std::string Named(std::uint32_t inFirst) {
+  std::string text;
+  for (std::uint32_t code = inFirst; code < inFirst + 0x60; ++code) {
+    char number[16];
+    std::snprintf(number, sizeof number, "%X ", code);
+    const std::string name = Shown(code, 0);
+    if (name.size() > 1) text += (text.empty() ? "" : ", ") + (number + name);
   }
+  return text;
+}
+
+TEST_F(KeyMappings, KeysAreShownByName) {
+  EXPECT_EQ(Named(0),
+            "1 Space, 2 Backspace, 3 Tab, 4 Return, 5 Enter, 6 Esc, 7 F1, 8 F2, 9 F3, A F4, B F5, "
+            "C F6, D F7, E F8, F F9, 10 F10, 11 F11, 12 F12, 21 Pause, 22 Ins, 23 Del, 24 Home, "
+            "25 End, 26 Page Up, 27 Page Down, 2A Left Arrow, 2B Right Arrow, 2C Up Arrow, "
+            "2D Down Arrow, 32 Shift");
+  EXPECT_EQ(Named(0x40000000), "4000002E Num Lock");
+  EXPECT_EQ(Named(0x80000000), "");
+  EXPECT_EQ(Named(0xC0000000),
+            "C000002A Num *, C000002B Num +, C000002D Num -, C000002E Num ., C000002F Num /, "
+            "C0000030 Num 0, C0000031 Num 1, C0000032 Num 2, C0000033 Num 3, C0000034 Num 4, "
+            "C0000035 Num 5, C0000036 Num 6, C0000037 Num 7, C0000038 Num 8, C0000039 Num 9, "
+            "C000003D Num =");
+
+  EXPECT_EQ(Shown(0x8000005A, 31), "Ctrl+Shift+Alt+Z");
+  EXPECT_EQ(Shown(0x8000005A, 1), "Ctrl+Z");
+  EXPECT_EQ(Shown(0x8000005A, 8), "Z");
+  EXPECT_EQ(Shown(0xC0000041, 4), "Ctrl+A");
+  EXPECT_EQ(Shown(0x800000DC, 16), "Alt+\xC3\x9C");
+  EXPECT_EQ(Shown(0x26, 2), "Shift+Page Up");
+  EXPECT_EQ(Shown(0x13, 31), "");  // no name, and so no modifiers
 }
 
 TEST_F(KeyMappings, CallbacksHearWhatTheyAreToldInTheirOrder) {

@@ -4,6 +4,8 @@
 #include "vek/uisupport/CommandRegistryParseHandler.h"
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
@@ -14,7 +16,6 @@
 namespace vek::uisupport {
 
 using lumcore::UTF16String;
-using lumcore::utility::ToStdString;
 
 namespace {
 
@@ -28,13 +29,19 @@ enum State {
   kInRepeatable,
 };
 
-State StateFor(const std::string& inElement) {
-  if (inElement == "cmd") return kInCommand;
-  if (inElement == "name") return kInName;
-  if (inElement == "displayname") return kInDisplayName;
-  if (inElement == "id") return kInId;
-  if (inElement == "description") return kInDescription;
-  if (inElement == "repeatable") return kInRepeatable;
+constexpr std::pair<std::string_view, State> kElements[] = {
+    {"cmd", kInCommand},
+    {"name", kInName},
+    {"displayname", kInDisplayName},
+    {"id", kInId},
+    {"description", kInDescription},
+    {"repeatable", kInRepeatable},
+};
+
+State StateFor(const UTF16String& inName) {
+  for (const auto& [text, state] : kElements) {
+    if (IsText(inName, text)) return state;
+  }
   return kOutside;
 }
 
@@ -46,7 +53,7 @@ void StripBrackets(std::string& ioKey) {
 }
 
 UTF16String Localize(const UTF16String& inText) {
-  std::string key = ToStdString(inText);
+  std::string key = lumcore::utility::ToStdString(inText);
   StripBrackets(key);
   return lumcore::config::Localizer::Get()->GetLocalizedString(key.c_str());
 }
@@ -60,7 +67,7 @@ CommandRegistryParseHandler::~CommandRegistryParseHandler() = default;
 
 void CommandRegistryParseHandler::StartElement(const UTF16String& inName,
                                                const lumcore::xml::Attributes& inAttributes) {
-  mState = StateFor(ToStdString(inName));
+  mState = StateFor(inName);
   if (mState == kInCommand) StartCommand(inAttributes);
 }
 
@@ -94,14 +101,16 @@ UTF16String* CommandRegistryParseHandler::GetTextOfState() {
 
 void CommandRegistryParseHandler::EndElement(const UTF16String& inName) {
   mState = kOutside;
-  if (ToStdString(inName) != "cmd" || !mSystemMatches) return;
+  if (!IsText(inName, "cmd") || !mSystemMatches) return;
   const int id = DetermineId();
-  CommandRegistry::Get().RegisterCommand(id, mName, Localize(mDisplayName), Localize(mDescription),
-                                         ToStdString(mRepeatable) == "true");
+  const UTF16String displayName = Localize(mDisplayName);
+  const UTF16String description = Localize(mDescription);
+  CommandRegistry::Get().RegisterCommand(id, mName, displayName, description,
+                                         IsText(mRepeatable, "true"));
 }
 
 int CommandRegistryParseHandler::DetermineId() const {
-  if (!mId.empty()) return ReadNumber<int>(ToStdString(mId));
+  if (!mId.empty()) return ReadNumber<int>(mId);
   return mReserveSyntheticIds ? SyntheticCmdMgr::Get().ReserveCmd() : 0;
 }
 

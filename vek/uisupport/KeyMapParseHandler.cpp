@@ -4,7 +4,7 @@
 #include "vek/uisupport/KeyMapParseHandler.h"
 
 #include <memory>
-#include <string>
+#include <string_view>
 #include <utility>
 
 #include "lumcore/utility/StringUtils.h"
@@ -15,7 +15,6 @@
 namespace vek::uisupport {
 
 using lumcore::UTF16String;
-using lumcore::utility::ToStdString;
 using lumui::ui::KeyboardCode;
 
 namespace {
@@ -37,7 +36,7 @@ enum Element {
   kOther,
 };
 
-constexpr std::pair<const char*, Element> kElements[] = {
+constexpr std::pair<std::string_view, Element> kElements[] = {
     {"keycmd", kMapping},  {"cmd", kCommand},         {"uchar", kCharacter},
     {"key", kControlCode}, {"ctx", kContext},         {"shift", kShift},
     {"alt", kAlt},         {"cmdkey", kCommandKey},   {"hold", kHold},
@@ -45,9 +44,8 @@ constexpr std::pair<const char*, Element> kElements[] = {
 };
 
 Element ElementFor(const UTF16String& inName) {
-  const std::string name = ToStdString(inName);
   for (const auto& [text, element] : kElements) {
-    if (name == text) return element;
+    if (IsText(inName, text)) return element;
   }
   return kOther;
 }
@@ -141,7 +139,7 @@ void KeyMapParseHandler::TakeCharacter() {
 }
 
 void KeyMapParseHandler::TakeControlCode() {
-  mControlCode = ReadNumber<unsigned short>(ToStdString(mText));
+  mControlCode = ReadNumber<unsigned short>(mText);
   mKeyGivenByCode = true;
 }
 

@@ -21,7 +21,9 @@ class VEK_API RegisteredCommand {
                     const lumcore::UTF16String& inDescription, bool inRepeatable);
   virtual ~RegisteredCommand();
   RegisteredCommand(const RegisteredCommand&) = default;
+  RegisteredCommand(RegisteredCommand&&) = default;
   RegisteredCommand& operator=(const RegisteredCommand&) = default;
+  RegisteredCommand& operator=(RegisteredCommand&&) = default;
 
   int GetCommandID() const { return mCommandID; }
   lumcore::UTF16String GetName() const { return mName; }
