@@ -11,6 +11,7 @@ vek_test(lumui_tests
     lumui/TimerTest.cpp
     lumui/WindowTest.cpp
     lumui/UITest.cpp
+    support/UIApplication.cpp
   LIBRARIES lumui Qt6::Widgets)
 set_tests_properties(lumui_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 
@@ -22,7 +23,8 @@ foreach(tool Xvfb openbox xdotool xprop setxkbmap)
     return()
   endif()
 endforeach()
-add_executable(lumui_display_tests lumui/RealDisplayTest.cpp lumui/UITest.cpp)
+add_executable(lumui_display_tests
+  lumui/RealDisplayTest.cpp lumui/UITest.cpp support/UIApplication.cpp)
 target_link_libraries(lumui_display_tests PRIVATE vek_test_support lumui vek_build_options)
 add_test(NAME lumui_display_tests
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh $<TARGET_FILE:lumui_display_tests>

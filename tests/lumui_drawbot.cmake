@@ -1,6 +1,6 @@
 vek_test(lumui_drawbot_tests
   SOURCES
-    support/GuiApplication.cpp
+    support/UIApplication.cpp
     lumui/drawbotClipTest.cpp
     lumui/drawbotImageTest.cpp
     lumui/drawbotShapesTest.cpp

@@ -26,16 +26,20 @@ void MoveRowsDeed::RedoSelf() {
   mParent = source.GetId();
   mIndex = first.GetIndex();
   mMarkup.StayBehind(tree, source, mIndex, mCount);
-  auto rows = tree.RemoveRows(source, mIndex, mCount);
+  mLeadings.clear();
 
   OutlineRow& anchor = *tree.FindRow(mTarget.row);
   const bool goesBelow = mTarget.place == MoveTarget::kLastBelow;
   OutlineRow& target = goesBelow ? anchor : *anchor.GetParent();
-  std::size_t index = anchor.GetChildCount();
-  if (!goesBelow) index = anchor.GetIndex() + (mTarget.place == MoveTarget::kAfter ? 1 : 0);
-  tree.InsertRows(target, index, std::move(rows));
-  mLeadings.clear();
-  if (&target != &source) AdaptWhiteSpace(target, index);
+  std::size_t index = goesBelow ? anchor.GetChildCount() : anchor.GetIndex();
+  if (mTarget.place == MoveTarget::kAfter) ++index;
+  if (&target == &source) {
+    // The rows themselves are counted in a place that lies behind them.
+    tree.MoveRowsWithin(source, mIndex, mCount, index > mIndex ? index - mCount : index);
+  } else {
+    tree.InsertRows(target, index, tree.RemoveRows(source, mIndex, mCount));
+    AdaptWhiteSpace(target, index);
+  }
 }
 
 // White space of their own would leave the rows at the indentation of another level.
@@ -50,10 +54,16 @@ void MoveRowsDeed::AdaptWhiteSpace(OutlineRow& inParent, std::size_t inIndex) {
 void MoveRowsDeed::UndoSelf() {
   OutlineTree& tree = mDocument.GetTree();
   const OutlineRow& first = *tree.FindRow(mFirst);
-  auto rows = tree.RemoveRows(*first.GetParent(), first.GetIndex(), mCount);
-  for (std::size_t row = 0; row < mLeadings.size(); ++row)
-    tree.SetLeading(*rows[row], mLeadings[row]);
-  tree.InsertRows(*tree.FindRow(mParent), mIndex, std::move(rows));
+  OutlineRow& source = *tree.FindRow(mParent);
+  OutlineRow& target = *first.GetParent();
+  if (&target == &source) {
+    tree.MoveRowsWithin(source, first.GetIndex(), mCount, mIndex);
+  } else {
+    auto rows = tree.RemoveRows(target, first.GetIndex(), mCount);
+    for (std::size_t row = 0; row < mLeadings.size(); ++row)
+      tree.SetLeading(*rows[row], mLeadings[row]);
+    tree.InsertRows(source, mIndex, std::move(rows));
+  }
   mMarkup.Return(tree);
 }
 

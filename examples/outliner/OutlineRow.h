@@ -10,6 +10,7 @@
 
 #include "TextPool.h"
 #include "lumcore/Strings.h"
+#include "lumcore/memory/STLAllocator.h"
 #include "vek/selection/Node.h"
 
 namespace outliner {
@@ -35,6 +36,12 @@ class OutlineRow final : public vek::selection::Node {
   ~OutlineRow() override;
   OutlineRow(const OutlineRow&) = delete;
   OutlineRow& operator=(const OutlineRow&) = delete;
+
+  // Rows come by the hundred thousand: from the pool of small blocks.
+  static void* operator new(std::size_t inBytes) { return lumcore::memory::AllocateBlock(inBytes); }
+  static void operator delete(void* inBlock, std::size_t inBytes) {
+    lumcore::memory::FreeBlock(inBlock, inBytes);
+  }
 
   Id GetId() const { return mId; }
   const lumcore::UTF16String& GetText() const { return mText; }

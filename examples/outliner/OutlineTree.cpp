@@ -55,12 +55,12 @@ bool StartsWith(TextView inText, TextView inStart) {
 
 OutlineTree::OutlineTree() {
   mMarkup.Intern(Text("by layout"));  // holds number 0, and is never looked at
-  mMarkup.Intern({});
+  mMarkup.Intern(UTF16String());
   mRoot.reset(new OutlineRow(0));
   mRowsById.push_back(mRoot.get());
   mEnvelope.before = Text(
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<opml version=\"2.0\">\n  <head>\n"
-      "    <title></title>\n  </head>\n  <body");
+      "    <title/>\n  </head>\n  <body");
   mEnvelope.after = Text("\n</opml>\n");
   mEnvelope.encoding = "UTF-8";
   FindLayout();
@@ -73,6 +73,7 @@ OutlineRow* OutlineTree::FindRow(OutlineRow::Id inId) const {
 const std::vector<OutlineRow*>& OutlineTree::GetLines() const {
   if (!mLinesKnown) {
     mLines.clear();
+    mLines.reserve(mRowsById.size());
     VisitRows(*mRoot, [this](OutlineRow& inRow) {
       if (&inRow == mRoot.get()) return;
       inRow.mLine = static_cast<std::uint32_t>(mLines.size());
@@ -138,6 +139,22 @@ OutlineTree::Rows OutlineTree::RemoveRows(OutlineRow& inParent, std::size_t inIn
   }
   mLinesKnown = false;
   return rows;
+}
+
+void OutlineTree::MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount,
+                                 std::size_t inNewIndex) {
+  const auto at = [&](std::size_t inPlace) {
+    return inParent.mChildren.begin() + static_cast<std::ptrdiff_t>(inPlace);
+  };
+  if (inNewIndex < inIndex) {
+    std::rotate(at(inNewIndex), at(inIndex), at(inIndex + inCount));
+  } else {
+    std::rotate(at(inIndex), at(inIndex + inCount), at(inNewIndex + inCount));
+  }
+  const std::size_t end = std::max(inIndex, inNewIndex) + inCount;
+  for (std::size_t index = std::min(inIndex, inNewIndex); index < end; ++index)
+    inParent.mChildren[index]->mIndex = static_cast<std::uint32_t>(index);
+  mLinesKnown = false;
 }
 
 void OutlineTree::SetInTree(OutlineRow& inRow, bool inPresent) {
@@ -262,12 +279,16 @@ void OutlineTree::AdoptLayout() {
     const TextPool::Id trailing = inRow.mChildren.empty() ? kNothing : atDepth(inDepth);
     if (inRow.mTrailing == trailing) inRow.mTrailing = kByLayout;
   };
+  // What grew row by row holds up to twice what it needs.
+  mRowsById.shrink_to_fit();
+  mRoot->mChildren.shrink_to_fit();
   adopt(*mRoot, 0);
   std::vector<std::size_t> depths;
   depths.reserve(GetLines().size());
   for (OutlineRow* row : GetLines()) {
     depths.push_back(row->mParent == mRoot.get() ? 1 : depths[row->mParent->mLine] + 1);
     adopt(*row, depths.back());
+    row->mChildren.shrink_to_fit();
   }
 }
 

@@ -64,6 +64,10 @@ class OutlineTree {
   // Puts rows, with what is below them, in front of the child numbered inIndex.
   void InsertRows(OutlineRow& inParent, std::size_t inIndex, Rows inRows);
   Rows RemoveRows(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount);
+  // To another place under the same parent, where the first of them then has the number inNewIndex.
+  // It costs what lies between, while removing and inserting cost the length of the list.
+  void MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount,
+                      std::size_t inNewIndex);
 
   // Characters that XML does not allow become U+FFFD.
   void SetText(OutlineRow& inRow, const lumcore::UTF16String& inText);

@@ -7,11 +7,11 @@
 #include <string>
 
 #include "hosts/OutlineText.h"
-#include "hosts/TempFolder.h"
 #include "lumcore/filesupport/FileError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "outliner/OpmlWriter.h"
 #include "outliner/OutlineEdits.h"
+#include "support/TemporaryFolder.h"
 #include "vek/undo/ClearUndoStackDeed.h"
 
 namespace {
@@ -35,9 +35,9 @@ std::string Contents(const File& inFile) {
 
 class OutlineDocumentTest : public testing::Test {
  protected:
-  File MakeFile(const char* inName) const { return File(mFolder.GetDir(), inName); }
+  File MakeFile(const char* inName) const { return mFolder.GetFile(inName); }
 
-  tests::TempFolder mFolder;
+  TemporaryFolder mFolder;
 };
 
 TEST_F(OutlineDocumentTest, IsDirtyExactlyWhileItDiffersFromItsFile) {

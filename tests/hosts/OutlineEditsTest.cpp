@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -271,6 +272,66 @@ TEST(OutlineEdits, NewRowsTakeOnTheLayoutOfTheFile) {
   edits::NewChild(dense);
   EXPECT_EQ(outliner::WriteOpml(dense.GetTree()),
             "<opml><body><outline text=\"a\"/><outline text=\"\"/></body></opml>");
+}
+
+// Rows with comments, elements of others and odd white space between them, up to four levels deep.
+std::string MakeMixedFile(std::mt19937& ioRandom) {
+  std::string text = "<opml version=\"2.0\">\n<body>";
+  int open = 0;
+  for (int row = 0; row < 40; ++row) {
+    const char* const kBetween[] = {"\n  ", "\n", "", "<!-- c -->",
+                                    "\n <x:e xmlns:x=\"u\">t</x:e> "};
+    text += kBetween[ioRandom() % 5];
+    const bool opens = open < 4 && ioRandom() % 2 == 0;
+    text += "<outline text=\"" + std::to_string(row) + (opens ? "\">" : "\"/>");
+    open += opens;
+    while (open > 0 && ioRandom() % 3 == 0) {
+      text += ioRandom() % 4 == 0 ? "<!-- e --></outline>" : "\n</outline>";
+      --open;
+    }
+  }
+  while (open-- > 0)
+    text += "\n</outline>";
+  return text + "\n</body>\n</opml>\n";
+}
+
+void DoAnyEdit(OutlineDocument& ioDocument, std::mt19937& ioRandom) {
+  const EditFunction kEdits[] = {NewSibling,    NewChild,       edits::Delete, edits::Indent,
+                                 edits::Indent, edits::Outdent, edits::MoveUp, edits::MoveDown};
+  std::vector<OutlineRow*> selected;
+  for (OutlineRow* row : ioDocument.GetTree().GetLines()) {
+    if (ioRandom() % 8 == 0) selected.push_back(row);
+  }
+  ioDocument.SelectRows(selected);
+  kEdits[ioRandom() % 8](ioDocument);
+}
+
+TEST(OutlineEdits, AnyRunOfEditsIsTakenBackAndRepeatedToTheByte) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const std::string file = MakeMixedFile(random);
+    OutlineDocument document(tests::Read(file), lumcore::filesupport::File("o.opml"));
+    const auto write = [&] { return outliner::WriteOpml(document.GetTree()); };
+    std::vector<std::string> states{write()};
+    ASSERT_EQ(states.front(), file);
+    for (int edit = 0; edit < 60; ++edit) {
+      DoAnyEdit(document, random);
+      if (document.GetUndoer().size() == states.size()) states.push_back(write());
+      // What is on the screen is what the file says.
+      OutlineDocument reread(tests::Read(write()), lumcore::filesupport::File("o.opml"));
+      document.SelectRows({});
+      ASSERT_EQ(Show(reread), Show(document));
+    }
+    for (std::size_t state = states.size() - 1; state-- > 0;) {
+      edits::Undo(document);
+      ASSERT_EQ(write(), states[state]);
+    }
+    for (std::size_t state = 1; state < states.size(); ++state) {
+      edits::Redo(document);
+      ASSERT_EQ(write(), states[state]);
+    }
+  }
 }
 
 TEST(OutlineSelection, MovesByRowsAndStaysAtTheEnds) {

@@ -3,33 +3,12 @@
 
 #include "UITest.h"
 
-#include <cstdlib>
 #include <exception>
-#include <memory>
 #include <sstream>
 
 namespace lumui::test {
 
 namespace {
-
-class ApplicationEnvironment : public ::testing::Environment {
- public:
-  void SetUp() override {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    mApplication = std::make_unique<ui::Application>(mCount, mArguments);
-    mApplication->PumpPendingEvents();
-  }
-  void TearDown() override { mApplication.reset(); }
-
- private:
-  char mName[11] = "lumuitests";
-  char* mArguments[2] = {mName, nullptr};
-  int mCount = 1;
-  std::unique_ptr<ui::Application> mApplication;
-};
-
-::testing::Environment* const sEnvironment =
-    ::testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
 
 std::string At(const Point& inPoint) {
   std::ostringstream text;

@@ -7,7 +7,7 @@
 #include "support/DrawbotPictures.h"
 
 using namespace lumui::drawbot;
-using namespace vek_test;
+using namespace test_support;
 
 namespace {
 
@@ -36,7 +36,7 @@ TEST_F(Clipping, NestedClipsNarrowAndThePopWidensAgain) {
   }
   EXPECT_EQ(ToText(drawbot.GetClipBounds()), "0 0 8 6");
   drawbot.FillRect(Rect(0, 5, 2, 1), kGreen);
-  EXPECT_EQ(vek_test::ToText(*surface),
+  EXPECT_EQ(test_support::ToText(*surface),
             "........\n"
             "...RRRR.\n"
             "...RRRR.\n"
@@ -77,7 +77,8 @@ TEST_F(Clipping, NothingIsDrawnThroughClipsThatDoNotMeet) {
     drawbot.ClipRect(Rect(0, 0, 8, 8));
     drawbot.FillRect(Rect(0, 0, 8, 8), kRed);
     drawbot.StrokeLine(Point(0, 2), Point(8, 2), Pen(kRed, 2));
-    EXPECT_EQ(vek_test::ToText(*surface), vek_test::ToText(*NewSurface(8, 8))) << ToText(clip);
+    EXPECT_EQ(test_support::ToText(*surface), test_support::ToText(*NewSurface(8, 8)))
+        << ToText(clip);
   }
 }
 
@@ -93,7 +94,7 @@ TEST_F(Clipping, PathClipsToItsShapeAndReportsItsBounds) {
     EXPECT_EQ(ToText(drawbot.GetClipBounds()), "0 0 5 3");
     drawbot.FillRect(Rect(0, 0, 6, 4), kGreen);
   }
-  EXPECT_EQ(vek_test::ToText(*surface),
+  EXPECT_EQ(test_support::ToText(*surface),
             "GG....\n"
             "GG.GG.\n"
             "...GG.\n"
@@ -111,5 +112,5 @@ TEST_F(Clipping, StateComesBackAfterAThrowAndAPopTooManyIsRefused) {
   }
   EXPECT_THROW(drawbot.PopState(), lumcore::config::Error);
   drawbot.FillRect(Rect(1, 0, 2, 1), kRed);
-  EXPECT_EQ(vek_test::ToText(*surface), ".RR.\n");
+  EXPECT_EQ(test_support::ToText(*surface), ".RR.\n");
 }

@@ -10,7 +10,7 @@
 #include "support/DrawbotPictures.h"
 
 using namespace lumui::drawbot;
-using namespace vek_test;
+using namespace test_support;
 
 namespace {
 

@@ -14,7 +14,7 @@
 #include "support/DrawbotPictures.h"
 
 using namespace lumui::drawbot;
-using namespace vek_test;
+using namespace test_support;
 using lumcore::UTF16String;
 using lumcore::utility::ToUTF16;
 

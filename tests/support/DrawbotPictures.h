@@ -11,9 +11,8 @@
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/drawbot/Surface.h"
-#include "support/GuiApplication.h"
 
-namespace vek_test {
+namespace test_support {
 
 using lumui::drawbot::ColorRGBA;
 using Point = lumui::drawbot::Drawbot::Point;
@@ -24,11 +23,9 @@ inline constexpr ColorRGBA kGreen(0, 1, 0);
 inline constexpr ColorRGBA kBlue(0, 0, 1);
 inline constexpr ColorRGBA kBlack(0, 0, 0);
 
-// A test that draws: it has an application object, the supplier and pictures as text.
+// A test that draws, with the supplier and pictures as text. Its program links UIApplication.cpp.
 class DrawbotTest : public testing::Test {
  protected:
-  DrawbotTest() { EnsureGuiApplication(); }
-
   boost::intrusive_ptr<lumui::drawbot::Surface> NewSurface(float inWidth, float inHeight,
                                                            float inScale = 1) const {
     return mSupplier.NewSurface(inWidth, inHeight, inScale);
@@ -56,4 +53,4 @@ inline std::string ToText(const lumui::drawbot::Surface& inSurface) {
   return text;
 }
 
-}  // namespace vek_test
+}  // namespace test_support

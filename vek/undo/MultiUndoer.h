@@ -53,8 +53,8 @@ class VEK_API MultiUndoer : public lumcore::utility::RefCountedObject {
   // The number of undone deeds on the stack: 0 is the newest state.
   std::size_t GetLevel() const;
   // Moves by as many deeds as the levels differ and restores the selection of the last one only. A
-  // level that is negative or above size() moves nothing. Each deed on the way counts as a step, also
-  // one that refuses. The deeds and hooks on the way must not move or post on this undoer.
+  // level that is negative or above size() moves nothing. Each deed on the way counts as a step,
+  // also one that refuses. The deeds and hooks on the way must not move or post on this undoer.
   void GotoLevel(int inLevel);
 
   // The deeds on both sides of the position, or null. They say where the position is; whether a

@@ -141,7 +141,8 @@ void OS_Window::UI_SetSize(int inWidth, int inHeight) {
 void OS_Window::UI_Activate() {
   UI_Show(true);
   if (!mHandle) return;
-  GetPeer()->GetWidget()->raise();
+  // Without a display no window lies above another, and the platform says so each time.
+  if (!Application::Get()->IsHeadless()) GetPeer()->GetWidget()->raise();
   GetPeer()->GetWidget()->activateWindow();
 }
 
