@@ -3,20 +3,22 @@
 
 #pragma once
 
+#include <algorithm>
 #include <boost/function.hpp>
 #include <boost/shared_ptr.hpp>
 #include <list>
+#include <utility>
 
 #include "vek/utility/ScopedValue.h"
 
 namespace vek::utility {
 
 // Functions that others hold too. A holder unsubscribes by clearing the function that it shares:
-// the next call skips it, and the next Add drops it. There is no removal. When the list dies it
-// clears every function first, so that a holder sees an empty one and never a dangling one.
+// the next call skips it, and the next Add drops it. When the list dies it clears every function
+// first, so that a holder sees an empty one and never a dangling one.
 //
-// A callback may clear itself, add others (they are reached by the same call) and call the list
-// again.
+// A callback may clear or remove itself, add others (they are reached by the same call) and call
+// the list again.
 template <class... Args>
 class CallbackList {
  public:
@@ -35,6 +37,17 @@ class CallbackList {
   void Add(Entry inEntry) {
     DropUnsubscribed();
     mEntries.push_back(std::move(inEntry));
+  }
+
+  // Takes off the first entry that shares this function; the function itself stays as it is.
+  void Remove(const Entry& inEntry) {
+    const auto found = std::find(mEntries.begin(), mEntries.end(), inEntry);
+    if (found == mEntries.end()) return;
+    if (mCallDepth == 0) {
+      mEntries.erase(found);
+    } else {
+      found->reset();
+    }
   }
 
   // inMakeArgument is asked anew before each call and gives what is passed to that callback.
