@@ -16,7 +16,8 @@ TextPool::Id TextPool::Intern(TextView inText) {
   const auto found = mIds.find(inText);
   if (found != mIds.end()) return found->second;
   const Id id = static_cast<Id>(mTexts.size());
-  mTexts.emplace_back(inText);
+  // An empty view may point nowhere, and a string's constructor must not be given that.
+  mTexts.push_back(inText.empty() ? lumcore::UTF16String() : lumcore::UTF16String(inText));
   mIds.emplace(TextView(mTexts.back()), id);
   return id;
 }

@@ -64,3 +64,6 @@ class Listener {
 };
 
 }  // namespace vek::messaging
+
+// A class that derives from Listener needs what its destructor calls.
+#include "vek/messaging/Broadcaster.h"
