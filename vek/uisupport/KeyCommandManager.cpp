@@ -95,7 +95,7 @@ void KeyCommandManager::AddKeyMapping(const int& inCommand, KeyboardCode inCode,
     return IsSameKey(*inOther, *mapping);
   });
   list.push_back(mapping.get());
-  mapping.release();
+  static_cast<void>(mapping.release());  // the list owns it now
   if (displaced != list.end()) Unlink(list, displaced);
 }
 

@@ -155,7 +155,7 @@ void KeyMapParseHandler::Commit() {
       command, code, mModifiers, lumui::ui::KeyboardEvent::kActionKeyDown, mHold, mProtected);
   KeyCommandList& list = mContext.empty() ? mGlobal : mContexts[lumcore::utility::ToUTF8(mContext)];
   list.push_back(mapping.get());
-  mapping.release();
+  static_cast<void>(mapping.release());  // the list owns it now
 }
 
 }  // namespace vek::uisupport
