@@ -13,12 +13,12 @@
 #include "StatusLine.h"
 #include "TitleStrip.h"
 #include "lumcore/config/Localizer.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/Application.h"
 #include "vek/undo/Deed.h"
-#include "vek/utility/ScopedValue.h"
 
 namespace outliner {
 
@@ -140,7 +140,7 @@ bool OutlineWindow::MayClose() {
   if (!mDocument->IsDirty()) return true;
   // A second request while the question stands is answered by the first.
   if (mIsAsking) return false;
-  const vek::utility::StScopedValue<bool> asking(mIsAsking, true);
+  const lumcore::utility::StScopedValue<bool> asking(mIsAsking, true);
   switch (AskAboutChanges()) {
     case kAnswerSave:
       return TrySave();

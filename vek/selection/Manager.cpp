@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
+#include "lumcore/utility/ScopedValue.h"
 #include "vek/selection/ActiveManagerState.h"
 #include "vek/selection/Junction.h"
-#include "vek/utility/ScopedValue.h"
 
 namespace vek::selection {
 
@@ -140,7 +140,7 @@ void Manager::Select(const std::list<Node*>& inNodes, DeselectOthersEnum inDesel
   if (inNodes.empty() && (inDeselectOthers == eKeepOthers || mImpl->mSelected.empty())) return;
   const StKeepAlive alive(*this);
   mImpl->Clean();
-  const utility::StScopedValue<bool> selecting(mImpl->mSelecting, true);
+  const lumcore::utility::StScopedValue<bool> selecting(mImpl->mSelecting, true);
   const std::list<Node*> toggles = mImpl->ListToggles(inNodes, inDeselectOthers == eDeselectOthers);
   if (!toggles.empty()) ToggleSelectables(toggles, inSuppress);
 }

@@ -11,6 +11,7 @@
 
 #include "lumcore/config/Localizer.h"
 #include "lumcore/filesupport/FileStream.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
 #include "vek/uisupport/Alert.h"
 #include "vek/uisupport/DeferredActionManager.h"
@@ -18,7 +19,6 @@
 #include "vek/uisupport/MainWindowLookup.h"
 #include "vek/uisupport/MessageException.h"
 #include "vek/undo/NonCriticalDeedFailure.h"
-#include "vek/utility/ScopedValue.h"
 
 namespace vek::uisupport {
 
@@ -78,7 +78,7 @@ void Interpret(const std::exception& inException, lumcore::UTF16String& outMessa
 }
 
 void ShowError(const lumcore::UTF16String& inMessage, int) {
-  const utility::StScopedValue<bool> showing(IsShowingError(), true);
+  const lumcore::utility::StScopedValue<bool> showing(IsShowingError(), true);
   Alert::ShowCaution(
       lumcore::config::Localizer::Get()->GetLocalizedString("$$$/vek/reporterror/DlogTitle=Error"),
       inMessage, FindMainWindow());

@@ -7,9 +7,9 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedPtr.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "vek/selection/Restorer.h"
 #include "vek/undo/NonCriticalDeedFailure.h"
-#include "vek/utility/ScopedValue.h"
 
 namespace vek::undo {
 
@@ -72,12 +72,12 @@ bool MultiDeed::DoStillViable() const {
 }
 
 void MultiDeed::RedoSelf() {
-  const utility::StScopedValue<bool> inRedo(mInRedo, true);
+  const lumcore::utility::StScopedValue<bool> inRedo(mInRedo, true);
   RedoChildren();
 }
 
 void MultiDeed::UndoSelf() {
-  const utility::StScopedValue<bool> inUndo(mInUndo, true);
+  const lumcore::utility::StScopedValue<bool> inUndo(mInUndo, true);
   UndoChildren();
 }
 

@@ -9,7 +9,7 @@
 #include <list>
 #include <utility>
 
-#include "vek/utility/ScopedValue.h"
+#include "lumcore/utility/ScopedValue.h"
 
 namespace vek::utility {
 
@@ -53,7 +53,7 @@ class CallbackList {
   // inMakeArgument is asked anew before each call and gives what is passed to that callback.
   template <class MakeArgument>
   void CallEach(MakeArgument inMakeArgument) {
-    const StScopedValue<int> depth(mCallDepth, mCallDepth + 1);
+    const lumcore::utility::StScopedValue<int> depth(mCallDepth, mCallDepth + 1);
     for (auto entry = mEntries.begin(); entry != mEntries.end(); ++entry) {
       if (!*entry || (*entry)->empty()) continue;
       // Called through a copy: a callback that clears itself would destroy what is running.

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "lumcore/config/Localizer.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
 #include "utility/AppendUTF16.h"
 
@@ -113,23 +114,6 @@ struct EventSource::Callbacks {
   }
 };
 
-namespace {
-
-class StSource {
- public:
-  StSource(const EventSource*& ioSource, const EventSource* inSource)
-      : mSource(ioSource), mOld(std::exchange(ioSource, inSource)) {}
-  ~StSource() { mSource = mOld; }
-  StSource(const StSource&) = delete;
-  StSource& operator=(const StSource&) = delete;
-
- private:
-  const EventSource*& mSource;
-  const EventSource* mOld;
-};
-
-}  // namespace
-
 EventSource::EventSource(std::string_view inUTF8, const UTF16String& inName,
                          AbstractParseHandler& inHandler)
     : mBytes(inUTF8),
@@ -165,7 +149,7 @@ void EventSource::SetCallbacks() {
 
 void EventSource::Run() {
   // Put back at the end, as the handler may be in the middle of another document.
-  const StSource source(mHandler.mSource, this);
+  const utility::StScopedValue<const EventSource*> source(mHandler.mSource, this);
   // The parser counts the bytes of one call in an int.
   constexpr std::size_t kMostBytes = std::size_t{1} << 30;
   std::string_view rest = mBytes;

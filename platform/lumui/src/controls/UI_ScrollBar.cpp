@@ -12,10 +12,10 @@
 
 #include "controls/ScrollBarPeer.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumui/controls/UI_InteractiveControlChangedMessage.h"
 #include "lumui/controls/UI_ScrollView.h"
 #include "ui/EventGate.h"
-#include "ui/ScopedValue.h"
 
 namespace lumui::controls {
 
@@ -51,7 +51,7 @@ void UI_ScrollBar::Peer::ShowOffset(double inRange, double inOffset, double inVi
 
 void UI_ScrollBar::Peer::Apply() {
   if (!mBar) return;
-  const ui::StValue<bool> showing(mShowing, true);
+  const lumcore::utility::StScopedValue<bool> showing(mShowing, true);
   const double factor = mRange > kLargestBarRange ? kLargestBarRange / mRange : 1;
   const auto toBar = [&](double inUnits) {
     return static_cast<int>(std::lround(inUnits * factor));
@@ -76,7 +76,7 @@ void UI_ScrollBar::Peer::HandleAction(int inAction) {
   const double line = view->GetLineStep();
   const double page = std::max(line, mViewed - line);
   if (inAction != QAbstractSlider::SliderMove) {
-    const ui::StValue<bool> showing(mShowing, true);
+    const lumcore::utility::StScopedValue<bool> showing(mShowing, true);
     mBar->setSliderPosition(mBar->value());
   }
   const bool x = mHorizontal;

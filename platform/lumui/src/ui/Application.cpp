@@ -10,11 +10,11 @@
 #include <utility>
 
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "ui/ApplicationImpl.h"
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
-#include "ui/ScopedValue.h"
 
 namespace lumui::ui {
 
@@ -78,7 +78,7 @@ void Application::SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inC
 
 int Application::Run() {
   LUM_INPUT_CONTRACT(!mImpl->running);
-  const StValue<bool> running(mImpl->running, true);
+  const lumcore::utility::StScopedValue<bool> running(mImpl->running, true);
   while (!IsQuitting()) {
     QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
     const bool any = dispatcher->processEvents(QEventLoop::AllEvents);

@@ -19,13 +19,13 @@
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 #include "ui/QtEvents.h"
-#include "ui/ScopedValue.h"
 #include "ui/WindowRegistry.h"
 
 namespace lumui::ui {
@@ -92,7 +92,7 @@ EventGate* EventGate::Get() {
 // The catch is the last net: handlers of ours are guarded where they are called.
 bool EventGate::notify(QObject* inReceiver, QEvent* inEvent) {
   if (QThread::currentThread() != thread()) return QApplication::notify(inReceiver, inEvent);
-  const StValue<int> depth(mDepth, mDepth + 1);
+  const lumcore::utility::StScopedValue<int> depth(mDepth, mDepth + 1);
   try {
     return Route(inReceiver, inEvent);
   } catch (...) {
@@ -146,7 +146,7 @@ bool EventGate::RouteWidget(QWidget& inWidget, QEvent& inEvent) {
   WatchWidget(inWidget, inEvent);
   if (!IsRoutedToNodes(type)) return QApplication::notify(&inWidget, &inEvent);
   const boost::intrusive_ptr<UI_Node> start = NodePeer::NodeOf(&inWidget);
-  const StValue<UI_Node*> startNode(mStartNode, start.get());
+  const lumcore::utility::StScopedValue<UI_Node*> startNode(mStartNode, start.get());
   return QApplication::notify(&inWidget, &inEvent);
 }
 
@@ -165,7 +165,7 @@ void EventGate::WatchWidget(QWidget& inWidget, QEvent& inEvent) {
 }
 
 bool EventGate::HandToQt(QObject& inReceiver, QEvent& inEvent, const OS_Event& inOSEvent) {
-  const StValue<OS_Event> current(mCurrentOSEvent, inOSEvent);
+  const lumcore::utility::StScopedValue<OS_Event> current(mCurrentOSEvent, inOSEvent);
   return QApplication::notify(&inReceiver, &inEvent);
 }
 
@@ -178,13 +178,13 @@ bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEven
   OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inEvent);
   bool handled = true;
   {
-    const StValue<bool> inPointerEvent(mInPointerEvent, true);
+    const lumcore::utility::StScopedValue<bool> inPointerEvent(mInPointerEvent, true);
     const bool passed = Pass(os, [&] {
       if (capture.IsRunning()) {
-        const StValue<OS_Event> current(mCurrentOSEvent, os);
+        const lumcore::utility::StScopedValue<OS_Event> current(mCurrentOSEvent, os);
         capture.Deliver(inEvent, os);
         // Qt still sees the event, or its idea of the held buttons goes stale; no widget does.
-        const StValue<bool> swallow(mSwallowMouse, true);
+        const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
         handled = QApplication::notify(&inNative, &inEvent);
         return;
       }
@@ -221,7 +221,7 @@ bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inE
   bool handled = true;
   bool passed = false;
   {
-    const StValue<KeyState*> current(mKey, &key);
+    const lumcore::utility::StScopedValue<KeyState*> current(mKey, &key);
     passed = Pass(os, [&] { handled = HandToQt(inNative, inEvent, os); });
   }
   if (!passed) {
@@ -232,7 +232,7 @@ bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inE
   const bool chord = modifiers.Has(kModCommand) && !modifiers.Has(kModAlt);
   const bool takenByControl = inEvent.isAccepted() && !key.takenByNode;
   if (key.event.IsActionKeyDown() && !key.charactersDropped && !chord && !takenByControl) {
-    const StValue<ModifierKeys> typing(mTypingModifiers, modifiers);
+    const lumcore::utility::StScopedValue<ModifierKeys> typing(mTypingModifiers, modifiers);
     TypeCharacters(inWindow, inEvent.text());
   }
   return handled;

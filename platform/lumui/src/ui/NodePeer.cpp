@@ -9,11 +9,11 @@
 #include <limits>
 
 #include "drawbot/QtConvert.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
-#include "ui/ScopedValue.h"
 
 namespace lumui::ui {
 
@@ -156,12 +156,12 @@ void NodePeer::ApplyRect() {
   if (!mWidget || mApplyingRect) return;
   // A window that nobody has given a place gets one from the window system.
   if (mWidget->isWindow() && mNode->UI_GetLocalRectF().IsEmpty()) return;
-  const StValue<bool> applying(mApplyingRect, true);
+  const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
   mWidget->setGeometry(RoundedRect());
 }
 
 void NodePeer::ApplySize(int inWidth, int inHeight) {
-  const StValue<bool> applying(mApplyingRect, true);
+  const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
   mWidget->resize(inWidth, inHeight);
   mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(mWidget->geometry())));
 }

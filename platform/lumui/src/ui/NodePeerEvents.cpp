@@ -12,6 +12,7 @@
 
 #include "drawbot/QtConvert.h"
 #include "drawbot/QtDrawbot.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
 #include "lumui/ui/UI_NodeManager.h"
@@ -19,7 +20,6 @@
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 #include "ui/QtEvents.h"
-#include "ui/ScopedValue.h"
 
 namespace lumui::ui {
 
@@ -203,7 +203,7 @@ void NodePeer::HandleGeometry() {
   if (mApplyingRect || mWidget->geometry() == RoundedRect()) return;
   const QRect geometry = mWidget->geometry();
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
-  const StValue<bool> applying(mApplyingRect, true);
+  const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
   EventGate::Get()->RunGuarded([&] { mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(geometry))); });
 }
 
@@ -213,7 +213,7 @@ void NodePeer::Paint() {
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
   const QRectF bounds = QRectF(widget->rect()).translated(mContentOrigin.x, mContentOrigin.y);
-  const StValue<bool> painting(EventGate::Get()->mPainting, true);
+  const lumcore::utility::StScopedValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {
     drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));
     mNode->UI_Draw(&drawbot);

@@ -10,9 +10,9 @@
 #include <utility>
 
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumui/ui/UI_Node.h"
 #include "ui/EventGate.h"
-#include "ui/ScopedValue.h"
 
 namespace lumui::ui {
 
@@ -60,7 +60,7 @@ void TimerQueue::SetVirtual(bool inVirtual) {
 
 void TimerQueue::Advance(double inSeconds) {
   LUM_INPUT_CONTRACT(mVirtual && !mAdvancing && inSeconds >= 0);
-  const StValue<bool> advancing(mAdvancing, true);
+  const lumcore::utility::StScopedValue<bool> advancing(mAdvancing, true);
   const double limit = mVirtualNow + inSeconds;
   Fire(limit);
   mVirtualNow = limit;

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace vek::utility {
+namespace lumcore::utility {
 
 // Gives a variable a value for the length of a scope and puts the old one back on every way out.
 template <class T>
@@ -22,4 +22,4 @@ class StScopedValue {
   T mOldValue;
 };
 
-}  // namespace vek::utility
+}  // namespace lumcore::utility
