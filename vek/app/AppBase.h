@@ -230,8 +230,8 @@ class VEK_API AppBase {
  private:
   friend class workspace::WorkspaceSwitcherSerializer;
 
-  lumcore::proplist::PropList& GetOrCreateSubList(const unsigned char* inKey,
-                                                  lumcore::proplist::PropList* inParent);
+  static lumcore::proplist::PropList& GetOrCreateSubList(lumcore::proplist::Key inKey,
+                                                         lumcore::proplist::PropList* inParent);
   void HandleAppActiveStateChanged(bool inActive);
   lumcore::filesupport::File GetSettingsFile() const;
   void StartServices(AppInitArgs& inArgs, const lumcore::filesupport::Dir& inLocalizationDir);
