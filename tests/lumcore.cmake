@@ -6,6 +6,7 @@ vek_test(lumcore_tests
   SOURCES
     lumcore/ContractTest.cpp
     lumcore/ConversionTest.cpp
+    lumcore/DebugDatabaseTest.cpp
     lumcore/FilesTest.cpp
     lumcore/RectanglesTest.cpp
     lumcore/ReplacingTest.cpp
