@@ -7,6 +7,7 @@ vek_test(lumcore_tests
     lumcore/ContractTest.cpp
     lumcore/ConversionTest.cpp
     lumcore/DebugDatabaseTest.cpp
+    lumcore/ErrorManagerTest.cpp
     lumcore/FilesTest.cpp
     lumcore/RectanglesTest.cpp
     lumcore/ReplacingTest.cpp
