@@ -8,6 +8,7 @@
 
 #include "EditScript.h"
 #include "OutlinerApp.h"
+#include "ProgramTexts.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
@@ -26,6 +27,9 @@ constexpr const char* kUsage =
     "outliner FILE                   edit an outline\n"
     "outliner --new FILE             begin one; FILE is written when it is saved\n"
     "outliner --script SCRIPT FILE   replay keys and clicks on it, without a display\n";
+constexpr const char* kLanguageUsage =
+    "$$$/outliner/Main/LanguageUsage="
+    "  --language LANGUAGE           with one of these: speak \"de\" or another language\n";
 
 lumcore::UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -93,9 +97,10 @@ int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplicatio
 
 int Run(int inCount, char** inArguments) {
   lumui::ui::Application application(inCount, inArguments);
+  const outliner::ProgramTexts texts(inCount, inArguments);
   Options options;
   if (!ReadOptions(inCount, inArguments, options)) {
-    std::cerr << lumcore::utility::ToStdString(Localized(kUsage));
+    std::cerr << lumcore::utility::ToStdString(Localized(kUsage) + Localized(kLanguageUsage));
     return kExitUsage;
   }
   outliner::OutlinerApp app([&application] { application.Quit(); });
