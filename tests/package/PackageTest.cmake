@@ -27,7 +27,12 @@ endif()
 list(FILTER headers EXCLUDE REGEX "_win\\.h$")  # the half of a header that Windows alone reads
 list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n")
 list(JOIN headers "" includes)
-file(WRITE ${host}/everyheader.cpp "${includes}int main() {}\n")
+file(WRITE ${host}/everyheader.cpp "#include <iostream>
+${includes}
+int main() {
+  const lumcore::config::CatalogueLocalizer texts({}, \"de\");
+  std::cout << lumcore::utility::ToStdString(texts.GetLocalizedString(\"$$$/vek/redo/Redo=Redo\"));
+}\n")
 file(APPEND ${host}/CMakeLists.txt "
 add_executable(everyheader everyheader.cpp)
 target_link_libraries(everyheader PRIVATE vek::vek)
@@ -54,6 +59,11 @@ foreach(file IN LISTS dependency_files)
     message(FATAL_ERROR "a header of Qt was needed: ${CMAKE_MATCH_0}")
   endif()
 endforeach()
+
+run("the libraries' texts" ${host}/build/everyheader)
+if(NOT output STREQUAL "Wiederholen:")
+  message(FATAL_ERROR "the moved libraries do not find their German texts, but say ${output}")
+endif()
 
 run("the host" ${host}/build/firsthost)
 file(READ ${SOURCE_DIR}/tests/package/expected.txt expected)

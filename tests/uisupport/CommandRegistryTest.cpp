@@ -119,7 +119,8 @@ class EchoLocalizer : public lumcore::config::Localizer {
 };
 
 TEST_F(CommandRegistryTest, BracketsGoOneByOneBeforeAKeyIsLookedUp) {
-  lumcore::config::Localizer::Set(std::make_unique<EchoLocalizer>());
+  EchoLocalizer localizer;
+  lumcore::config::Localizer::Set(&localizer, {});
   const char* const rows[][2] = {
       {"($$$/a/b=T)", "$$$/a/b=T"},
       {"()", ""},
@@ -140,7 +141,6 @@ TEST_F(CommandRegistryTest, BracketsGoOneByOneBeforeAKeyIsLookedUp) {
               "1 |[" + std::string(key) + "]|[" + key + "]")
         << t;
   }
-  lumcore::config::Localizer::Set(nullptr);
 }
 
 TEST_F(CommandRegistryTest, ReadsIdsAsUnsignedDecimals) {
