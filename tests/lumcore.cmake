@@ -7,6 +7,7 @@ vek_test(lumcore_tests
     lumcore/ContractTest.cpp
     lumcore/ConversionTest.cpp
     lumcore/FilesTest.cpp
+    lumcore/PropListTest.cpp
     lumcore/RectanglesTest.cpp
     lumcore/ReplacingTest.cpp
     lumcore/SmallBlocksTest.cpp
