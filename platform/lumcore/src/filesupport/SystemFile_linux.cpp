@@ -326,6 +326,8 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   }
 
   const std::string folder = paths::Parent(target);
+  // First, as the disk may be full of them.
+  RemoveLeftOvers(folder);
   // Until it has the old file's permissions, nobody else may read what may be confidential.
   TemporaryFile temporary(folder, inPath, exists ? 0600 : 0666);
   Handle handle(temporary.GetNumber(), inPath);
@@ -335,7 +337,6 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   handle.Close();
   temporary.RenameTo(target, inPath);
   FlushFolder(folder);
-  RemoveLeftOvers(folder);
 }
 
 }  // namespace lumcore::filesupport::system

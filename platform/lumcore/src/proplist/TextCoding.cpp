@@ -6,8 +6,6 @@
 #include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
-#include <cstdio>
-
 #include "lumcore/utility/StringUtils.h"
 
 namespace lumcore::proplist {
@@ -17,15 +15,19 @@ namespace {
 constexpr UChar32 kEscape = 0xFDD0;
 constexpr std::size_t kDigits = 4;
 
-void AppendFormatted(const char* inFormat, unsigned inNumber, std::string& ioXML) {
-  char text[24];
-  std::snprintf(text, sizeof text, inFormat, inNumber);
-  ioXML += text;
+void AppendHex(unsigned inNumber, std::size_t inLeastDigits, std::string& ioXML) {
+  constexpr unsigned kBitsOfDigit = 4;
+  std::size_t digits = 1;
+  while (digits < inLeastDigits || inNumber >> (digits * kBitsOfDigit) != 0)
+    ++digits;
+  while (digits-- > 0)
+    ioXML += "0123456789ABCDEF"[inNumber >> (digits * kBitsOfDigit) & 0xF];
 }
 
 // inUnit is a UTF-16 unit, or a byte.
 void AppendEscape(unsigned inUnit, std::string& ioXML) {
-  AppendFormatted("&#xFDD0;%04X", inUnit, ioXML);
+  ioXML += "&#xFDD0;";
+  AppendHex(inUnit, kDigits, ioXML);
 }
 
 bool IsInXML(UChar32 inCharacter) {
@@ -50,7 +52,9 @@ bool AppendCharacter(UChar32 inCharacter, std::string& ioXML) {
       if (inCharacter >= 0x20 && inCharacter < 0x7F) {
         ioXML += static_cast<char>(inCharacter);
       } else {
-        AppendFormatted("&#x%X;", static_cast<unsigned>(inCharacter), ioXML);
+        ioXML += "&#x";
+        AppendHex(static_cast<unsigned>(inCharacter), 1, ioXML);
+        ioXML += ';';
       }
   }
   return true;
