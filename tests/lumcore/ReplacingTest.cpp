@@ -1,7 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,6 +13,7 @@
 #include "support/TemporaryFolder.h"
 
 #include "lumcore/filesupport/FileError.h"
+#include "lumcore/filesupport/FileStream.h"
 
 namespace {
 
@@ -137,6 +140,23 @@ TEST(Replacing, FullDiskLeavesTheOldFileAndNothingBeside) {
   EXPECT_EQ(WithoutFolder(folder, error), "Cannot write \"f\": File too large");
   EXPECT_EQ(WithoutFolder(folder, fresh), "Cannot write \"g\": File too large");
   EXPECT_EQ(folder.Describe(), "f=" + std::string(10000, 'n'));
+}
+
+TEST(Replacing, CleansWhatKilledSavesHaveLeft) {
+  const TemporaryFolder folder;
+  const char* const left = ".lumcore-save-0123456789abcdef";
+  const char* const used = ".lumcore-save-00000000000000bb";
+  const char* const other = ".lumcore-save-of-somebody-here";
+  for (const char* name : {left, used, other})
+    lumcore::filesupport::OutputFileStream(folder.GetFile(name));
+  const int number = ::open(folder.GetPath(used).c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(::flock(number, LOCK_EX), 0);  // as a process that is at it holds its own
+
+  folder.GetFile("f").ReplaceContents("new");
+  EXPECT_EQ(folder.Describe(), std::string(used) + "= " + other + "= f=new");
+  ::close(number);
+  folder.GetFile("f").ReplaceContents("newer");
+  EXPECT_EQ(folder.Describe(), std::string(other) + "= f=newer");
 }
 
 TEST(Replacing, RefusesWhatIsNoFile) {

@@ -1,7 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +14,7 @@
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -101,16 +104,27 @@ std::string FollowLinks(const std::string& inPath) {
   ThrowSystemError(kSaveKey, inPath, ELOOP);
 }
 
+constexpr std::string_view kTemporaryPrefix = ".lumcore-save-";
+constexpr std::size_t kTemporaryDigits = 16;
+
 std::string RandomName() {
   unsigned long long number = 0;
   while (::getrandom(&number, sizeof number, 0) == -1 && errno == EINTR) {
   }
-  char name[40];
-  std::snprintf(name, sizeof name, ".lumcore-save-%016llx", number);
-  return name;
+  char digits[kTemporaryDigits + 1];
+  std::snprintf(digits, sizeof digits, "%016llx", number);
+  return std::string(kTemporaryPrefix) + digits;
 }
 
-// A new file with a name that nobody can foresee. It is deleted unless it was renamed.
+bool IsTemporaryName(std::string_view inName) {
+  return inName.size() == kTemporaryPrefix.size() + kTemporaryDigits &&
+         inName.substr(0, kTemporaryPrefix.size()) == kTemporaryPrefix &&
+         inName.find_first_not_of("0123456789abcdef", kTemporaryPrefix.size()) == inName.npos;
+}
+
+// A new file with a name that nobody can foresee. It is deleted unless it was renamed. As long as
+// it is in use it is locked, so that what a process has left behind that was ended in the middle is
+// known by its not being locked.
 class TemporaryFile {
  public:
   TemporaryFile(const std::string& inFolder, const std::string& inTarget, mode_t inMode) {
@@ -119,13 +133,20 @@ class TemporaryFile {
     for (int tries = 0; tries < kTries; ++tries) {
       mPath = paths::Join(inFolder, RandomName());
       mNumber = ::open(mPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, inMode);
-      if (mNumber != -1) return;
+      if (mNumber != -1) {
+        if (Lock()) return;
+        const int error = errno;
+        ::unlink(mPath.c_str());
+        ::close(mNumber);
+        errno = error;
+      }
       if (errno != EEXIST && errno != EINTR) break;
     }
     ThrowSystemError(kSaveKey, inTarget, errno);
   }
   ~TemporaryFile() {
     if (!mPath.empty()) ::unlink(mPath.c_str());
+    ::close(mLock);
   }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -139,9 +160,45 @@ class TemporaryFile {
   }
 
  private:
+  // False, with the error, where there is no second number for the file, or where another process
+  // has cleaned it away in the moment before it was locked. A file system that knows no locks
+  // grants none to the cleaner either.
+  bool Lock() {
+    mLock = ::fcntl(mNumber, F_DUPFD_CLOEXEC, 0);
+    if (mLock == -1) return false;
+    while (::flock(mLock, LOCK_EX) == -1 && errno == EINTR) {
+    }
+    struct stat status = {};
+    if (::fstat(mLock, &status) == 0 && status.st_nlink > 0) return true;
+    ::close(std::exchange(mLock, -1));
+    errno = EEXIST;
+    return false;
+  }
+
   std::string mPath;
   int mNumber = -1;
+  int mLock = -1;  // the same open file, which stays locked until both numbers are closed
 };
+
+// Deletes a file that a save has left behind which did not come to its end.
+void RemoveIfLeftOver(const std::string& inPath) {
+  const int number = ::open(inPath.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (number == -1) return;
+  struct stat status = {};
+  const bool isOurs =
+      ::fstat(number, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
+  if (isOurs && ::flock(number, LOCK_EX | LOCK_NB) == 0) ::unlink(inPath.c_str());
+  ::close(number);
+}
+
+// What cannot be listed or deleted stays: it is in nobody's way.
+void RemoveLeftOvers(const std::string& inFolder) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(inFolder.c_str()), &::closedir);
+  if (!folder) return;
+  while (const dirent* const entry = ::readdir(folder.get())) {
+    if (IsTemporaryName(entry->d_name)) RemoveIfLeftOver(paths::Join(inFolder, entry->d_name));
+  }
+}
 
 // Owner and group are kept where the process may. Where the group cannot be kept, the new group
 // gets no more than everybody has, and no bit that lends the owner's rights survives a change of
@@ -282,6 +339,8 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   }
 
   const std::string folder = paths::Parent(target);
+  // First, as the disk may be full of them.
+  RemoveLeftOvers(folder);
   // Until it has the old file's permissions, nobody else may read what may be confidential.
   TemporaryFile temporary(folder, inPath, exists ? 0600 : 0666);
   Handle handle(temporary.GetNumber(), inPath);

@@ -39,7 +39,9 @@ class LUMCORE_API File {
   // points to is replaced and the link stays. A new file has the permissions that the process
   // gives. After a throw of FileError the old file is as it was and nothing is left beside it. A
   // file that may not be written, and what is no file (a device, a folder), is refused. Further
-  // hard links keep the old content, and access lists do not pass to the new file.
+  // hard links keep the old content, and access lists do not pass to the new file. A process that
+  // is killed meanwhile leaves a ".lumcore-save-..." behind, which the next save of the same user
+  // in that folder deletes.
   void ReplaceContents(std::string_view inBytes) const;
 
   void Remove() const;  // throws FileError; a file that is not there is no failure
