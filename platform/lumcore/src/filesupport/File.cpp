@@ -14,7 +14,7 @@ File::File() = default;
 
 File::File(std::string_view inPath) : mPath(inPath) {}
 
-File::File(const UTF16String& inPath) : mPath(utility::ToStdString(inPath)) {}
+File::File(const UTF16String& inPath) : mPath(paths::FromText(inPath)) {}
 
 File::File(const Dir& inDir, std::string_view inName)
     : mPath(paths::Join(inDir.GetPath(), inName)) {}
@@ -28,7 +28,7 @@ std::uint64_t File::GetSize() const {
 }
 
 UTF16String File::GetFullPath() const {
-  return utility::ToUTF16(paths::Full(mPath));
+  return paths::ToText(paths::Full(mPath));
 }
 
 UTF16String File::GetName() const {
