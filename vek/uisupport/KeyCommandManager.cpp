@@ -271,8 +271,7 @@ void KeyCommandManager::LoadKeyMappingsFromBuffer(const UTF8String& inBytes) {
 void KeyCommandManager::SaveKeyMappings(const lumcore::filesupport::File& inFile) const {
   UTF8String bytes;
   SaveKeyMappingsToBuffer(bytes);
-  inFile.ReplaceContents(
-      std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+  inFile.Recreate(std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
 }
 
 void KeyCommandManager::SaveKeyMappingsToBuffer(UTF8String& outBytes) const {

@@ -63,6 +63,10 @@ void File::ReplaceContents(std::string_view inBytes) const {
   system::ReplaceFile(mPath, inBytes);
 }
 
+void File::Recreate(std::string_view inBytes) const {
+  system::RecreateFile(mPath, inBytes);
+}
+
 void File::Remove() const {
   system::RemoveFile(mPath);
 }

@@ -49,5 +49,7 @@ std::uint64_t FileSize(const std::string& inPath);
 void RemoveFile(const std::string& inPath);
 // See File::ReplaceContents.
 void ReplaceFile(const std::string& inPath, std::string_view inBytes);
+// See File::Recreate.
+void RecreateFile(const std::string& inPath, std::string_view inBytes);
 
 }  // namespace lumcore::filesupport::system

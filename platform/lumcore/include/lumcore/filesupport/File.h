@@ -43,6 +43,12 @@ class LUMCORE_API File {
   // hard links keep the old content, and access lists do not pass to the new file.
   void ReplaceContents(std::string_view inBytes) const;
 
+  // Replaces the file itself: deletes it, creates it anew and writes it. So a link gives way to a
+  // file, one that is write-protected is no hindrance, and the new file has the permissions that
+  // the process gives. Until all is written the old file stands beside it under another name, and
+  // after a throw of FileError it is back. What is no file (a device, a folder) is refused.
+  void Recreate(std::string_view inBytes) const;
+
   void Remove() const;  // throws FileError; a file that is not there is no failure
 
  private:
