@@ -23,6 +23,10 @@ bool File::Exists() const {
   return system::FileExists(mPath);
 }
 
+bool File::IsAbsent() const {
+  return system::IsAbsent(mPath);
+}
+
 std::uint64_t File::GetSize() const {
   return system::FileSize(mPath);
 }

@@ -45,6 +45,7 @@ std::intptr_t OpenForWriting(const std::string& inPath);
 
 bool FileExists(const std::string& inPath);
 bool FolderExists(const std::string& inPath);
+bool IsAbsent(const std::string& inPath);
 std::uint64_t FileSize(const std::string& inPath);
 void RemoveFile(const std::string& inPath);
 // See File::ReplaceContents.

@@ -278,6 +278,12 @@ bool FolderExists(const std::string& inPath) {
   return GetStatus(inPath, status) && S_ISDIR(status.st_mode);
 }
 
+bool IsAbsent(const std::string& inPath) {
+  struct stat status = {};
+  if (!IsPath(inPath) || ::stat(inPath.c_str(), &status) == 0) return false;
+  return errno == ENOENT || errno == ENOTDIR;
+}
+
 std::uint64_t FileSize(const std::string& inPath) {
   constexpr const char* kKey = "$$$/lumcore/filesupport/Error/Size=Cannot measure \"@0\": @1";
   struct stat status = {};

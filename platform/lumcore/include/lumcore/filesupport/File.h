@@ -22,7 +22,10 @@ class LUMCORE_API File {
   explicit File(const UTF16String& inPath);
   File(const Dir& inDir, std::string_view inName);
 
+  // False for a folder, and where the system does not let us look.
   bool Exists() const;
+  // Whether there is nothing of that name, by the system's own word.
+  bool IsAbsent() const;
   std::uint64_t GetSize() const;  // bytes; throws FileError
   const std::string& GetPath() const { return mPath; }
   // Absolute, with "." and ".." resolved by text; links stay. A File of this text names the same
