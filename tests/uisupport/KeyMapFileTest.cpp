@@ -1,6 +1,8 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <random>
+
 #include "lumcore/config/ClientInfo.h"
 #include "support/TemporaryFolder.h"
 #include "uisupport/KeyFixture.h"
@@ -63,6 +65,36 @@ TEST_F(KeyMapFile, ComesBackWithoutContextsAndControlModifiers) {
   EXPECT_EQ(folder.Describe(), "Mine.xml=" + saved);
   CommandHandlerBase::SetCurrentCommandHandler(&canvas);
   EXPECT_FALSE(Manager().RouteKeyEvent(Down(Char('Y'), 4)));
+}
+
+// Any key that there can be, by chance, and what a file does not hold.
+TEST_F(KeyMapFile, ComesBackToTheByteWhateverTheKeysAre) {
+  std::mt19937 random(20260213);
+  const auto below = [&random](unsigned inLimit) { return random() % inLimit; };
+  for (int command = 5; command < 50; ++command) {
+    vek::uisupport::CommandRegistry::Get().RegisterCommand(
+        command, U16("G\xC3\xBCltig \xF0\x9F\x8E\xB9 > " + std::to_string(command)), U16(""),
+        false);
+  }
+  for (int round = 0; round < 20; ++round) {
+    Load("");
+    for (int i = 0; i < 500; ++i) {
+      auto unit = static_cast<unsigned short>(below(below(2) ? 0x80 : 0xFFFE));
+      const bool extended = below(4) == 0;
+      const bool isControl = below(3) == 0 || unit < ' ' || (unit >= 0xD800 && unit < 0xE000);
+      const KeyboardCode code = isControl ? KeyboardCode::CreateFromControlCode(unit, extended)
+                                          : KeyboardCode::CreateFromKeyboardChar(unit, extended);
+      Map(static_cast<int>(1 + below(52)), code, static_cast<unsigned char>(below(32)),
+          below(3) == 0, below(10) == 0 ? "canvas" : nullptr, below(5) == 0);
+    }
+    std::string saved = Saved();
+    Manager().LoadKeyMappingsFromBuffer(Bytes(saved));
+    // Modifiers that are not written leave an empty element.
+    const std::string empty = "<mod>\r\n</mod>\r\n";
+    for (std::size_t at; (at = saved.find(empty)) != saved.npos;)
+      saved.erase(at, empty.size());
+    ASSERT_EQ(Saved(), saved);
+  }
 }
 
 TEST_F(KeyMapFile, IsReadElementByElement) {
