@@ -188,12 +188,19 @@ TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
       {"not a document", ":1:1: syntax error"},
       {"", ":1:1: no element found"},
       {good + "\n<cmd id='2' id='3'/></cmdreg>", ":2:13: duplicate attribute"},
+      {good + std::string("\n<x>a\0b</x></cmdreg>", 21), ":2:5: not well-formed (invalid token)"},
+      {good + "\n&#xD800;</cmdreg>", ":2:1: reference to invalid character number"},
+      {std::string("\xFF\xFE<\0r\0>", 7),
+       ":1:3: the bytes 3E are no character in the encoding \"UTF-16LE\""},
+      {"<!DOCTYPE r [<!ENTITY e SYSTEM \"/etc/passwd\">]>\n<r>&e;</r>",
+       ":2:4: the entity \"e\" stands in another file, and other files are not read"},
   };
   for (const auto& row : rows) {
     Register(8, "Before");
-    const auto file = folder.GetFile("commands.xml");
+    const auto file = folder.GetFile("\xFF commands.xml");
     file.ReplaceContents(row.bytes);
-    EXPECT_EQ(WordsOf([&] { Registry().LoadFromFile(file, false); }), file.GetPath() + row.words);
+    EXPECT_EQ(WordsOf([&] { Registry().LoadFromFile(file, false); }),
+              folder.GetPath("\xEF\xBF\xBD commands.xml") + row.words);
     EXPECT_EQ(Commands() + Ids({"A", "Before"}), "A=0 Before=0 ") << row.bytes;
   }
 

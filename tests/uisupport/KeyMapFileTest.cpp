@@ -48,7 +48,7 @@ TEST_F(KeyMapFile, IsWrittenToTheByte) {
 
 TEST_F(KeyMapFile, ComesBackWithoutContextsAndControlModifiers) {
   const TemporaryFolder folder;
-  const auto file = folder.GetFile("Mine.xml");
+  const auto file = folder.GetFile("\xFF.xml");
   file.ReplaceContents(std::string(5000, 'x'));
   Map(1, Char('&'), 22, true, nullptr, true);
   Map(2, Char('\''), 13);
@@ -62,7 +62,7 @@ TEST_F(KeyMapFile, ComesBackWithoutContextsAndControlModifiers) {
   const std::string saved = Saved();
   Manager().LoadKeyMappings(file);
   EXPECT_EQ(Shortcuts(), "1:80000026/16 hold protected 2:80000027/4 2:7/0 3:C0000037/0");
-  EXPECT_EQ(folder.Describe(), "Mine.xml=" + saved);
+  EXPECT_EQ(folder.Describe(), "\xFF.xml=" + saved);
   CommandHandlerBase::SetCurrentCommandHandler(&canvas);
   EXPECT_FALSE(Manager().RouteKeyEvent(Down(Char('Y'), 4)));
 }
@@ -162,6 +162,7 @@ TEST_F(KeyMapFile, AFailedLoadLeavesNoMappingsAndSaysWhatIsWrong) {
       {good + "\r\n<cmd>Cut & Run</cmd></keymap>", ":2:11: not well-formed (invalid token)"},
       {good + "\r\n\xFF</keymap>", ":2:1: not well-formed (invalid token)"},
       {"", ":1:1: no element found"},
+      {"<!DOCTYPE k [<!ENTITY a 'x'>]>\n<keymap>&a;&b;</keymap>", ":2:12: undefined entity"},
   };
   for (const auto& row : rows) {
     Map(3, Char('Z'));
