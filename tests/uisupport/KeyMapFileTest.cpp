@@ -71,30 +71,24 @@ TEST_F(KeyMapFile, ComesBackWithoutContextsAndControlModifiers) {
 TEST_F(KeyMapFile, ComesBackToTheByteWhateverTheKeysAre) {
   std::mt19937 random(20260213);
   const auto below = [&random](unsigned inLimit) { return random() % inLimit; };
-  for (int command = 5; command < 50; ++command) {
-    vek::uisupport::CommandRegistry::Get().RegisterCommand(
-        command, U16("G\xC3\xBCltig \xF0\x9F\x8E\xB9 > " + std::to_string(command)), U16(""),
-        false);
+  vek::uisupport::CommandRegistry::Get().RegisterCommand(
+      5, U16("G\xC3\xBCltig \xF0\x9F\x8E\xB9 > '"), U16(""), false);
+  for (int i = 0; i < 2000; ++i) {
+    const auto unit = static_cast<unsigned short>(below(below(2) ? 0x80 : 0xFFFE));
+    const bool isText = unit >= ' ' && (unit < 0xD800 || unit >= 0xE000) && below(3) != 0;
+    const auto create =
+        isText ? &KeyboardCode::CreateFromKeyboardChar : &KeyboardCode::CreateFromControlCode;
+    Map(static_cast<int>(1 + below(6)), create(unit, below(4) == 0),
+        static_cast<unsigned char>(below(32)), below(3) == 0, below(10) == 0 ? "canvas" : nullptr,
+        below(5) == 0);
   }
-  for (int round = 0; round < 20; ++round) {
-    Load("");
-    for (int i = 0; i < 500; ++i) {
-      auto unit = static_cast<unsigned short>(below(below(2) ? 0x80 : 0xFFFE));
-      const bool extended = below(4) == 0;
-      const bool isControl = below(3) == 0 || unit < ' ' || (unit >= 0xD800 && unit < 0xE000);
-      const KeyboardCode code = isControl ? KeyboardCode::CreateFromControlCode(unit, extended)
-                                          : KeyboardCode::CreateFromKeyboardChar(unit, extended);
-      Map(static_cast<int>(1 + below(52)), code, static_cast<unsigned char>(below(32)),
-          below(3) == 0, below(10) == 0 ? "canvas" : nullptr, below(5) == 0);
-    }
-    std::string saved = Saved();
-    Manager().LoadKeyMappingsFromBuffer(Bytes(saved));
-    // Modifiers that are not written leave an empty element.
-    const std::string empty = "<mod>\r\n</mod>\r\n";
-    for (std::size_t at; (at = saved.find(empty)) != saved.npos;)
-      saved.erase(at, empty.size());
-    ASSERT_EQ(Saved(), saved);
-  }
+  std::string saved = Saved();
+  Manager().LoadKeyMappingsFromBuffer(Bytes(saved));
+  // Modifiers that are not written leave an empty element.
+  const std::string empty = "<mod>\r\n</mod>\r\n";
+  for (std::size_t at; (at = saved.find(empty)) != saved.npos;)
+    saved.erase(at, empty.size());
+  EXPECT_EQ(Saved(), saved);
 }
 
 TEST_F(KeyMapFile, IsReadElementByElement) {
@@ -180,19 +174,6 @@ TEST_F(KeyMapFile, AFailedLoadLeavesNoMappingsAndSaysWhatIsWrong) {
   Map(3, Char('Z'));
   Manager().LoadKeyMappingsFromBuffer(Bytes(""));
   EXPECT_EQ(Shortcuts(), "");
-}
-
-TEST_F(KeyMapFile, AFailedSaveLeavesWhatIsThere) {
-  const TemporaryFolder folder;
-  Map(1, Char('X'));
-  const auto nowhere = folder.GetFile("none/Mine.xml");
-  EXPECT_NE(WordsOf([&] { Manager().SaveKeyMappings(nowhere); }).find(nowhere.GetPath()),
-            std::string::npos);
-  lumcore::filesupport::Dir(folder.GetPath("taken")).Create();
-  folder.GetFile("taken/old.xml").ReplaceContents("old");
-  EXPECT_NE(WordsOf([&] { Manager().SaveKeyMappings(folder.GetFile("taken")); }), "");
-  EXPECT_EQ(folder.Describe(), "taken/");
-  EXPECT_EQ(U8(lumcore::utility::ToUTF16(folder.GetFile("taken/old.xml").ReadAll())), "old");
 }
 
 }  // namespace
