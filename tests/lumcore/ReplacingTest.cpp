@@ -197,4 +197,33 @@ TEST(Replacing, HeedsWriteProtection) {
   EXPECT_EQ(folder.Describe(), "f=old");
 }
 
+// The old file goes first, and so its links and permissions do.
+TEST(Recreating, LeavesAFileOfItsOwnOrTheOldOne) {
+  const TemporaryFolder folder;
+  const auto recreate = [&](const std::string& inPath, const std::string& inBytes) {
+    try {
+      File(inPath).Recreate(inBytes);
+    } catch (const FileError& error) {
+      return WithoutFolder(folder, error.what());
+    }
+    return std::string("no error");
+  };
+  folder.GetFile("real").ReplaceContents("old");
+  ::chmod(folder.GetPath("real").c_str(), 0444);
+  ASSERT_EQ(::symlink("real", folder.GetPath("link").c_str()), 0);
+  ASSERT_EQ(::symlink("absent", folder.GetPath("dangling").c_str()), 0);
+  {
+    const StFileSizeLimit limit(10000);
+    for (const char* name : {"real", "link", "fresh"})
+      EXPECT_EQ(recreate(folder.GetPath(name), std::string(20000, 'n')),
+                "Cannot write \"" + std::string(name) + "\": File too large");
+  }
+  EXPECT_EQ(folder.Describe(), "link=old real=old");
+  EXPECT_EQ(recreate("/dev/null", "x"), "Cannot save \"/dev/null\": Not a regular file");
+  for (const char* name : {"link", "dangling"})
+    EXPECT_EQ(recreate(folder.GetPath(name), "new"), "no error");
+  EXPECT_EQ(folder.Describe(), "dangling=new link=new real=old");
+  EXPECT_EQ(recreate(folder.GetPath("real"), "new"), "no error");
+}
+
 }  // namespace

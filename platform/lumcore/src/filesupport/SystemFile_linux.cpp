@@ -29,6 +29,8 @@ namespace {
 constexpr const char* kOpenKey = "$$$/lumcore/filesupport/Error/Open=Cannot open \"@0\": @1";
 constexpr const char* kWriteKey = "$$$/lumcore/filesupport/Error/Write=Cannot write \"@0\": @1";
 constexpr const char* kSaveKey = "$$$/lumcore/filesupport/Error/Save=Cannot save \"@0\": @1";
+constexpr const char* kNoFileKey =
+    "$$$/lumcore/filesupport/Error/NotAFile=Cannot save \"@0\": Not a regular file";
 
 // The kernel takes no more than this in one call.
 constexpr std::size_t kMostBytesPerCall = 1u << 30;
@@ -105,15 +107,17 @@ std::string FollowLinks(const std::string& inPath) {
 }
 
 constexpr std::string_view kTemporaryPrefix = ".lumcore-save-";
+constexpr std::string_view kOldPrefix = ".lumcore-old-";
 constexpr std::size_t kTemporaryDigits = 16;
 
-std::string RandomName() {
+// Of one length, so that a long name of the user's does not become too long by it.
+std::string RandomName(std::string_view inPrefix) {
   unsigned long long number = 0;
   while (::getrandom(&number, sizeof number, 0) == -1 && errno == EINTR) {
   }
   char digits[kTemporaryDigits + 1];
   std::snprintf(digits, sizeof digits, "%016llx", number);
-  return std::string(kTemporaryPrefix) + digits;
+  return std::string(inPrefix) + digits;
 }
 
 bool IsTemporaryName(std::string_view inName) {
@@ -131,7 +135,7 @@ class TemporaryFile {
     if (!IsPath(inFolder)) ThrowSystemError(kSaveKey, inTarget, EINVAL);
     constexpr int kTries = 100;
     for (int tries = 0; tries < kTries; ++tries) {
-      mPath = paths::Join(inFolder, RandomName());
+      mPath = paths::Join(inFolder, RandomName(kTemporaryPrefix));
       mNumber = ::open(mPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, inMode);
       if (mNumber != -1) {
         if (Lock()) return;
@@ -199,6 +203,44 @@ void RemoveLeftOvers(const std::string& inFolder) {
     if (IsTemporaryName(entry->d_name)) RemoveIfLeftOver(paths::Join(inFolder, entry->d_name));
   }
 }
+
+// A file that is deleted as far as its own name goes. It comes back under that name, in the place
+// of what has been written there so far, unless it is given up.
+class SetAside {
+ public:
+  explicit SetAside(const std::string& inPath) : mPath(inPath) {
+    struct stat status = {};
+    if (::lstat(inPath.c_str(), &status) != 0) {
+      if (errno == ENOENT) return;
+      ThrowSystemError(kSaveKey, inPath, errno);
+    }
+    if (S_ISDIR(status.st_mode)) ThrowSystemError(kSaveKey, inPath, EISDIR);
+    if (!S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode)) ThrowFileError(kNoFileKey, inPath);
+    const std::string old = paths::Join(paths::Parent(inPath), RandomName(kOldPrefix));
+    if (::rename(inPath.c_str(), old.c_str()) != 0) ThrowSystemError(kSaveKey, inPath, errno);
+    mOld = old;
+  }
+  ~SetAside() {
+    if (mIsReplaced) ::unlink(mPath.c_str());
+    // Where even this fails, nothing is lost: the old file stays beside.
+    if (!mOld.empty() && ::rename(mOld.c_str(), mPath.c_str()) != 0) return;
+  }
+  SetAside(const SetAside&) = delete;
+  SetAside& operator=(const SetAside&) = delete;
+
+  // From here on, what stands under the name is ours.
+  void SetIsReplaced() { mIsReplaced = true; }
+  void GiveUp() {
+    mIsReplaced = false;
+    if (!mOld.empty()) ::unlink(mOld.c_str());
+    mOld.clear();
+  }
+
+ private:
+  std::string mPath;
+  std::string mOld;
+  bool mIsReplaced = false;
+};
 
 // Owner and group are kept where the process may. Where the group cannot be kept, the new group
 // gets no more than everybody has, and no bit that lends the owner's rights survives a change of
@@ -307,6 +349,12 @@ bool FolderExists(const std::string& inPath) {
   return GetStatus(inPath, status) && S_ISDIR(status.st_mode);
 }
 
+bool IsAbsent(const std::string& inPath) {
+  struct stat status = {};
+  if (!IsPath(inPath) || ::stat(inPath.c_str(), &status) == 0) return false;
+  return errno == ENOENT || errno == ENOTDIR;
+}
+
 std::uint64_t FileSize(const std::string& inPath) {
   constexpr const char* kKey = "$$$/lumcore/filesupport/Error/Size=Cannot measure \"@0\": @1";
   struct stat status = {};
@@ -329,8 +377,7 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   const bool exists = GetStatus(target, old);
   if (exists && S_ISDIR(old.st_mode)) ThrowSystemError(kSaveKey, inPath, EISDIR);
   if (exists && !S_ISREG(old.st_mode)) {
-    ThrowFileError("$$$/lumcore/filesupport/Error/NotAFile=Cannot save \"@0\": Not a regular file",
-                   inPath);
+    ThrowFileError(kNoFileKey, inPath);
   }
   // A rename asks for rights on the folder alone and would pass over a file that is
   // write-protected.
@@ -350,6 +397,19 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   handle.Close();
   temporary.RenameTo(target, inPath);
   FlushFolder(folder);
+}
+
+void RecreateFile(const std::string& inPath, std::string_view inBytes) {
+  if (inPath.empty()) ThrowSystemError(kSaveKey, inPath, ENOENT);
+  if (!IsPath(inPath)) ThrowSystemError(kSaveKey, inPath, EINVAL);
+  SetAside old(inPath);
+  Handle handle(Open(kSaveKey, inPath, O_WRONLY | O_CREAT | O_EXCL, 0666), inPath);
+  old.SetIsReplaced();
+  handle.WriteAll(inBytes.data(), inBytes.size());
+  handle.FlushToDisk();
+  handle.Close();
+  old.GiveUp();
+  FlushFolder(paths::Parent(inPath));
 }
 
 }  // namespace lumcore::filesupport::system
