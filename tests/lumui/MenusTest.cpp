@@ -146,8 +146,15 @@ TEST_F(Menus, NodesStandBelowTheBarAndKnowNothingOfIt) {
   EXPECT_LT(mWindow->UI_GetLocalRectF().height, 100);
   mWindow->UI_SetSize(200, 90);
   EXPECT_EQ(mWindow->UI_GetLocalRectF().height, 90);
+  App().SetEventSteps(
+      [this](const ui::OS_Event& inEvent) {
+        if (inEvent.message == ui::kMessageLeftDown) Log(std::to_string(inEvent.lParam));
+        return true;
+      },
+      nullptr);
   input::ClickMouse(*mWindow, Point(15, 12));
-  EXPECT_EQ(TakeLog(), "node:press@5,2 node:release@5,2");
+  EXPECT_EQ(TakeLog(), std::to_string(12 << 16 | 15) + " node:press@5,2 node:release@5,2");
+  App().SetEventSteps(nullptr, nullptr);
   mWindow->UI_SetMenu(nullptr);
   EXPECT_GT(mWindow->UI_GetLocalRectF().height, 90);
   input::ClickMouse(*mWindow, Point(15, 12));

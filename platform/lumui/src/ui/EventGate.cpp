@@ -186,7 +186,7 @@ bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEven
   const bool press =
       inEvent.type() == QEvent::MouseButtonPress || inEvent.type() == QEvent::MouseButtonDblClick;
   CaptureState& capture = NodeManagerImpl().capture;
-  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inEvent);
+  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inWindow.GetPeer()->GetChromeHeight(), inEvent);
   bool handled = true;
   {
     const lumcore::utility::StScopedValue<bool> inPointerEvent(mInPointerEvent, true);
