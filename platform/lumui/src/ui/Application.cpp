@@ -14,6 +14,7 @@
 #include "lumui/ui/ModuleInfo.h"
 #include "ui/ApplicationImpl.h"
 #include "ui/EventGate.h"
+#include "ui/MenuPeer.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 
@@ -45,6 +46,7 @@ Application::Application(int& ioArgumentCount, char** ioArguments)
 
 Application::~Application() {
   mImpl->manager->EndInputCapture(true);
+  MenuPeer::DropAll();
   NodePeer::DropAllWidgets();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   sApplication = nullptr;
