@@ -199,7 +199,9 @@ bool OutlineView::UI_DoKeyboardEvent(lumui::ui::UI_Node*, const KeyboardEvent& i
     lumui::ui::FlushPostActionKeyEvents(inEvent);
     return true;
   }
-  return CallCommand(inEvent);
+  // Keyboards of other scripts have our letters only as a second reading of their keys.
+  return lumui::ui::OfferReadings(
+      inEvent, [this](const KeyboardEvent& inReading) { return CallCommand(inReading); });
 }
 
 bool OutlineView::CallCommand(const KeyboardEvent& inEvent) {

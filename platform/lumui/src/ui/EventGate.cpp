@@ -216,7 +216,7 @@ bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inE
   // Some window systems repeat a held key as release and press; only the presses are told.
   if (inEvent.type() == QEvent::KeyRelease && inEvent.isAutoRepeat()) return true;
   KeyState key;
-  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
   OS_Event os = *key.event.GetOSEvent();
   bool handled = true;
   bool passed = false;
@@ -229,7 +229,7 @@ bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inE
     return true;
   }
   const ModifierKeys modifiers = key.event.GetModKey();
-  const bool chord = modifiers.Has(kModCommand) && !modifiers.Has(kModAlt);
+  const bool chord = modifiers.Has(kModCommand);
   const bool takenByControl = inEvent.isAccepted() && !key.takenByNode;
   if (key.event.IsActionKeyDown() && !key.charactersDropped && !chord && !takenByControl) {
     const lumcore::utility::StScopedValue<ModifierKeys> typing(mTypingModifiers, modifiers);
@@ -270,10 +270,13 @@ void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
 
 bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
   if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
-  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  const KeyboardEvent event =
+      KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
   bool claimed = !NodeManagerImpl().mnemonics;
   const auto claim = mShortcutClaim;
-  if (claim) RunGuarded([&] { claimed = claim(event) || claimed; });
+  if (claim && event.GetCode() != KeyboardCode()) {
+    RunGuarded([&] { claimed = OfferReadings(event, claim) || claimed; });
+  }
   if (claimed) inEvent.accept();
   return claimed;
 }
