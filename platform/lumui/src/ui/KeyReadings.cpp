@@ -30,10 +30,6 @@ bool IsCharacter(int inKey) {
   return inKey > Qt::Key_Space && inKey <= 0xFFFF;
 }
 
-bool IsDeadKey(int inKey) {
-  return inKey >= Qt::Key_Dead_Grave && inKey <= Qt::Key_Dead_Longsolidusoverlay;
-}
-
 bool IsLatinCapital(int inKey) {
   return inKey >= 'A' && inKey <= 'Z';
 }
@@ -155,7 +151,6 @@ KeyReadings ReadThirdLevel(const QKeyEvent& inEvent, KeyReadings inReadings) {
 
 KeyReadings ReadKey(const QKeyEvent& inEvent) {
   const bool keypad = inEvent.modifiers().testFlag(Qt::KeypadModifier);
-  const bool inChord = (inEvent.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
   const int key = inEvent.key();
   KeyReadings readings;
   readings.modifiers = ModifiersFromQt(inEvent.modifiers());
@@ -170,10 +165,9 @@ KeyReadings ReadKey(const QKeyEvent& inEvent) {
     }
     return readings;
   }
-  // With Shift or Ctrl, Qt names other characters than the cap has. A dead key is one unless it is
-  // part of a chord: there Shift has not made it dead.
-  const bool mayHaveCap = IsCharacter(key) || (inChord && IsDeadKey(key));
-  const int cap = mayHaveCap && IsCharacter(layout.cap) ? layout.cap : key;
+  // With Shift or Ctrl, Qt names other characters than the cap has. A dead key is one also where
+  // Shift alone makes it dead.
+  const int cap = IsCharacter(key) && IsCharacter(layout.cap) ? layout.cap : key;
   readings.code = CodeFromQt(QtKey{cap, false});
   if (!IsCharacter(cap)) return readings;
   readings.latinCode = CharacterCode(LatinKeyOf(inEvent, cap, layout), false);
