@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include "ui/ApplicationImpl.h"
@@ -40,6 +41,10 @@ int PlaceOf(const QKeyEvent& inEvent) {
 std::unique_ptr<QKeyEvent> MakePressAt(int inPlace) {
   return std::make_unique<QKeyEvent>(QEvent::KeyPress, 0, Qt::NoModifier,
                                      static_cast<quint32>(inPlace) + kFirstKeyCode, 0, 0);
+}
+
+bool RepeatsByReleases() {
+  return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
 }  // namespace lumui::ui
