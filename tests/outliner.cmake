@@ -1,6 +1,8 @@
 vek_test(outliner_tests
   SOURCES
+    hosts/CommandFilesTest.cpp
     hosts/EditScriptTest.cpp
+    hosts/FileCheckTest.cpp
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
@@ -9,3 +11,9 @@ vek_test(outliner_tests
     hosts/RunningOutliner.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
+
+add_test(NAME outliner_program COMMAND ${CMAKE_COMMAND}
+  -DPROGRAM=$<TARGET_FILE:vek_outliner> -DSOURCE_DIR=${PROJECT_SOURCE_DIR}
+  -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/outliner_program
+  -P ${CMAKE_CURRENT_SOURCE_DIR}/hosts/ProgramTest.cmake)
+set_tests_properties(outliner_program PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)

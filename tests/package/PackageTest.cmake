@@ -61,6 +61,13 @@ if(NOT output STREQUAL expected)
   message(FATAL_ERROR "the host wrote\n${output}\nand not\n${expected}")
 endif()
 
+# The outliner finds its files there as well.
+set(ENV{QT_QPA_PLATFORM} offscreen)
+run("the installed outliner" ${prefix}/bin/outliner --check)
+if(NOT output MATCHES "${prefix}/share/vek/outliner/outliner.cmdreg.xml: ")
+  message(FATAL_ERROR "the installed outliner has looked at other files:\n${output}")
+endif()
+
 # What is installed must find its libraries by itself, wherever it was moved to.
 file(GLOB programs ${prefix}/bin/*)
 foreach(file IN LISTS programs)

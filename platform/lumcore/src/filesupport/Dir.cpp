@@ -63,6 +63,10 @@ Dir Dir::TempDir() {
   return Dir(paths::FromSystem(path));
 }
 
+Dir Dir::AppDir() {
+  return Dir(paths::Parent(system::ProgramPath()));
+}
+
 bool Dir::Exists() const {
   return system::FolderExists(mPath);
 }

@@ -43,6 +43,7 @@ std::intptr_t OpenForReading(const std::string& inPath);
 // An existing file is emptied, a new one has the permissions that the process gives.
 std::intptr_t OpenForWriting(const std::string& inPath);
 
+std::string ProgramPath();  // of this process's executable file
 bool FileExists(const std::string& inPath);
 bool FolderExists(const std::string& inPath);
 std::uint64_t FileSize(const std::string& inPath);

@@ -11,6 +11,8 @@
 #include <csignal>
 #include <cstdio>
 #include <ctime>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "filesupport/Paths.h"
@@ -225,6 +227,17 @@ std::intptr_t OpenForReading(const std::string& inPath) {
 
 std::intptr_t OpenForWriting(const std::string& inPath) {
   return Open(kOpenKey, inPath, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+}
+
+std::string ProgramPath() {
+  constexpr const char* kLink = "/proc/self/exe";
+  std::error_code code;
+  const std::filesystem::path path = std::filesystem::read_symlink(kLink, code);
+  if (code) {
+    ThrowSystemError("$$$/lumcore/filesupport/Error/Program=Cannot find this program by \"@0\": @1",
+                     kLink, code.value());
+  }
+  return paths::FromSystem(path);
 }
 
 bool FileExists(const std::string& inPath) {
