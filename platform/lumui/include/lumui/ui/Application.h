@@ -44,6 +44,7 @@ class LUMUI_API Application {
   // brings the error manager back.
   void SetErrorFunction(ErrorFunction inFunction);
   // True keeps a key press from opening a menu by its mnemonic: the press then comes as an event.
+  // Asked with each reading of the key until it answers true.
   void SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inClaim);
 
   // Runs until Quit and returns its code. A Quit from before the call ends it at once. Not
