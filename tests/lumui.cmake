@@ -8,6 +8,7 @@ vek_test(lumui_tests
     lumui/MessageDialogTest.cpp
     lumui/NativeSideTest.cpp
     lumui/ScrollViewTest.cpp
+    lumui/ThemeTest.cpp
     lumui/TimerTest.cpp
     lumui/WindowTest.cpp
     lumui/UITest.cpp

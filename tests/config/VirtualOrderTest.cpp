@@ -11,6 +11,8 @@
 #include <cstring>
 #include <string>
 
+#include "vek/document/DocumentTypeInfo.h"
+#include "vek/document/FileBasedDocument.h"
 #include "vek/selection/Junction.h"
 #include "vek/selection/Manager.h"
 #include "vek/selection/Restorer.h"
@@ -55,6 +57,17 @@ struct HandlerProbe : vek::uisupport::CommandHandler {
   }
 };
 
+struct DocumentProbe : vek::document::FileBasedDocument {
+  static std::string Get() {
+    return Positions(&DocumentProbe::HasAttachment, &DocumentProbe::GetCommandAttachment,
+                     &DocumentProbe::Close, &DocumentProbe::LoadFromFile,
+                     &DocumentProbe::SaveToFile, &DocumentProbe::Save, &DocumentProbe::CanClose,
+                     &DocumentProbe::GetTitle, &DocumentProbe::SaveAs, &DocumentProbe::SetDirty,
+                     &DocumentProbe::Parent, &DocumentProbe::GetSaveFileNameFromDialog,
+                     &DocumentProbe::SaveBeforeCloseMessage);
+  }
+};
+
 TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   using vek::selection::Junction;
   using vek::selection::Manager;
@@ -69,6 +82,12 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   EXPECT_EQ(Positions(&Hooks::WillPostDeed, &Hooks::DidPostDeed, &Hooks::WillUndoDeed,
                       &Hooks::DidUndoDeed, &Hooks::WillRedoDeed, &Hooks::DidRedoDeed),
             "2 3 4 5 6 7 ");
+  // Three private operations stand behind the title.
+  EXPECT_EQ(DocumentProbe::Get(), "2 3 4 5 6 7 8 9 13 14 15 16 17 ");
+  using Type = vek::document::DocumentTypeInfo;
+  EXPECT_EQ(Positions(&Type::ExtensionPushBack, &Type::ExtensionRemove, &Type::ExtensionBegin,
+                      &Type::ExtensionEnd),
+            "5 6 7 8 ");
   // The destructor stands second.
   EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
 }

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "support/RecordingHandler.h"
-#include "vek/utility/CallbackList.h"
+#include "lumcore/utility/CallbackList.h"
 
 namespace vek::uisupport {
 namespace {
@@ -102,7 +102,7 @@ TEST_F(Focus, HandlerThatDiesLeavesNullAndTellsNobody) {
   EXPECT_EQ(Set(&leaf), "gained:leaf now:leaf");
 }
 
-using Callbacks = vek::utility::CallbackList<int>;
+using Callbacks = lumcore::utility::CallbackList<int>;
 
 class CallbackList : public testing::Test {
  protected:

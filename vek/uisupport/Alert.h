@@ -27,6 +27,7 @@ enum Type : int {
 enum Icon : int {
   eIconNone = 0,
   eIconStop = 1,
+  eIconQuestion = 2,  // shown without a picture
   eIconCaution = 3,
   eIconNote = 4,
 };

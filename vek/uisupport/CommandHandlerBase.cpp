@@ -6,13 +6,13 @@
 #include <memory>
 #include <utility>
 
-#include "vek/utility/CallbackList.h"
+#include "lumcore/utility/CallbackList.h"
 
 namespace vek::uisupport {
 
 namespace {
 
-using HandlerChangeCallbacks = utility::CallbackList<CommandHandlerBase*>;
+using HandlerChangeCallbacks = lumcore::utility::CallbackList<CommandHandlerBase*>;
 
 // Plain pointers, so that handlers of any static lifetime may still look here when they die.
 struct ChainEnds {

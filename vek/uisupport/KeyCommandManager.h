@@ -8,11 +8,11 @@
 #include <list>
 
 #include "lumcore/Strings.h"
+#include "lumcore/utility/CallbackList.h"
 #include "lumui/ui/KeyboardCode.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "vek/config/Export.h"
 #include "vek/uisupport/KeyCommand.h"
-#include "vek/utility/CallbackList.h"
 
 namespace lumcore::filesupport {
 class File;
@@ -109,7 +109,7 @@ class VEK_API KeyCommandManager {
   bool mHandlingHold = false;
   int mHeldCommand = 0;
   CommandHandlerBase* mHoldHandler = nullptr;  // null asks the whole chain
-  mutable utility::CallbackList<int> mMappingsChanged;
+  mutable lumcore::utility::CallbackList<int> mMappingsChanged;
   KeyCommandList mUnlinked;  // owned
 };
 

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "dialogs/AnnouncedModal.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
@@ -17,7 +18,6 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/Application.h"
 #include "lumui/ui/OS_Window.h"
-#include "ui/EventGate.h"
 #include "ui/NodePeer.h"
 
 namespace lumui::dialogs {
@@ -62,15 +62,6 @@ QMessageBox::Icon QtFromIcon(MessageIcon inIcon) {
   }
   return QMessageBox::NoIcon;
 }
-
-// Tells the gate that the modal window of this scope has somebody to answer it.
-class StAnnouncedModal {
- public:
-  StAnnouncedModal() { ui::EventGate::Get()->AnnounceModal(true); }
-  ~StAnnouncedModal() { ui::EventGate::Get()->AnnounceModal(false); }
-  StAnnouncedModal(const StAnnouncedModal&) = delete;
-  StAnnouncedModal& operator=(const StAnnouncedModal&) = delete;
-};
 
 std::vector<QAbstractButton*> AddButtons(QMessageBox& ioBox, const MessageDialogArgs& inArgs) {
   std::vector<QAbstractButton*> buttons;

@@ -11,7 +11,7 @@
 
 #include "lumcore/utility/ScopedValue.h"
 
-namespace vek::utility {
+namespace lumcore::utility {
 
 // Functions that others hold too. A holder unsubscribes by clearing the function that it shares:
 // the next call skips it, and the next Add drops it. When the list dies it clears every function
@@ -50,15 +50,16 @@ class CallbackList {
     }
   }
 
-  // inMakeArgument is asked anew before each call and gives what is passed to that callback.
-  template <class MakeArgument>
-  void CallEach(MakeArgument inMakeArgument) {
-    const lumcore::utility::StScopedValue<int> depth(mCallDepth, mCallDepth + 1);
+  // Each of inMakeArguments is asked anew before each call and gives what is passed to that
+  // callback.
+  template <class... MakeArguments>
+  void CallEach(MakeArguments... inMakeArguments) {
+    const StScopedValue<int> depth(mCallDepth, mCallDepth + 1);
     for (auto entry = mEntries.begin(); entry != mEntries.end(); ++entry) {
       if (!*entry || (*entry)->empty()) continue;
       // Called through a copy: a callback that clears itself would destroy what is running.
       const Function function = **entry;
-      function(inMakeArgument());
+      function(inMakeArguments()...);
     }
   }
 
@@ -80,4 +81,4 @@ class CallbackList {
   int mCallDepth = 0;
 };
 
-}  // namespace vek::utility
+}  // namespace lumcore::utility
