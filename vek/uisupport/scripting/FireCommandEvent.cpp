@@ -3,6 +3,8 @@
 
 #include "vek/uisupport/scripting/FireCommandEvent.h"
 
+#include <utility>
+
 #include "lumcore/utility/StringUtils.h"
 #include "lumscripting/events/QueueEvent.h"
 #include "vek/uisupport/scripting/CommandEvent.h"
