@@ -35,7 +35,7 @@ bool DocumentCommands::DoUnifiedDispatch(int inCommand,
     *ioQuery->enabled = entry.isEnabled();
     if (entry.title) *ioQuery->title = entry.title();
   } else {
-    mEditor.Commit();
+    if (inCommand != kCommandGiveUpText) mEditor.Commit();
     if (entry.isEnabled()) entry.execute();
   }
   return true;
@@ -76,6 +76,8 @@ void DocumentCommands::AddTextCommands() {
   mEntries[kCommandEditText] = {[this] { return mDocument.GetSelectedRows().size() == 1; },
                                 [this] { mEditor.Begin(*mDocument.GetSelectedRows().front()); },
                                 nullptr};
+  mEntries[kCommandGiveUpText] = {[this] { return mEditor.IsActive(); },
+                                  [this] { mEditor.Cancel(); }, nullptr};
 }
 
 // A text that is being typed is the newest edit already, though it is no deed yet: it is what Undo

@@ -17,8 +17,8 @@ class RowEditor;
 // Answers for the commands that work on the document: edits, selection, undo and save. It stands
 // on the window's command handler while the document is open there.
 //
-// Every command here ends the editing of a text first, so that what was typed is part of the
-// outline before anything else happens to it.
+// Every command here but the one that gives a text up ends the editing of a text first, so that
+// what was typed is part of the outline before anything else happens to it.
 class DocumentCommands final : public vek::uisupport::UnifiedDispatchCmdAttachment {
  public:
   // All borrowed, and outlive this. inSave saves the document and throws what that throws.

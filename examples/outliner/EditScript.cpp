@@ -9,13 +9,13 @@
 #include <sstream>
 #include <utility>
 
-#include "KeyTable.h"
+#include "KeyChord.h"
 #include "OutlineWindow.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/testing/SyntheticInput.h"
-#include "lumui/ui/Application.h"
+#include "vek/uisupport/ReportError.h"
 
 namespace outliner {
 
@@ -101,10 +101,11 @@ const EditScript::NamedStep EditScript::kSteps[] = {
 
 EditScript::EditScript(OutlineWindow& inWindow, std::ostream& outLog)
     : mWindow(inWindow), mLog(outLog) {
-  lumui::ui::Application::Get()->SetErrorFunction([this](const std::exception_ptr& inError) {
-    if (!mError) mError = inError;
-  });
   mOldAnswerer = lumui::dialogs::SetDialogAnswerer([this](const auto& inBox) -> std::optional<int> {
+    if (vek::uisupport::ExecutingDeferredReportError()) {
+      if (mError.empty()) mError = ToStdString(inBox.text);
+      return 0;
+    }
     const std::string wanted = std::exchange(mAnswer, std::string());
     for (std::size_t button = 0; button < inBox.buttons.size(); ++button) {
       if (!wanted.empty() && ToStdString(inBox.buttons[button]) == wanted) {
@@ -123,7 +124,6 @@ EditScript::EditScript(OutlineWindow& inWindow, std::ostream& outLog)
 EditScript::~EditScript() {
   mWindow.SetSavedFunction(nullptr);
   lumui::dialogs::SetDialogAnswerer(std::move(mOldAnswerer));
-  lumui::ui::Application::Get()->SetErrorFunction(nullptr);
 }
 
 void EditScript::Run(const lumcore::filesupport::File& inScript) {
@@ -155,7 +155,9 @@ void EditScript::RunLine(std::string_view inLine) {
   }
   (this->*found->step)(inLine.substr(std::min(blank + 1, inLine.size())));
   lumui::testing::ProcessEvents();
-  if (mError) std::rethrow_exception(std::exchange(mError, nullptr));
+  if (!mError.empty()) {
+    throw lumcore::config::Error(ToUTF16(std::exchange(mError, std::string())));
+  }
 }
 
 void EditScript::Key(std::string_view inArguments) {

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstddef>
-#include <exception>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -53,7 +52,7 @@ class EditScript {
 
   OutlineWindow& mWindow;
   std::ostream& mLog;
-  std::exception_ptr mError;  // the first that the host has reported
+  std::string mError;  // the first that was reported in this step; empty for none
   std::string mAnswer;
   lumui::dialogs::DialogAnswerer mOldAnswerer;
 };

@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "OutlineDocument.h"
-#include "OutlinerCommands.h"
 #include "Palette.h"
 #include "RowEditor.h"
 #include "lumcore/config/Localizer.h"
+#include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/Drawbot.h"
@@ -167,6 +167,7 @@ void OutlineView::Press(const MouseEvent& inEvent) {
 }
 
 void OutlineView::SelectWithMouse(OutlineRow& inRow, lumui::ui::ModifierKeys inModifiers) {
+  const lumcore::utility::StScopedValue<bool> selecting(mIsSelecting, true);
   const auto& tree = mDocument->GetTree();
   if (inModifiers.Has(lumui::ui::kModShift)) {
     const auto selected = mDocument->GetSelectedRows();
@@ -195,29 +196,12 @@ bool OutlineView::UI_DoKeyboardEvent(lumui::ui::UI_Node*, const KeyboardEvent& i
   }
   if (!inEvent.IsActionKeyDown()) return false;
   if (mEditor->HandleKey(inEvent)) {
-    // The key has done its work: Backspace and Escape are no characters.
+    // The key has done its work: Backspace is no character.
     lumui::ui::FlushPostActionKeyEvents(inEvent);
     return true;
   }
-  return CallCommand(inEvent);
-}
-
-bool OutlineView::CallCommand(const KeyboardEvent& inEvent) {
-  const int command = mKeys.FindCommand(inEvent.GetCode(), inEvent.GetModKey());
-  if (command == 0) return false;
-  // Before the call, since a command may throw, close the window or end the application.
-  lumui::ui::FlushPostActionKeyEvents(inEvent);
-  const lumcore::utility::StKeepAlive keepAlive(*this);
-  using vek::uisupport::CommandHandlerBase;
-  bool isEnabled = false;
-  bool isChecked = false;
-  UTF16String title;
-  if (!CommandHandlerBase::CallEnablementChain(command, isEnabled, isChecked, title)) return false;
-  // A key that means a command is taken also while the command is disabled.
-  if (!isEnabled) return true;
-  mAnchor = 0;
-  CommandHandlerBase::CallCommandChain(command);
-  return true;
+  // In a text a letter is a letter, also where the key map has a command for it.
+  return mEditor->IsForTyping(inEvent);
 }
 
 void OutlineView::UI_FocusChanged(int inReason) {
@@ -238,6 +222,7 @@ void OutlineView::UI_SizeChanged(const Rect& inRect) {
 }
 
 void OutlineView::ListenToMessage(const vek::selection::SelectionChangeMessage& inMessage) {
+  if (!mIsSelecting) mAnchor = 0;
   const auto& nodes = inMessage.GetAffectedNodes();
   if (nodes.size() > kMostSingleRows) {
     UI_InvalidateAll();

@@ -5,9 +5,9 @@
 
 #include <cstddef>
 
-#include "KeyTable.h"
 #include "OutlineRow.h"
 #include "RowPainter.h"
+#include "lumui/ui/ModifierKeys.h"
 #include "lumui/ui/UI_SubView.h"
 #include "vek/messaging/Listener.h"
 #include "vek/selection/Messages.h"
@@ -23,8 +23,8 @@ class OutlineDocument;
 class RowEditor;
 
 // Shows the rows of a document as the content of a scroll view, and turns keys and clicks into
-// commands, selection and typing. It draws only the rows that the damage touches, so that the
-// length of the outline does not matter.
+// selection and typing. Keys that are not for a text it leaves to the window. It draws only the
+// rows that the damage touches, so that the length of the outline does not matter.
 //
 // It belongs to its parent node. Document and editor are borrowed until Detach; behind that the
 // view is blank and deaf.
@@ -66,14 +66,14 @@ class OutlineView final
   OutlineRow* RowAt(float inY) const;  // null beside the rows
   void Press(const lumui::ui::MouseEvent& inEvent);
   void SelectWithMouse(OutlineRow& inRow, lumui::ui::ModifierKeys inModifiers);
-  bool CallCommand(const lumui::ui::KeyboardEvent& inEvent);
 
   OutlineDocument* mDocument;
   RowEditor* mEditor;
   lumui::controls::UI_ScrollView* mScrollView = nullptr;
-  KeyTable mKeys;
   RowPainter mPainter;
-  OutlineRow::Id mAnchor = 0;  // where a range by Shift and click begins
+  // Where a range by Shift and click begins; 0 once anything but a click has changed the selection.
+  OutlineRow::Id mAnchor = 0;
+  bool mIsSelecting = false;
 };
 
 }  // namespace outliner

@@ -7,7 +7,7 @@
 #include <exception>
 #include <string>
 
-#include "OutlineEdits.h"
+#include "CommandSystem.h"
 #include "OutlineView.h"
 #include "OutlinerCommands.h"
 #include "StatusLine.h"
@@ -18,6 +18,8 @@
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/Application.h"
+#include "lumui/ui/KeyboardEvent.h"
+#include "vek/uisupport/KeyCommandManager.h"
 #include "vek/undo/Deed.h"
 
 namespace outliner {
@@ -99,6 +101,28 @@ void OutlineWindow::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
 
 void OutlineWindow::FocusRows() {
   mView->UI_SetKeyboardFocus(lumui::ui::kFocusOther);
+}
+
+bool OutlineWindow::UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode,
+                                       const lumui::ui::KeyboardEvent& inEvent) {
+  if (OS_Window::UI_DoKeyboardEvent(inNode, inEvent)) return true;
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  try {
+    // Keyboards of other scripts have our letters only as a second reading of their keys.
+    const bool taken = lumui::ui::OfferReadings(inEvent, [](const auto& inReading) {
+      return vek::uisupport::KeyCommandManager::Get().RouteKeyEvent(inReading);
+    });
+    if (!taken) return false;
+  } catch (...) {  // a key whose command fails has meant the command all the same
+    lumui::ui::FlushPostActionKeyEvents(inEvent);
+    throw;
+  }
+  lumui::ui::FlushPostActionKeyEvents(inEvent);
+  return true;
+}
+
+const lumcore::UTF8String& OutlineWindow::DoGetCommandContext() {
+  return mEditor->IsActive() ? TextContext() : CommandHandler::DoGetCommandContext();
 }
 
 void OutlineWindow::OnEvent(lumui::ui::OS_Event* ioEvent) {

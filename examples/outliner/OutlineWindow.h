@@ -63,12 +63,17 @@ class OutlineWindow final
   bool MayClose();
 
   void UI_DoClose() override;
+  // What no node has taken means a command, if the key map has one for it.
+  bool UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode,
+                          const lumui::ui::KeyboardEvent& inEvent) override;
 
  protected:
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
   bool DoHandleCommand(int inCommand) override;
   bool DoCommandEnabled(int inCommand, bool& ioEnabled, bool& ioChecked,
                         lumcore::UTF16String& ioTitle) override;
+  // That of texts while one is edited, else none.
+  const lumcore::UTF8String& DoGetCommandContext() override;
 
  private:
   static void OnEvent(lumui::ui::OS_Event* ioEvent);

@@ -6,20 +6,36 @@
 #include <utility>
 
 #include "OutlinerCommands.h"
-#include "lumcore/config/ThrowError.h"
+#include "Reports.h"
+#include "lumui/ui/Application.h"
+#include "vek/uisupport/KeyCommandManager.h"
 #include "vek/uisupport/MainWindowLookup.h"
-#include "vek/uisupport/ReportError.h"
 
 namespace outliner {
 
 using lumcore::UTF16String;
 
+namespace {
+
+bool HasCommand(const lumui::ui::KeyboardEvent& inEvent) {
+  bool endedHold = false;
+  return vek::uisupport::KeyCommandManager::Get().GetCommandIdFromKeyEvent(inEvent, endedHold) != 0;
+}
+
+}  // namespace
+
 OutlinerApp::OutlinerApp(std::function<void()> inQuit) : mQuit(std::move(inQuit)) {
   SetDefaultCommandHandler(this);
   vek::uisupport::SetMainWindowLookup([this] { return FindOpenWindow(); });
+  auto* const application = lumui::ui::Application::Get();
+  application->SetErrorFunction(&ReportFailure);
+  application->SetShortcutClaim(&HasCommand);
 }
 
 OutlinerApp::~OutlinerApp() {
+  auto* const application = lumui::ui::Application::Get();
+  application->SetShortcutClaim(nullptr);
+  application->SetErrorFunction(nullptr);
   vek::uisupport::SetMainWindowLookup({});
 }
 
@@ -34,19 +50,6 @@ OutlineWindow& OutlinerApp::Show(std::unique_ptr<OutlineDocument> inDocument) {
   mWindow->UI_Activate();
   mWindow->FocusRows();
   return *mWindow;
-}
-
-void OutlinerApp::ShowError(const std::exception_ptr& inError) {
-  try {
-    std::rethrow_exception(inError);
-  } catch (const lumcore::config::Error& error) {
-    vek::uisupport::ReportError(error.GetText(), 0, false);
-  } catch (const std::exception& error) {
-    vek::uisupport::ReportError(error, false);
-  } catch (...) {
-    // Whatever it is, the user must hear that something went wrong.
-    vek::uisupport::ReportError(false);
-  }
 }
 
 bool OutlinerApp::DoHandleCommand(int inCommand) {

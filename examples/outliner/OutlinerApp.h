@@ -4,7 +4,6 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
-#include <exception>
 #include <functional>
 #include <memory>
 
@@ -14,6 +13,7 @@
 namespace outliner {
 
 // The host's part of the application: the end of every command chain and the owner of the window.
+// It reports what handlers let out, and claims the keys of the key map from the menus' mnemonics.
 // One at a time, made behind the application object of the window system and gone before it.
 class OutlinerApp final : public vek::uisupport::CommandHandler {
  public:
@@ -24,9 +24,6 @@ class OutlinerApp final : public vek::uisupport::CommandHandler {
   // Shows the document in a window, in place of one that has closed.
   OutlineWindow& Show(std::unique_ptr<OutlineDocument> inDocument);
   OutlineWindow* GetWindow() { return mWindow.get(); }  // null before Show
-
-  // Tells the user in a box. For the application's error function.
-  void ShowError(const std::exception_ptr& inError);
 
  protected:
   bool DoHandleCommand(int inCommand) override;

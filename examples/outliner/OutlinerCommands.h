@@ -5,9 +5,11 @@
 
 namespace outliner {
 
-// The commands of the host, as the command chain passes them.
+// The commands of the host, as the command chain passes them. The command file has a record for
+// each of these ids and for no other; key maps know the commands by the names that stand there.
 enum Command : int {
-  kCommandNewSibling = 1001,
+  kCommandsBegin = 1001,
+  kCommandNewSibling = kCommandsBegin,
   kCommandNewChild,
   kCommandDelete,
   kCommandIndent,
@@ -23,6 +25,12 @@ enum Command : int {
   kCommandSave,
   kCommandClose,
   kCommandQuit,
+  kCommandGiveUpText,
+  kCommandsEnd,
 };
+
+constexpr bool IsOwnCommand(int inCommand) {
+  return inCommand >= kCommandsBegin && inCommand < kCommandsEnd;
+}
 
 }  // namespace outliner

@@ -84,10 +84,6 @@ void RowEditor::Cancel() {
 
 bool RowEditor::HandleKey(const KeyboardEvent& inEvent) {
   const unsigned code = inEvent.GetCode().GetControlCode(false);
-  if (code == KeyboardCode::kEscape && mActive) {
-    Cancel();
-    return true;
-  }
   if (mActive && inEvent.GetModKey().IsEmpty() &&
       (code == KeyboardCode::kHome || code == KeyboardCode::kEnd)) {
     SetCaret(code == KeyboardCode::kHome ? 0 : mEdit.GetText().size());
@@ -102,6 +98,14 @@ bool RowEditor::HandleKey(const KeyboardEvent& inEvent) {
   (mEdit.*move)();
   Changed();
   return true;
+}
+
+bool RowEditor::IsForTyping(const KeyboardEvent& inEvent) const {
+  const KeyboardCode code = inEvent.GetCode();
+  const bool types = code.IsPrintable() || code.GetControlCode(false) == KeyboardCode::kSpace;
+  const auto modifiers = inEvent.GetModKey();
+  return mActive && types && !modifiers.Has(lumui::ui::kModCommand) &&
+         !modifiers.Has(lumui::ui::kModAlt);
 }
 
 bool RowEditor::HandleCharacter(const KeyboardEvent& inEvent) {

@@ -42,8 +42,10 @@ class RowEditor {
   void Commit();
   void Cancel();
 
-  // True for a key that moves the caret or changes the text, and for Escape while editing.
+  // True for a key that moves the caret or changes the text.
   bool HandleKey(const lumui::ui::KeyboardEvent& inEvent);
+  // Whether a key down is about to type into the text that is being edited.
+  bool IsForTyping(const lumui::ui::KeyboardEvent& inEvent) const;
   // A typed character. False where there is no row for it.
   bool HandleCharacter(const lumui::ui::KeyboardEvent& inEvent);
 

@@ -4,10 +4,18 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "CommandList.h"
+#include "CommandSystem.h"
 #include "EditScript.h"
+#include "FileCheck.h"
+#include "Options.h"
 #include "OutlinerApp.h"
+#include "ProgramTexts.h"
+#include "Reports.h"
+#include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
@@ -16,6 +24,7 @@
 namespace {
 
 using lumcore::filesupport::File;
+using outliner::Options;
 using outliner::OutlineDocument;
 
 constexpr int kExitFailure = 1;
@@ -23,34 +32,20 @@ constexpr int kExitUsage = 2;
 
 constexpr const char* kUsage =
     "$$$/outliner/Main/Usage="
-    "outliner FILE                   edit an outline\n"
-    "outliner --new FILE             begin one; FILE is written when it is saved\n"
-    "outliner --script SCRIPT FILE   replay keys and clicks on it, without a display\n";
+    "outliner FILE                       edit an outline\n"
+    "outliner --new FILE                 begin one; FILE is written when it is saved\n"
+    "outliner --script SCRIPT FILE       replay keys and clicks on it, without a display\n"
+    "  --keys MAP                        with one of these: use the keys of this key map\n"
+    "outliner --list-commands            print all commands with their keys\n"
+    "outliner --list-commands=markdown   print them as a page\n"
+    "outliner --check [COMMANDS]         look for faults in the command file and the key map,\n"
+    "                                    in another command file, or with --keys in another map\n";
+constexpr const char* kLanguageUsage =
+    "$$$/outliner/Main/LanguageUsage="
+    "  --language LANGUAGE               with all of these: speak \"de\" or another language\n";
 
 lumcore::UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
-
-struct Options {
-  std::string file;
-  std::string script;
-  bool isNew = false;
-};
-
-bool ReadOptions(int inCount, char** inArguments, Options& outOptions) {
-  for (int argument = 1; argument < inCount; ++argument) {
-    const std::string text = inArguments[argument];
-    if (text == "--new") {
-      outOptions.isNew = true;
-    } else if (text == "--script" && argument + 1 < inCount) {
-      outOptions.script = inArguments[++argument];
-    } else if (text.rfind("--", 0) == 0 || !outOptions.file.empty()) {
-      return false;
-    } else {
-      outOptions.file = text;
-    }
-  }
-  return !outOptions.file.empty();
 }
 
 std::unique_ptr<OutlineDocument> OpenDocument(const Options& inOptions) {
@@ -78,28 +73,70 @@ int RunScript(outliner::OutlinerApp& ioApp, const Options& inOptions) {
 
 int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
               const Options& inOptions) {
-  if (ioApplication.IsHeadless()) {
+  ioApp.Show(OpenDocument(inOptions));
+  return ioApplication.Run();
+}
+
+int RunEditor(lumui::ui::Application& ioApplication, const Options& inOptions,
+              const outliner::StReportsToStream* inReports) {
+  if (inOptions.script.empty() && ioApplication.IsHeadless()) {
     throw lumcore::config::Error(
         Localized("$$$/outliner/Main/NoDisplay=there is no display to show a window on; --script "
                   "needs none"));
   }
-  ioApp.Show(OpenDocument(inOptions));
-  ioApplication.SetErrorFunction(
-      [&ioApp](const std::exception_ptr& inError) { ioApp.ShowError(inError); });
-  const int code = ioApplication.Run();
-  ioApplication.SetErrorFunction(nullptr);
-  return code;
+  outliner::CommandSystem commands(outliner::FindCommandFiles());
+  if (!inOptions.keys.empty()) commands.LoadUserKeys(File(inOptions.keys));
+  // A script is not replayed with keys that it was not written for.
+  if (inReports && inReports->HasReported()) return kExitFailure;
+  outliner::OutlinerApp app([&ioApplication] { ioApplication.Quit(); });
+  return inOptions.script.empty() ? RunWindow(app, ioApplication, inOptions)
+                                  : RunScript(app, inOptions);
+}
+
+int ListCommands(const Options& inOptions) {
+  outliner::CommandSystem commands(outliner::FindCommandFiles());
+  if (!inOptions.keys.empty()) commands.LoadUserKeys(File(inOptions.keys));
+  std::cout << (inOptions.task == Options::kWriteCommandPage ? outliner::RenderCommandPage()
+                                                             : outliner::RenderCommandTable());
+  return 0;
+}
+
+int Check(const Options& inOptions) {
+  outliner::CommandFiles files = outliner::FindCommandFiles();
+  if (!inOptions.file.empty()) files.commands = File(inOptions.file);
+  if (!inOptions.keys.empty()) files.keys = File(inOptions.keys);
+  return outliner::CheckFiles(files, std::cout) ? 0 : kExitFailure;
+}
+
+void SetIdentity() {
+  using lumcore::utility::ToUTF16;
+  lumcore::config::SetApplicationName(ToUTF16("outliner"));
+  lumcore::config::SetClientName(ToUTF16("outliner"));
+  lumcore::config::SetClientVersion(ToUTF16(OUTLINER_VERSION));
 }
 
 int Run(int inCount, char** inArguments) {
   lumui::ui::Application application(inCount, inArguments);
+  const outliner::ProgramTexts texts(inCount, inArguments);
   Options options;
   if (!ReadOptions(inCount, inArguments, options)) {
-    std::cerr << lumcore::utility::ToStdString(Localized(kUsage));
+    std::cerr << lumcore::utility::ToStdString(Localized(kUsage) + Localized(kLanguageUsage));
     return kExitUsage;
   }
-  outliner::OutlinerApp app([&application] { application.Quit(); });
-  return options.script.empty() ? RunWindow(app, application, options) : RunScript(app, options);
+  SetIdentity();
+  outliner::RegisterErrorTexts();
+  const bool hasWindow =
+      options.task == Options::kEdit && options.script.empty() && !application.IsHeadless();
+  std::optional<outliner::StReportsToStream> reports;
+  if (!hasWindow) reports.emplace(std::cerr);
+  try {
+    if (options.task == Options::kCheck) return Check(options);
+    if (options.task != Options::kEdit) return ListCommands(options);
+    return RunEditor(application, options, reports ? &*reports : nullptr);
+  } catch (...) {  // whatever it is, the user hears of it before the program ends
+    outliner::ReportFailure(std::current_exception());
+    return kExitFailure;
+  }
 }
 
 }  // namespace
@@ -107,7 +144,7 @@ int Run(int inCount, char** inArguments) {
 int main(int argc, char** argv) {
   try {
     return Run(argc, argv);
-  } catch (const std::exception& error) {
+  } catch (const std::exception& error) {  // of the reporting itself, or without a window system
     std::cerr << "outliner: " << error.what() << "\n";
   }
   return kExitFailure;

@@ -73,6 +73,18 @@ TEST(OutlinerGestures, EachKeyDoesItsCommand) {
   }
 }
 
+TEST(OutlinerGestures, AHeldKeyGoesOnOnlyForCommandsThatRepeat) {
+  RunningOutliner host("a b c d e");
+  host.HoldKey("Down", 2);
+  EXPECT_EQ(host.Show(), "a b c* d e");
+  host.HoldKey("Alt+Up", 1);
+  EXPECT_EQ(host.Show(), "c* a b d e");
+  host.HoldKey("Ctrl+Z", 3);
+  EXPECT_EQ(host.Show(), "a b c* d e");
+  host.HoldKey("Return", 3);
+  EXPECT_EQ(host.Show(), "a b c -* d e / |");
+}
+
 TEST(OutlinerGestures, TypingEditsTheSelectedRowInPlace) {
   RunningOutliner host("one two");
   host.Keys("Down");
@@ -230,14 +242,15 @@ TEST(OutlinerClosing, AsksAboutChangesAndDoesWhatIsAnswered) {
 }
 
 TEST(OutlinerClosing, DiscardLeavesTheFileAndACleanDocumentIsNotAskedAbout) {
-  RunningOutliner dirty("a b");
-  const std::string before = dirty.ReadFile();
-  dirty.Keys("Down Delete");
-  dirty.AnswerNextBox("Discard");
-  lumui::testing::RequestClose(dirty.GetWindow());
-  EXPECT_TRUE(dirty.HasQuit());
-  EXPECT_EQ(dirty.ReadFile(), before);
-
+  {
+    RunningOutliner dirty("a b");
+    const std::string before = dirty.ReadFile();
+    dirty.Keys("Down Delete");
+    dirty.AnswerNextBox("Discard");
+    lumui::testing::RequestClose(dirty.GetWindow());
+    EXPECT_TRUE(dirty.HasQuit());
+    EXPECT_EQ(dirty.ReadFile(), before);
+  }
   RunningOutliner clean("a b");
   clean.Keys("Down Delete Ctrl+Z Ctrl+W");
   EXPECT_EQ(clean.TakeMessages(), "");

@@ -3,7 +3,6 @@
 
 #include "hosts/RunningOutliner.h"
 
-#include <exception>
 #include <optional>
 #include <sstream>
 #include <stdexcept>
@@ -12,10 +11,11 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/testing/SyntheticInput.h"
-#include "lumui/ui/Application.h"
-#include "outliner/KeyTable.h"
+#include "outliner/KeyChord.h"
+#include "outliner/Reports.h"
 #include "outliner/RowPainter.h"
 #include "outliner/TitleStrip.h"
+#include "vek/uisupport/ReportError.h"
 
 namespace tests {
 
@@ -42,15 +42,11 @@ outliner::KeyChord Chord(const std::string& inName) {
 }  // namespace
 
 RunningOutliner::RunningOutliner(const std::string& inOutline) {
-  lumui::ui::Application::Get()->SetErrorFunction([this](const std::exception_ptr& inError) {
-    try {
-      std::rethrow_exception(inError);
-    } catch (const std::exception& error) {
-      mMessages += std::string("error: ") + error.what() + "\n";
-    }
-  });
+  outliner::RegisterErrorTexts();
   lumui::dialogs::SetDialogAnswerer([this](const auto& inBox) -> std::optional<int> {
-    mMessages += "box: " + ToStdString(inBox.text) + "\n";
+    const bool isError = vek::uisupport::ExecutingDeferredReportError();
+    mMessages += (isError ? "error: " : "box: ") + ToStdString(inBox.text) + "\n";
+    if (isError) return 0;
     if (mAnswers.empty()) return std::nullopt;
     const std::string wanted = mAnswers.front();
     mAnswers.erase(mAnswers.begin());
@@ -71,7 +67,6 @@ RunningOutliner::~RunningOutliner() {
   mApp.reset();
   lumui::testing::ProcessEvents();
   lumui::dialogs::SetDialogAnswerer(nullptr);
-  lumui::ui::Application::Get()->SetErrorFunction(nullptr);
 }
 
 void RunningOutliner::Keys(const std::string& inChords) {
@@ -80,6 +75,14 @@ void RunningOutliner::Keys(const std::string& inChords) {
     const outliner::KeyChord chord = Chord(name);
     lumui::testing::TapKey(GetWindow(), chord.code, chord.modifiers);
   }
+  lumui::testing::ProcessEvents();
+}
+
+void RunningOutliner::HoldKey(const std::string& inChord, int inRepeats) {
+  const outliner::KeyChord chord = Chord(inChord);
+  for (int press = 0; press <= inRepeats; ++press)
+    lumui::testing::PressKey(GetWindow(), chord.code, chord.modifiers, press > 0);
+  lumui::testing::ReleaseKey(GetWindow(), chord.code, chord.modifiers);
   lumui::testing::ProcessEvents();
 }
 

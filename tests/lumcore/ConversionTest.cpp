@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "lumcore/utility/DisplayWidth.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace {
@@ -78,6 +79,16 @@ TEST(Conversion, PlaceholdersAreReplacedInOneWalk) {
   EXPECT_EQ(replace("@21@99999999999999999999"), "two1@99999999999999999999");
   EXPECT_EQ(replace("@002"), "two");
   EXPECT_EQ(ToStdString(ReplaceInString(ToUTF16("@0"), {})), "@0");
+}
+
+TEST(Conversion, ColumnsAreCountedAsATerminalHasThem) {
+  const auto width = [](const char* inText) {
+    return lumcore::utility::GetDisplayWidth(ToUTF16(inText));
+  };
+  EXPECT_EQ(width("Page Up"), 7u);
+  EXPECT_EQ(width("\xE5\x89\xAA\xE5\x88\x87"), 4u);       // two wide characters
+  EXPECT_EQ(width("\xF0\x9F\x9A\xA3!"), 3u);              // a picture, of two units
+  EXPECT_EQ(width("e\xCC\x81\xE2\x80\x8D\xC3\xA9"), 2u);  // an accent on an e, a joiner, one letter
 }
 
 }  // namespace

@@ -9,8 +9,8 @@
 #include <memory>
 #include <string>
 
-#include "support/RecordingHandler.h"
 #include "lumcore/utility/CallbackList.h"
+#include "support/RecordingHandler.h"
 
 namespace vek::uisupport {
 namespace {

@@ -50,7 +50,7 @@ Dir::Dir() = default;
 
 Dir::Dir(std::string_view inPath) : mPath(inPath) {}
 
-Dir::Dir(const UTF16String& inPath) : mPath(utility::ToStdString(inPath)) {}
+Dir::Dir(const UTF16String& inPath) : mPath(paths::FromText(inPath)) {}
 
 Dir::Dir(const Dir& inParent, std::string_view inName)
     : mPath(paths::Join(inParent.mPath, inName)) {}
@@ -63,12 +63,16 @@ Dir Dir::TempDir() {
   return Dir(paths::FromSystem(path));
 }
 
+Dir Dir::AppDir() {
+  return Dir(paths::Parent(system::ProgramPath()));
+}
+
 bool Dir::Exists() const {
   return system::FolderExists(mPath);
 }
 
 UTF16String Dir::GetFullPath() const {
-  return utility::ToUTF16(paths::Full(mPath));
+  return paths::ToText(paths::Full(mPath));
 }
 
 UTF16String Dir::GetName() const {

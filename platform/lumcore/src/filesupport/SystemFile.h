@@ -43,11 +43,15 @@ std::intptr_t OpenForReading(const std::string& inPath);
 // An existing file is emptied, a new one has the permissions that the process gives.
 std::intptr_t OpenForWriting(const std::string& inPath);
 
+std::string ProgramPath();  // of this process's executable file
 bool FileExists(const std::string& inPath);
 bool FolderExists(const std::string& inPath);
+bool IsAbsent(const std::string& inPath);
 std::uint64_t FileSize(const std::string& inPath);
 void RemoveFile(const std::string& inPath);
 // See File::ReplaceContents.
 void ReplaceFile(const std::string& inPath, std::string_view inBytes);
+// See File::Recreate.
+void RecreateFile(const std::string& inPath, std::string_view inBytes);
 
 }  // namespace lumcore::filesupport::system

@@ -164,9 +164,12 @@ void EventSource::Run() {
   }
 }
 
+std::size_t EventSource::GetLine() const {
+  return XML_GetCurrentLineNumber(mParser.get());
+}
+
 void EventSource::ThrowHere(const UTF16String& inCause) const {
-  throw ParseError(mName, XML_GetCurrentLineNumber(mParser.get()),
-                   XML_GetCurrentColumnNumber(mParser.get()) + 1, inCause);
+  throw ParseError(mName, GetLine(), XML_GetCurrentColumnNumber(mParser.get()) + 1, inCause);
 }
 
 void EventSource::ThrowParserError() const {

@@ -31,6 +31,7 @@ class EventSource {
 
   // Throws a ParseError with the place of the current event.
   [[noreturn]] void ThrowHere(const UTF16String& inCause) const;
+  std::size_t GetLine() const;  // of the current event
 
  private:
   struct Callbacks;

@@ -57,6 +57,10 @@ void AbstractParseHandler::ThrowParseError(const UTF16String& inCause) const {
   mSource->ThrowHere(inCause);
 }
 
+std::size_t AbstractParseHandler::GetLine() const {
+  return mSource ? mSource->GetLine() : 0;
+}
+
 ParseError::ParseError(const UTF16String& inPath, std::size_t inLine, std::size_t inColumn,
                        const UTF16String& inCause)
     : Error(Describe(inPath, inLine, inColumn, inCause)),

@@ -11,8 +11,10 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedValue.h"
+#include "lumui/ui/ModuleInfo.h"
 #include "ui/ApplicationImpl.h"
 #include "ui/EventGate.h"
+#include "ui/MenuPeer.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 
@@ -39,10 +41,12 @@ Application::Application(int& ioArgumentCount, char** ioArguments)
                    [](Qt::ApplicationState inState) {
                      NodeManagerImpl().TellActivation(inState == Qt::ApplicationActive);
                    });
+  RunGuarded(&ModuleInfo::InitializeAll);
 }
 
 Application::~Application() {
   mImpl->manager->EndInputCapture(true);
+  MenuPeer::DropAll();
   NodePeer::DropAllWidgets();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   sApplication = nullptr;

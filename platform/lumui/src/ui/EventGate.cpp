@@ -12,11 +12,11 @@
 #include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
-#include <cstdio>
 #include <exception>
 #include <utility>
 
 #include "drawbot/QtConvert.h"
+#include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/ScopedValue.h"
@@ -39,9 +39,27 @@ bool IsPointerEvent(QEvent::Type inType) {
          inType == QEvent::MouseButtonDblClick || inType == QEvent::MouseMove;
 }
 
+// The user's input, which keeps its order. The override comes before the press that it belongs to.
+bool IsInput(QEvent::Type inType) {
+  return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
+         inType == QEvent::KeyRelease || inType == QEvent::ShortcutOverride ||
+         inType == QEvent::FocusOut || inType == QEvent::Close;
+}
+
 bool IsRoutedToNodes(QEvent::Type inType) {
   return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
          inType == QEvent::KeyRelease;
+}
+
+// The keyboard and the pointer are an open menu's, and over the bar the pointer is the bar's. They
+// come by way of the window all the same.
+bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
+  const QEvent::Type type = inEvent.type();
+  if (!IsRoutedToNodes(type) && type != QEvent::ShortcutOverride) return false;
+  if (QApplication::activePopupWidget()) return true;
+  if (!IsPointerEvent(type) || NodeManagerImpl().capture.IsRunning()) return false;
+  return static_cast<const QMouseEvent&>(inEvent).position().y() <
+         inWindow.GetPeer()->GetChromeHeight();
 }
 
 // What a key types by itself: no control characters, and nothing of a chord.
@@ -50,20 +68,16 @@ bool IsTyped(QChar inCharacter) {
   return unit >= 0x20 && !(unit >= 0x7F && unit < 0xA0);
 }
 
-void WriteError(const std::exception_ptr& inError) {
-  try {
-    std::rethrow_exception(inError);
-  } catch (const std::exception& exception) {
-    std::fprintf(stderr, "unhandled exception: %s\n", exception.what());
-  } catch (...) {
-    std::fprintf(stderr, "unhandled exception of an unknown type\n");
-  }
-}
-
 }  // namespace
 
 EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
-    : QApplication(ioArgumentCount, ioArguments) {
+    : QApplication(ioArgumentCount, ioArguments),
+      mHeldRelease([this](QWindow& inNative, QKeyEvent& inRelease) {
+        OS_Window* const window = FindWindowOf(inNative);
+        if (!window) return;
+        const lumcore::utility::StKeepAlive keepAlive(*window);
+        DispatchKey(*window, inNative, inRelease, false);
+      }) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
@@ -112,8 +126,11 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
     NodeManagerImpl().capture.End(true);
   }
+  if (inEvent.spontaneous() && IsInput(inEvent.type()) && !RepeatsHeldRelease(inEvent)) {
+    mHeldRelease.Flush();
+  }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
-  if (!window) return QApplication::notify(&inNative, &inEvent);
+  if (!window || BelongsToMenus(*window, inEvent)) return QApplication::notify(&inNative, &inEvent);
   const lumcore::utility::StKeepAlive keepAlive(*window);
   switch (inEvent.type()) {
     case QEvent::MouseButtonPress:
@@ -175,7 +192,7 @@ bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEven
   const bool press =
       inEvent.type() == QEvent::MouseButtonPress || inEvent.type() == QEvent::MouseButtonDblClick;
   CaptureState& capture = NodeManagerImpl().capture;
-  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inEvent);
+  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inWindow.GetPeer()->GetChromeHeight(), inEvent);
   bool handled = true;
   {
     const lumcore::utility::StScopedValue<bool> inPointerEvent(mInPointerEvent, true);
@@ -190,8 +207,8 @@ bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEven
       }
       bool swallowed = false;
       if (press) {
-        const MouseEvent event = PointerEventOf(
-            inEvent, drawbot::FromQt(QRectF(inEvent.position(), QSizeF())).Origin(), os);
+        const MouseEvent event =
+            PointerEventOf(inEvent, inWindow.GetPeer()->WithContentOrigin(inEvent.position()), os);
         RunGuarded([&] { swallowed = UI_Node::UI_DispatchPrePointerEvent(&inWindow, event); });
       }
       if (!swallowed) handled = HandToQt(inNative, inEvent, os);
@@ -212,11 +229,26 @@ bool EventGate::HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEv
   return handled;
 }
 
+bool EventGate::RepeatsHeldRelease(const QEvent& inEvent) const {
+  const bool press =
+      inEvent.type() == QEvent::KeyPress || inEvent.type() == QEvent::ShortcutOverride;
+  return press && mHeldRelease.IsRepeatedBy(static_cast<const QKeyEvent&>(inEvent));
+}
+
 bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent) {
   // Some window systems repeat a held key as release and press; only the presses are told.
-  if (inEvent.type() == QEvent::KeyRelease && inEvent.isAutoRepeat()) return true;
+  if (inEvent.type() == QEvent::KeyRelease) {
+    if (inEvent.isAutoRepeat() || mHeldRelease.Hold(inNative, inEvent)) return true;
+  }
+  const bool repeat = inEvent.isAutoRepeat() || RepeatsHeldRelease(inEvent);
+  if (inEvent.type() == QEvent::KeyPress) mHeldRelease.Drop();
+  return DispatchKey(inWindow, inNative, inEvent, repeat);
+}
+
+bool EventGate::DispatchKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent,
+                            bool inRepeat) {
   KeyState key;
-  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inRepeat);
   OS_Event os = *key.event.GetOSEvent();
   bool handled = true;
   bool passed = false;
@@ -229,7 +261,7 @@ bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inE
     return true;
   }
   const ModifierKeys modifiers = key.event.GetModKey();
-  const bool chord = modifiers.Has(kModCommand) && !modifiers.Has(kModAlt);
+  const bool chord = modifiers.Has(kModCommand);
   const bool takenByControl = inEvent.isAccepted() && !key.takenByNode;
   if (key.event.IsActionKeyDown() && !key.charactersDropped && !chord && !takenByControl) {
     const lumcore::utility::StScopedValue<ModifierKeys> typing(mTypingModifiers, modifiers);
@@ -270,10 +302,13 @@ void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
 
 bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
   if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
-  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent,
+                                         inEvent.isAutoRepeat() || RepeatsHeldRelease(inEvent));
   bool claimed = !NodeManagerImpl().mnemonics;
   const auto claim = mShortcutClaim;
-  if (claim) RunGuarded([&] { claimed = claim(event) || claimed; });
+  if (claim && event.GetCode() != KeyboardCode()) {
+    RunGuarded([&] { claimed = OfferReadings(event, claim) || claimed; });
+  }
   if (claimed) inEvent.accept();
   return claimed;
 }
@@ -336,16 +371,8 @@ bool EventGate::RunGuarded(const std::function<void()>& inFunction) {
 }
 
 void EventGate::ReportError(const std::exception_ptr& inError) {
-  // A copy: the function may put another in its place.
-  const Application::ErrorFunction function = mErrorFunction;
-  if (!function) return WriteError(inError);
-  try {
-    function(inError);
-  } catch (...) {
-    // The reporter itself failed: both errors go where they can still be seen.
-    WriteError(inError);
-    WriteError(std::current_exception());
-  }
+  if (!mErrorFunction) return lumcore::config::ErrorManager::Get(false)->ReportError(inError);
+  lumcore::config::ErrorManager::ReportThrough(mErrorFunction, inError);
 }
 
 bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch) {

@@ -23,6 +23,7 @@ class LUMCORE_API Dir {
   Dir(const Dir& inParent, std::string_view inName);
 
   static Dir TempDir();  // the system's folder for temporary files
+  static Dir AppDir();   // where the program of this process lies, links to it followed
 
   bool Exists() const;
   const std::string& GetPath() const { return mPath; }

@@ -79,6 +79,8 @@ class LUMCORE_API AbstractParseHandler {
   // For a document that is well-formed and still wrong: throws a ParseError with the place of the
   // event that is being handled. To be called during an event only.
   [[noreturn]] void ThrowParseError(const UTF16String& inCause) const;
+  // Where the event that is being handled begins, from 1. 0 outside a parse.
+  std::size_t GetLine() const;
 
  private:
   friend class EventSource;

@@ -1,19 +1,14 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include "KeyTable.h"
+#include "KeyChord.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <iterator>
-
-#include "OutlinerCommands.h"
-#include "lumcore/debug/Contract.h"
 
 namespace outliner {
 
 using lumui::ui::KeyboardCode;
-using lumui::ui::ModifierKeys;
 
 namespace {
 
@@ -45,25 +40,6 @@ constexpr NamedKey kNamedKeys[] = {
     {"F2", KeyboardCode::kF1 + 1},
 };
 
-struct Binding {
-  std::string_view key;
-  int command;
-};
-
-constexpr Binding kBindings[] = {
-    {"Return", kCommandNewSibling},    {"Enter", kCommandNewSibling},
-    {"Ctrl+Return", kCommandNewChild}, {"Ctrl+Enter", kCommandNewChild},
-    {"Delete", kCommandDelete},        {"Tab", kCommandIndent},
-    {"Shift+Tab", kCommandOutdent},    {"Ctrl+Up", kCommandMoveUp},
-    {"Alt+Up", kCommandMoveUp},        {"Ctrl+Down", kCommandMoveDown},
-    {"Alt+Down", kCommandMoveDown},    {"F2", kCommandEditText},
-    {"Up", kCommandSelectPrevious},    {"Down", kCommandSelectNext},
-    {"Ctrl+A", kCommandSelectAll},     {"Ctrl+Z", kCommandUndo},
-    {"Ctrl+Y", kCommandRedo},          {"Ctrl+Shift+Z", kCommandRedo},
-    {"Ctrl+S", kCommandSave},          {"Ctrl+W", kCommandClose},
-    {"Ctrl+Q", kCommandQuit},
-};
-
 const Modifier* FindModifier(std::string_view inName) {
   const auto found =
       std::find_if(std::begin(kModifiers), std::end(kModifiers),
@@ -93,19 +69,6 @@ bool ParseKeyChord(std::string_view inName, KeyChord& outChord) {
   }
   outChord.code = FindCode(inName);
   return outChord.code != KeyboardCode();
-}
-
-KeyTable::KeyTable() {
-  for (const Binding& binding : kBindings) {
-    KeyChord chord;
-    LUM_INPUT_CONTRACT(ParseKeyChord(binding.key, chord));
-    mCommands[Key(chord.code.GetValue(false), chord.modifiers.GetBits())] = binding.command;
-  }
-}
-
-int KeyTable::FindCommand(KeyboardCode inCode, ModifierKeys inModifiers) const {
-  const auto found = mCommands.find(Key(inCode.GetValue(false), inModifiers.GetBits()));
-  return found == mCommands.end() ? 0 : found->second;
 }
 
 }  // namespace outliner

@@ -3,9 +3,7 @@
 
 #pragma once
 
-#include <map>
 #include <string_view>
-#include <utility>
 
 #include "lumui/ui/KeyboardCode.h"
 #include "lumui/ui/ModifierKeys.h"
@@ -20,20 +18,5 @@ struct KeyChord {
 
 // Reads "Ctrl+Shift+Z", "Return" or "F2". False for what names no key.
 bool ParseKeyChord(std::string_view inName, KeyChord& outChord);
-
-// Which key means which command: a plain list, fixed at the start. A key of the number pad means
-// what its twin does.
-class KeyTable {
- public:
-  KeyTable();  // the host's own keys
-
-  // 0 for a key that means no command.
-  int FindCommand(lumui::ui::KeyboardCode inCode, lumui::ui::ModifierKeys inModifiers) const;
-
- private:
-  using Key = std::pair<std::uint32_t, unsigned>;
-
-  std::map<Key, int> mCommands;
-};
 
 }  // namespace outliner

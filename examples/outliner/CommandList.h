@@ -1,0 +1,18 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+
+namespace outliner {
+
+// All commands of the registry with their keys, in the order of their ids, in UTF-8. Keys of
+// contexts are not among them, as in menus.
+
+// A table with aligned columns, for a terminal.
+std::string RenderCommandTable();
+// A page in Markdown, with descriptions.
+std::string RenderCommandPage();
+
+}  // namespace outliner

@@ -1,0 +1,141 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "CommandSystem.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <list>
+#include <string>
+
+#include "OutlinerCommands.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/filesupport/Dir.h"
+#include "lumcore/utility/StringUtils.h"
+#include "vek/uisupport/CommandRegistry.h"
+#include "vek/uisupport/KeyCommandManager.h"
+#include "vek/uisupport/ReportError.h"
+#include "vek/uisupport/SyntheticCmdMgr.h"
+
+namespace outliner {
+
+using lumcore::UTF16String;
+using lumcore::filesupport::Dir;
+using lumcore::filesupport::File;
+using lumcore::utility::ToUTF16;
+using vek::uisupport::CommandRegistry;
+using vek::uisupport::KeyCommandManager;
+
+namespace {
+
+constexpr const char* kCommandFileName = "outliner.cmdreg.xml";
+constexpr const char* kKeyMapName = "DefaultKeyMap.xml";
+
+// Above the host's own ids, and below those of the system's menu commands.
+constexpr int kFirstSyntheticId = 32768;
+
+UTF16String Text(const char* inKey, std::initializer_list<UTF16String> inArguments) {
+  return lumcore::utility::ReplaceInString(
+      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), inArguments);
+}
+
+void ThrowUnlessKnown(const File& inFile, int inCommand) {
+  const CommandRegistry& registry = CommandRegistry::Get();
+  if (registry.FindCommandByID(inCommand) != registry.RegistryEnd()) return;
+  throw lumcore::config::Error(
+      Text("$$$/outliner/Commands/Missing=@0: the command @1 is missing",
+           {ToUTF16(inFile.GetPath()), ToUTF16(std::to_string(inCommand))}));
+}
+
+void LoadCommands(const File& inFile) {
+  // The registry takes a missing file for an empty one.
+  if (!inFile.Exists()) {
+    throw lumcore::config::Error(Text("$$$/outliner/Commands/NoFile=@0: there is no command file",
+                                      {ToUTF16(inFile.GetPath())}));
+  }
+  CommandRegistry& registry = CommandRegistry::Get();
+  registry.LoadFromFile(inFile, true);
+  for (int command = kCommandsBegin; command < kCommandsEnd; ++command)
+    ThrowUnlessKnown(inFile, command);
+  for (auto at = registry.RegistryBegin(); at != registry.RegistryEnd(); ++at) {
+    if (IsOwnCommand(at->first)) continue;
+    throw lumcore::config::Error(Text(
+        "$$$/outliner/Commands/Unanswered=@0: nobody answers for the command @1, \"@2\"",
+        {ToUTF16(inFile.GetPath()), ToUTF16(std::to_string(at->first)), at->second.GetName()}));
+  }
+}
+
+// A key map that was saved has lost what is bound to contexts, so the host adds its own behind
+// every load.
+void AddContextKeys() {
+  using lumui::ui::KeyboardCode;
+  KeyCommandManager::Get().AddKeyMapping(
+      kCommandGiveUpText, KeyboardCode(KeyboardCode::kEscape), KeyCommandManager::Modifiers(),
+      lumui::ui::KeyboardEvent::kActionKeyDown, TextContext().c_str(), false, true);
+}
+
+void LoadKeys(const File& inFile) {
+  KeyCommandManager::Get().LoadKeyMappings(inFile);
+  AddContextKeys();
+}
+
+bool HasAnyKey() {
+  const CommandRegistry& registry = CommandRegistry::Get();
+  return std::any_of(registry.RegistryBegin(), registry.RegistryEnd(), [](const auto& inEntry) {
+    std::list<vek::uisupport::KeyCommand*> keys;
+    KeyCommandManager::Get().GetShortcutList(inEntry.first, keys);
+    return !keys.empty();
+  });
+}
+
+}  // namespace
+
+CommandFiles FindCommandFiles() {
+  const Dir program = Dir::AppDir();
+  Dir folder(program, "Resources");
+  if (!folder.Exists()) folder = Dir(Dir(program, OUTLINER_INSTALLED_RESOURCES).GetFullPath());
+  return {File(folder, kCommandFileName), File(folder, kKeyMapName)};
+}
+
+const lumcore::UTF8String& TextContext() {
+  static const lumcore::UTF8String sContext = lumcore::utility::ToUTF8("outliner.text");
+  return sContext;
+}
+
+CommandSystem::SyntheticIds::SyntheticIds() {
+  vek::uisupport::SyntheticCmdMgr::InitSyntheticCmdMgr(kFirstSyntheticId);
+}
+
+CommandSystem::SyntheticIds::~SyntheticIds() {
+  vek::uisupport::SyntheticCmdMgr::ResetSyntheticCmdMgr();
+}
+
+CommandSystem::CommandSystem(const CommandFiles& inFiles) : mFiles(inFiles) {
+  LoadCommands(mFiles.commands);
+  KeyCommandManager::Init();
+  LoadKeys(mFiles.keys);
+}
+
+CommandSystem::~CommandSystem() {
+  KeyCommandManager::Reset();
+  CommandRegistry::Get().LoadFromBuffer(lumcore::UTF8String(), false);
+}
+
+void CommandSystem::LoadUserKeys(const File& inFile) {
+  UTF16String cause;
+  try {
+    LoadKeys(inFile);
+    if (HasAnyKey()) return;
+    cause = Text("$$$/outliner/Keys/None=@0: there is no key for any command of the outliner",
+                 {ToUTF16(inFile.GetPath())});
+  } catch (const lumcore::config::Error& error) {
+    cause = error.GetText();
+  }
+  // Before the report: a box lets events through.
+  LoadKeys(mFiles.keys);
+  vek::uisupport::ReportError(
+      Text("$$$/outliner/Keys/Fallback=@0. The outliner's own keys are used.", {cause}), 0, false);
+}
+
+}  // namespace outliner

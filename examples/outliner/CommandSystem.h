@@ -1,0 +1,51 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "lumcore/Strings.h"
+#include "lumcore/filesupport/File.h"
+
+namespace outliner {
+
+// The files that the host's commands and keys come from.
+struct CommandFiles {
+  lumcore::filesupport::File commands;
+  lumcore::filesupport::File keys;
+};
+
+// Those beside the program, as in the build tree, or else those of the installation. They need not
+// be there.
+CommandFiles FindCommandFiles();
+
+// The name for key maps of what has the keyboard while a text is edited.
+const lumcore::UTF8String& TextContext();
+
+// Gives commands their names and keys, from the files, for as long as it lives: it fills the
+// framework's registry and key map, of which a process has one each, and leaves them as they were
+// before any host. One at a time.
+class CommandSystem {
+ public:
+  // Throws a config::Error "path: cause", also for a file that does not fit the host's commands:
+  // without them the host could neither be driven nor ended.
+  explicit CommandSystem(const CommandFiles& inFiles);
+  ~CommandSystem();
+  CommandSystem(const CommandSystem&) = delete;
+  CommandSystem& operator=(const CommandSystem&) = delete;
+
+  // Puts a user's keys in the place of the host's own. A map that cannot be read, or that has no
+  // key for any command, is reported, and the host's keys stay.
+  void LoadUserKeys(const lumcore::filesupport::File& inFile);
+
+ private:
+  // The ids for commands without one.
+  struct SyntheticIds {
+    SyntheticIds();
+    ~SyntheticIds();
+  };
+
+  CommandFiles mFiles;
+  SyntheticIds mSyntheticIds;
+};
+
+}  // namespace outliner

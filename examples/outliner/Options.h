@@ -1,0 +1,24 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+
+namespace outliner {
+
+// What the command line asks for. Empty texts were not given.
+struct Options {
+  enum Task { kEdit, kListCommands, kWriteCommandPage, kCheck };
+
+  Task task = kEdit;
+  std::string file;  // the outline; for a check, the command file
+  std::string script;
+  std::string keys;
+  bool isNew = false;
+};
+
+// False for a command line that makes no sense.
+bool ReadOptions(int inCount, char** inArguments, Options& outOptions);
+
+}  // namespace outliner
