@@ -5,6 +5,7 @@ vek_test(lumui_tests
     lumui/EventLoopTest.cpp
     lumui/InputCaptureTest.cpp
     lumui/KeyboardCodeTest.cpp
+    lumui/MenusTest.cpp
     lumui/MessageDialogTest.cpp
     lumui/NativeSideTest.cpp
     lumui/ScrollViewTest.cpp

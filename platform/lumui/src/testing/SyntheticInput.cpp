@@ -49,12 +49,17 @@ QWindow* NativeWindow(const ui::OS_Window& inWindow) {
   return native;
 }
 
+// Nodes know nothing of the bar above them.
+QPointF NativePosition(const ui::OS_Window& inWindow, const Position& inPosition) {
+  return drawbot::ToQt(inPosition) + QPointF(0, inWindow.GetPeer()->GetChromeHeight());
+}
+
 void SendMouse(ui::OS_Window& inWindow, const Position& inPosition, QEvent::Type inType,
                Qt::MouseButton inButton, ui::ModifierKeys inModifiers, unsigned long inStep) {
   QWindow* const native = NativeWindow(inWindow);
   Qt::MouseButtons& held = HeldButtons();
   held.setFlag(inButton, inType == QEvent::MouseButtonPress);
-  const QPointF local = drawbot::ToQt(inPosition);
+  const QPointF local = NativePosition(inWindow, inPosition);
   System::handleMouseEvent<Now>(native, NextTime(inStep), local, native->mapToGlobal(local), held,
                                 inButton, inType, ui::QtFromModifiers(inModifiers));
 }
@@ -186,7 +191,7 @@ void LeaveWindow(ui::OS_Window& inWindow) {
 void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
                const lumcore::geom::PointT<float>& inNotches, ui::ModifierKeys inModifiers) {
   QWindow* const native = NativeWindow(inWindow);
-  const QPointF local = drawbot::ToQt(inPosition);
+  const QPointF local = NativePosition(inWindow, inPosition);
   const QPoint angle(static_cast<int>(std::lround(-inNotches.x * kWheelUnitsANotch)),
                      static_cast<int>(std::lround(-inNotches.y * kWheelUnitsANotch)));
   System::handleWheelEvent(native, NextTime(kApart), local, native->mapToGlobal(local), QPoint(),

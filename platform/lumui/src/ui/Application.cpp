@@ -13,6 +13,7 @@
 #include "lumcore/utility/ScopedValue.h"
 #include "ui/ApplicationImpl.h"
 #include "ui/EventGate.h"
+#include "ui/MenuPeer.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 
@@ -43,6 +44,7 @@ Application::Application(int& ioArgumentCount, char** ioArguments)
 
 Application::~Application() {
   mImpl->manager->EndInputCapture(true);
+  MenuPeer::DropAll();
   NodePeer::DropAllWidgets();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   sApplication = nullptr;

@@ -44,6 +44,17 @@ bool IsRoutedToNodes(QEvent::Type inType) {
          inType == QEvent::KeyRelease;
 }
 
+// The keyboard and the pointer are an open menu's, and over the bar the pointer is the bar's. They
+// come by way of the window all the same.
+bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
+  const QEvent::Type type = inEvent.type();
+  if (!IsRoutedToNodes(type) && type != QEvent::ShortcutOverride) return false;
+  if (QApplication::activePopupWidget()) return true;
+  if (!IsPointerEvent(type) || NodeManagerImpl().capture.IsRunning()) return false;
+  return static_cast<const QMouseEvent&>(inEvent).position().y() <
+         inWindow.GetPeer()->GetChromeHeight();
+}
+
 // What a key types by itself: no control characters, and nothing of a chord.
 bool IsTyped(QChar inCharacter) {
   const char16_t unit = inCharacter.unicode();
@@ -113,7 +124,7 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
     NodeManagerImpl().capture.End(true);
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
-  if (!window) return QApplication::notify(&inNative, &inEvent);
+  if (!window || BelongsToMenus(*window, inEvent)) return QApplication::notify(&inNative, &inEvent);
   const lumcore::utility::StKeepAlive keepAlive(*window);
   switch (inEvent.type()) {
     case QEvent::MouseButtonPress:
@@ -175,7 +186,7 @@ bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEven
   const bool press =
       inEvent.type() == QEvent::MouseButtonPress || inEvent.type() == QEvent::MouseButtonDblClick;
   CaptureState& capture = NodeManagerImpl().capture;
-  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inEvent);
+  OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inWindow.GetPeer()->GetChromeHeight(), inEvent);
   bool handled = true;
   {
     const lumcore::utility::StScopedValue<bool> inPointerEvent(mInPointerEvent, true);
@@ -190,8 +201,8 @@ bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEven
       }
       bool swallowed = false;
       if (press) {
-        const MouseEvent event = PointerEventOf(
-            inEvent, drawbot::FromQt(QRectF(inEvent.position(), QSizeF())).Origin(), os);
+        const MouseEvent event =
+            PointerEventOf(inEvent, inWindow.GetPeer()->WithContentOrigin(inEvent.position()), os);
         RunGuarded([&] { swallowed = UI_Node::UI_DispatchPrePointerEvent(&inWindow, event); });
       }
       if (!swallowed) handled = HandToQt(inNative, inEvent, os);

@@ -152,18 +152,33 @@ QRect NodePeer::RoundedRect() const {
                size(double(rect.y) + rect.height, top));
 }
 
+QRect NodePeer::WithoutChrome(const QRect& inGeometry) const {
+  return QRect(inGeometry.topLeft(),
+               QSize(inGeometry.width(), std::max(0, inGeometry.height() - mChromeHeight)));
+}
+
+void NodePeer::SetChromeHeight(int inHeight) {
+  if (inHeight == mChromeHeight) return;
+  mChromeHeight = inHeight;
+  mContentOrigin.y = -inHeight;
+  if (!mWidget) return;
+  // A window that has no place yet keeps none.
+  if (!mNode->UI_GetLocalRectF().IsEmpty()) HandleGeometry();
+  mWidget->update();
+}
+
 void NodePeer::ApplyRect() {
   if (!mWidget || mApplyingRect) return;
   // A window that nobody has given a place gets one from the window system.
   if (mWidget->isWindow() && mNode->UI_GetLocalRectF().IsEmpty()) return;
   const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
-  mWidget->setGeometry(RoundedRect());
+  mWidget->setGeometry(RoundedRect().adjusted(0, 0, 0, mChromeHeight));
 }
 
 void NodePeer::ApplySize(int inWidth, int inHeight) {
   const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
-  mWidget->resize(inWidth, inHeight);
-  mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(mWidget->geometry())));
+  mWidget->resize(inWidth, inHeight + mChromeHeight);
+  mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(WithoutChrome(mWidget->geometry()))));
 }
 
 void NodePeer::ApplyVisible() {

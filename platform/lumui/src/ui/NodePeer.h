@@ -83,6 +83,8 @@ class LUMUI_API NodePeer {
     mContentOrigin = inOrigin;
   }
   lumcore::geom::PointT<float> WithContentOrigin(const QPointF& inPosition) const;
+  // Of the widget, at its top, what is none of the node's rectangle.
+  int GetChromeHeight() const { return mChromeHeight; }
   void Invalidate(const lumcore::geom::RectT<int>& inRect);
 
   // Of the widget's overrides.
@@ -95,6 +97,7 @@ class LUMUI_API NodePeer {
   // inParent is null for a top-level window.
   virtual QWidget* DoMakeWidget(QWidget* inParent);
   virtual QWidget* DoGetContainer() { return mWidget; }
+  void SetChromeHeight(int inHeight);
 
  private:
   template <class Base>
@@ -113,12 +116,14 @@ class LUMUI_API NodePeer {
   void HandleGeometry();
   void AskCursor(UI_Node* inStart, QMouseEvent& inEvent);
   QRect RoundedRect() const;
+  QRect WithoutChrome(const QRect& inGeometry) const;
 
   Kind mKind;
   UI_Node* mNode = nullptr;
   QWidget* mWidget = nullptr;
   NodeWidgetLink* mLink = nullptr;
   bool mApplyingRect = false;
+  int mChromeHeight = 0;
   lumcore::geom::PointT<double> mContentOrigin;
   lumcore::geom::PointT<float> mLastPosition;
 };

@@ -193,15 +193,15 @@ void NodePeer::HandleLeave() {
 void NodePeer::HandleFocus(QEvent& inEvent) {
   const Qt::FocusReason reason = static_cast<QFocusEvent&>(inEvent).reason();
   // An open menu borrows the keyboard; the focus stays where it is.
-  if (reason == Qt::PopupFocusReason) return;
+  if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) return;
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   EventGate::Get()->RunGuarded([&] { mNode->UI_FocusChanged(ReasonFromQt(reason)); });
 }
 
 // The user, or a widget of Qt that lays out others, has moved the widget: the node follows.
 void NodePeer::HandleGeometry() {
-  if (mApplyingRect || mWidget->geometry() == RoundedRect()) return;
-  const QRect geometry = mWidget->geometry();
+  const QRect geometry = WithoutChrome(mWidget->geometry());
+  if (mApplyingRect || geometry == RoundedRect()) return;
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
   EventGate::Get()->RunGuarded([&] { mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(geometry))); });
@@ -212,7 +212,8 @@ void NodePeer::Paint() {
   QWidget* const widget = mWidget;
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
-  const QRectF bounds = QRectF(widget->rect()).translated(mContentOrigin.x, mContentOrigin.y);
+  const QRectF bounds = QRectF(widget->rect().adjusted(0, mChromeHeight, 0, 0))
+                            .translated(mContentOrigin.x, mContentOrigin.y);
   const lumcore::utility::StScopedValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {
     drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));

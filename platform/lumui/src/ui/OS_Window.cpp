@@ -17,9 +17,10 @@
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/ui/OS_Menu.h"
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
-#include "ui/NodePeer.h"
+#include "ui/WindowPeer.h"
 #include "ui/WindowRegistry.h"
 
 namespace lumui::ui {
@@ -66,11 +67,11 @@ QWindow* NativeOf(const OS_Window& inWindow) {
 }
 
 OS_Window::OS_Window(OSEventFunction inEventFunction, bool inConstructNow)
-    : OS_Window(inEventFunction, std::make_unique<NodePeer>()) {
+    : OS_Window(inEventFunction, std::make_unique<WindowPeer>()) {
   if (inConstructNow) OS_Window::UI_ConstructWindow(nullptr);
 }
 
-OS_Window::OS_Window(OSEventFunction inEventFunction, std::unique_ptr<NodePeer> inPeer)
+OS_Window::OS_Window(OSEventFunction inEventFunction, std::unique_ptr<WindowPeer> inPeer)
     : UI_Node(std::move(inPeer)), mEventFunction(inEventFunction), mStyleFlags(kStyleDefault) {
   UI_Show(false);
 }
@@ -103,6 +104,12 @@ void OS_Window::UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
   QWidget* const widget = GetPeer()->GetWidget();
   widget->winId();  // makes the native window, and so windowHandle()
   Windows().push_back(this);
+  if (UI_GetMenu()) {
+    // The bar comes on top of the size that was asked for.
+    const lumcore::geom::RectT<float> rect = UI_GetLocalRectF();
+    GetWindowPeer().ShowMenu(mMenu);
+    if (!rect.IsEmpty()) UI_SetLocalRectF(rect);
+  }
   UI_SetWindowStyleFlags(mStyleFlags);
   widget->setWindowTitle(drawbot::ToQt(mTitle));
   GetPeer()->ApplyVisible();
@@ -117,12 +124,31 @@ void OS_Window::UI_DestroyWindow() {
   auto& windows = Windows();
   windows.erase(std::remove(windows.begin(), windows.end(), this), windows.end());
   GetPeer()->Destroy();
+  const HMENU menu = std::exchange(mMenu, nullptr);
   EventGate* const gate = EventGate::Get();
   const OSEventFunction function = mEventFunction;
-  if (!gate) return;
-  gate->Pass(destroy, [&] {
-    if (function) gate->RunGuarded([&] { function(&destroy); });
-  });
+  if (gate) {
+    gate->Pass(destroy, [&] {
+      if (function) gate->RunGuarded([&] { function(&destroy); });
+    });
+  }
+  OS_Menu::Destroy(menu);
+}
+
+bool OS_Window::UI_SetMenu(HMENU inMenu) {
+  if (inMenu && !OS_Menu::IsMenu(inMenu)) return false;
+  if (inMenu == UI_GetMenu()) return true;
+  mMenu = inMenu;
+  if (mHandle) GetWindowPeer().ShowMenu(inMenu);
+  return true;
+}
+
+HMENU OS_Window::UI_GetMenu() const {
+  return OS_Menu::IsMenu(mMenu) ? mMenu : nullptr;
+}
+
+WindowPeer& OS_Window::GetWindowPeer() const {
+  return static_cast<WindowPeer&>(*GetPeer());
 }
 
 void OS_Window::UI_SetTitle(const lumcore::UTF16String& inTitle) {

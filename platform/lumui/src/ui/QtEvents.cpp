@@ -170,10 +170,10 @@ bool IsPressOfDoubleClick(const QMouseEvent& inEvent) {
   return inEvent.type() == QEvent::MouseButtonPress && Reader(inEvent).IsDoubleClick();
 }
 
-OS_Event OSEventOf(HWND inWindow, const QMouseEvent& inEvent) {
+OS_Event OSEventOf(HWND inWindow, int inTop, const QMouseEvent& inEvent) {
   return OS_Event(inWindow, PointerMessage(inEvent),
                   HeldKeys(inEvent.buttons(), inEvent.modifiers()),
-                  PackedPosition(inEvent.position()));
+                  PackedPosition(inEvent.position() - QPointF(0, inTop)));
 }
 
 OS_Event OSEventOf(HWND inWindow, const QWheelEvent& inEvent) {

@@ -25,7 +25,8 @@ Qt::MouseButton QtFromButton(unsigned inButton);
 // A press that Qt sends before the double click that it belongs to.
 bool IsPressOfDoubleClick(const QMouseEvent& inEvent);
 
-OS_Event OSEventOf(HWND inWindow, const QMouseEvent& inEvent);
+// inTop is where the nodes begin in the native window.
+OS_Event OSEventOf(HWND inWindow, int inTop, const QMouseEvent& inEvent);
 OS_Event OSEventOf(HWND inWindow, const QWheelEvent& inEvent);
 KeyboardEvent KeyEventOf(HWND inWindow, const QKeyEvent& inEvent);
 KeyboardEvent CharacterEventOf(HWND inWindow, unsigned short inCharacter, ModifierKeys inModifiers);

@@ -9,6 +9,8 @@
 
 namespace lumui::ui {
 
+class WindowPeer;
+
 // A top-level window. Its native part exists from UI_ConstructWindow to UI_DestroyWindow; while it
 // does, the window has a handle and every message to it passes the application's gate and then the
 // window's event function.
@@ -42,6 +44,13 @@ class LUMUI_API OS_Window : public UI_Node {
   // The node that has the keyboard when this window is in front; null if none has.
   UI_Node* UI_GetFocusNode() const;
 
+  // The menu in the bar above the nodes; null for none. The nodes' coordinates begin below the bar,
+  // and the window's rectangle does not count it. What a bar takes and gives is height of the
+  // nodes. A menu that is replaced lives on; the present one is destroyed with the native part.
+  // False for a handle that is no menu.
+  bool UI_SetMenu(HMENU inMenu);
+  HMENU UI_GetMenu() const;
+
   // Window styles by the numbers that Windows gives them; of these the caption (0xC00000) and the
   // sizing frame (0x40000) change how the window looks.
   unsigned UI_GetWindowStyleFlags() const { return mStyleFlags; }
@@ -60,13 +69,15 @@ class LUMUI_API OS_Window : public UI_Node {
   virtual void UI_DoClose();
 
  protected:
-  OS_Window(OSEventFunction inEventFunction, std::unique_ptr<NodePeer> inPeer);
+  OS_Window(OSEventFunction inEventFunction, std::unique_ptr<WindowPeer> inPeer);
 
  private:
   friend class NodePeer;
+  WindowPeer& GetWindowPeer() const;
 
   OSEventFunction mEventFunction;
   HWND mHandle = nullptr;
+  HMENU mMenu = nullptr;
   unsigned mStyleFlags;
   lumcore::UTF16String mTitle;
 };

@@ -1,0 +1,102 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/WindowPeer.h"
+
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "lumui/ui/OS_Window.h"
+#include "ui/Menu.h"
+#include "ui/MenuPeer.h"
+
+namespace lumui::ui {
+
+class WindowPeer::Bar : public QMenuBar {
+ public:
+  Bar(WindowPeer& inPeer, QWidget* inParent) : QMenuBar(inParent), mPeer(&inPeer) {
+    setNativeMenuBar(false);
+  }
+  // It may live until the end of the running event.
+  void Forget() { mPeer = nullptr; }
+
+ protected:
+  void resizeEvent(QResizeEvent* inEvent) override {
+    QMenuBar::resizeEvent(inEvent);
+    if (mPeer) mPeer->SetChromeHeight(height());
+  }
+
+ private:
+  WindowPeer* mPeer;
+};
+
+WindowPeer::WindowPeer() = default;
+
+WindowPeer::~WindowPeer() {
+  DropBar();
+}
+
+QMenuBar* WindowPeer::GetBar() const {
+  return mBar;
+}
+
+QWidget* WindowPeer::DoMakeWidget(QWidget* inParent) {
+  DropBar();
+  mContainer = nullptr;
+  return NodePeer::DoMakeWidget(inParent);
+}
+
+void WindowPeer::DropBar() {
+  if (mBar) mBar->Forget();
+  mBar = nullptr;
+  SetChromeHeight(0);
+}
+
+QWidget* WindowPeer::DoGetContainer() {
+  return mContainer ? mContainer.data() : GetWidget();
+}
+
+void WindowPeer::MakeContainer() {
+  if (mContainer) return;
+  auto* const container = new QWidget(GetWidget());
+  container->setMouseTracking(true);
+  auto* const layout = new QVBoxLayout(GetWidget());
+  layout->setContentsMargins(0, 0, 0, 0);
+  // How small the window may be is not the bar's business.
+  layout->setSizeConstraint(QLayout::SetNoConstraint);
+  layout->addWidget(container);
+  mContainer = container;
+  // Whoever is moved loses the keyboard.
+  const QPointer<QWidget> focus = GetWidget()->focusWidget();
+  for (std::size_t i = 0; i < GetNode()->UI_GetChildCount(); ++i) {
+    UI_Node* const child = GetNode()->UI_GetChild(i);
+    if (child->GetPeer()->GetWidget()) PlaceChild(*child, nullptr);
+  }
+  container->show();
+  if (focus) focus->setFocus(Qt::OtherFocusReason);
+}
+
+void WindowPeer::ShowMenu(HMENU inMenu) {
+  MakeContainer();
+  QLayout* const layout = GetWidget()->layout();
+  layout->setMenuBar(nullptr);
+  if (mBar) {
+    // The menu that asks for the change may stand in it.
+    mBar->hide();
+    mBar->deleteLater();
+  }
+  if (Menu* const menu = FindMenu(inMenu)) {
+    if (mBar) mBar->Forget();
+    mBar = new Bar(*this, GetWidget());
+    MenuPeer::Of(*menu).FillBar(*mBar);
+    layout->setMenuBar(mBar);
+    mBar->show();
+    // What the layout does as well, once the window is seen.
+    SetChromeHeight(mBar->heightForWidth(GetWidget()->width()));
+  } else {
+    DropBar();
+  }
+  layout->activate();
+}
+
+}  // namespace lumui::ui

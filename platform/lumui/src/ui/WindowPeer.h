@@ -1,0 +1,39 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QPointer>
+
+#include "lumui/ui/OSTypes.h"
+#include "ui/NodePeer.h"
+
+class QMenuBar;
+
+namespace lumui::ui {
+
+// The peer of a top-level window. From the first menu on, the nodes stand in a widget of their own,
+// and a layout of Qt's keeps the bar above it.
+class LUMUI_API WindowPeer : public NodePeer {
+ public:
+  WindowPeer();
+  ~WindowPeer() override;
+
+  // Of a window with a widget. Null takes the bar away.
+  void ShowMenu(HMENU inMenu);
+  QMenuBar* GetBar() const;  // null without a menu
+
+ protected:
+  QWidget* DoMakeWidget(QWidget* inParent) override;
+  QWidget* DoGetContainer() override;
+
+ private:
+  class Bar;
+  void MakeContainer();
+  void DropBar();
+
+  QPointer<Bar> mBar;
+  QPointer<QWidget> mContainer;
+};
+
+}  // namespace lumui::ui
