@@ -5,7 +5,10 @@ configure_package_config_file(
   INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/vek)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/vekConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/vekConfig.cmake ${PROJECT_BINARY_DIR}/vekConfigVersion.cmake
+install(
+  FILES
+    ${PROJECT_BINARY_DIR}/vekConfig.cmake ${PROJECT_BINARY_DIR}/vekConfigVersion.cmake
+    ${PROJECT_SOURCE_DIR}/cmake/VekResources.cmake
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/vek)
 install(EXPORT vekTargets NAMESPACE vek:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/vek)
 install(
@@ -13,4 +16,5 @@ install(
     platform/lumcore/include/ platform/lumui/include/
     platform/lumworkspace/include/ platform/lumscripting/include/
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
-install(DIRECTORY vek DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY vek DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+  FILES_MATCHING PATTERN "*.h" PATTERN resources EXCLUDE)

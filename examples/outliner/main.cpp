@@ -13,6 +13,7 @@
 #include "FileCheck.h"
 #include "Options.h"
 #include "OutlinerApp.h"
+#include "ProgramTexts.h"
 #include "Reports.h"
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/Localizer.h"
@@ -39,6 +40,9 @@ constexpr const char* kUsage =
     "outliner --list-commands=markdown   print them as a page\n"
     "outliner --check [COMMANDS]         look for faults in the command file and the key map,\n"
     "                                    in another command file, or with --keys in another map\n";
+constexpr const char* kLanguageUsage =
+    "$$$/outliner/Main/LanguageUsage="
+    "  --language LANGUAGE               with all of these: speak \"de\" or another language\n";
 
 lumcore::UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -113,9 +117,10 @@ void SetIdentity() {
 
 int Run(int inCount, char** inArguments) {
   lumui::ui::Application application(inCount, inArguments);
+  const outliner::ProgramTexts texts(inCount, inArguments);
   Options options;
   if (!ReadOptions(inCount, inArguments, options)) {
-    std::cerr << lumcore::utility::ToStdString(Localized(kUsage));
+    std::cerr << lumcore::utility::ToStdString(Localized(kUsage) + Localized(kLanguageUsage));
     return kExitUsage;
   }
   SetIdentity();

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <string>
 
+#include "lumcore/config/ErrorManager.h"
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/document/FileBasedDocument.h"
 #include "vek/selection/Junction.h"
@@ -84,6 +85,7 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
             "2 3 4 5 6 7 ");
   // Three private operations stand behind the title.
   EXPECT_EQ(DocumentProbe::Get(), "2 3 4 5 6 7 8 9 13 14 15 16 17 ");
+  EXPECT_EQ(Positions(&lumcore::config::ErrorManager::ExecuteTopLevelFunction), "6 ");
   using Type = vek::document::DocumentTypeInfo;
   EXPECT_EQ(Positions(&Type::ExtensionPushBack, &Type::ExtensionRemove, &Type::ExtensionBegin,
                       &Type::ExtensionEnd),

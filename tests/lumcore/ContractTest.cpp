@@ -9,6 +9,7 @@
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace {
@@ -71,16 +72,18 @@ TEST(Localizing, DefaultIsTheTextBehindTheFirstEqualsSign) {
     EXPECT_EQ(Localized(key), text) << key;
 }
 
-TEST(Localizing, AnotherLocalizerTakesPartInErrorsUntilItIsTakenAway) {
-  Localizer::Set(std::make_unique<KeyLocalizer>());
-  std::string thrown;
-  try {
-    lumcore::config::ThrowError("$$$/vek/Error/X=Wrong");
-  } catch (const std::exception& error) {
-    thrown = error.what();
+TEST(Localizing, AnotherLocalizerTakesPartInErrorsUntilItDies) {
+  {
+    KeyLocalizer localizer;
+    Localizer::Set(&localizer, {});
+    std::string thrown;
+    try {
+      lumcore::config::ThrowError("$$$/vek/Error/X=Wrong");
+    } catch (const std::exception& error) {
+      thrown = error.what();
+    }
+    EXPECT_EQ(thrown, "[$$$/vek/Error/X]");
   }
-  EXPECT_EQ(thrown, "[$$$/vek/Error/X]");
-  Localizer::Set(nullptr);
   EXPECT_EQ(Localized("$$$/vek/Error/X=Wrong"), "Wrong");
 }
 

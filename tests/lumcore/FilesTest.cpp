@@ -73,6 +73,15 @@ TEST(Files, NamesMayBeAnyBytes) {
             "\xEF\xBF\xBD\xC3\xA4.\xEF\xBF\xBD");
   EXPECT_NE(ErrorOf([&] { folder.GetFile("\xFF").ReadAll(); }).find("\xEF\xBF\xBD\": No such"),
             std::string::npos);
+  // As UTF-16 and back: a surrogate in UTF-8 is none, and one that is alone stands for no byte.
+  for (const std::string& path : {name, std::string("\xF0\x9F\x8E\xB9\xF0\x9F\x8E"),
+                                  std::string("\xED\xB2\x80\xC0\xAF\xE2\x82")}) {
+    const File file = folder.GetFile(path);
+    EXPECT_EQ(File(file.GetFullPath()).GetPath(), file.GetPath());
+  }
+  EXPECT_EQ(File(lumcore::UTF16String{0xD83C, 'a', 0xDC7F, 0xDF00}).GetPath(),
+            "\xEF\xBF\xBD"
+            "a\xEF\xBF\xBD\xEF\xBF\xBD");
   folder.GetFile(name).Remove();
   EXPECT_EQ(folder.Describe(), "");
 }

@@ -1,7 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,6 +13,7 @@
 #include "support/TemporaryFolder.h"
 
 #include "lumcore/filesupport/FileError.h"
+#include "lumcore/filesupport/FileStream.h"
 
 namespace {
 
@@ -139,6 +142,23 @@ TEST(Replacing, FullDiskLeavesTheOldFileAndNothingBeside) {
   EXPECT_EQ(folder.Describe(), "f=" + std::string(10000, 'n'));
 }
 
+TEST(Replacing, CleansWhatKilledSavesHaveLeft) {
+  const TemporaryFolder folder;
+  const char* const left = ".lumcore-save-0123456789abcdef";
+  const char* const used = ".lumcore-save-00000000000000bb";
+  const char* const other = ".lumcore-save-of-somebody-here";
+  for (const char* name : {left, used, other})
+    lumcore::filesupport::OutputFileStream(folder.GetFile(name));
+  const int number = ::open(folder.GetPath(used).c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(::flock(number, LOCK_EX), 0);  // as a process that is at it holds its own
+
+  folder.GetFile("f").ReplaceContents("new");
+  EXPECT_EQ(folder.Describe(), std::string(used) + "= " + other + "= f=new");
+  ::close(number);
+  folder.GetFile("f").ReplaceContents("newer");
+  EXPECT_EQ(folder.Describe(), std::string(other) + "= f=newer");
+}
+
 TEST(Replacing, RefusesWhatIsNoFile) {
   const TemporaryFolder folder;
   folder.GetFile("f").ReplaceContents("old");
@@ -175,6 +195,35 @@ TEST(Replacing, HeedsWriteProtection) {
   EXPECT_EQ(WithoutFolder(folder, file), "Cannot save \"f\": Permission denied");
   EXPECT_EQ(WithoutFolder(folder, closedFolder), "Cannot save \"f\": Permission denied");
   EXPECT_EQ(folder.Describe(), "f=old");
+}
+
+// The old file goes first, and so its links and permissions do.
+TEST(Recreating, LeavesAFileOfItsOwnOrTheOldOne) {
+  const TemporaryFolder folder;
+  const auto recreate = [&](const std::string& inPath, const std::string& inBytes) {
+    try {
+      File(inPath).Recreate(inBytes);
+    } catch (const FileError& error) {
+      return WithoutFolder(folder, error.what());
+    }
+    return std::string("no error");
+  };
+  folder.GetFile("real").ReplaceContents("old");
+  ::chmod(folder.GetPath("real").c_str(), 0444);
+  ASSERT_EQ(::symlink("real", folder.GetPath("link").c_str()), 0);
+  ASSERT_EQ(::symlink("absent", folder.GetPath("dangling").c_str()), 0);
+  {
+    const StFileSizeLimit limit(10000);
+    for (const char* name : {"real", "link", "fresh"})
+      EXPECT_EQ(recreate(folder.GetPath(name), std::string(20000, 'n')),
+                "Cannot write \"" + std::string(name) + "\": File too large");
+  }
+  EXPECT_EQ(folder.Describe(), "link=old real=old");
+  EXPECT_EQ(recreate("/dev/null", "x"), "Cannot save \"/dev/null\": Not a regular file");
+  for (const char* name : {"link", "dangling"})
+    EXPECT_EQ(recreate(folder.GetPath(name), "new"), "no error");
+  EXPECT_EQ(folder.Describe(), "dangling=new link=new real=old");
+  EXPECT_EQ(recreate(folder.GetPath("real"), "new"), "no error");
 }
 
 }  // namespace

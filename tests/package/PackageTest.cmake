@@ -1,6 +1,7 @@
 # What a host's developer does: installs the build, moves the installation elsewhere, and builds the
 # first host of the docs against it, outside this tree. A second program of that project includes
-# every installed header, and no file of Qt may be among what the compiler has read for either.
+# every installed header and embeds a picture, which it finds again, and no file of Qt may be among
+# what the compiler has read for either.
 # Needs SOURCE_DIR, BUILD_DIR, WORK_DIR and CXX.
 file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/moved)
@@ -27,10 +28,20 @@ endif()
 list(FILTER headers EXCLUDE REGEX "_win\\.h$")  # the half of a header that Windows alone reads
 list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n")
 list(JOIN headers "" includes)
-file(WRITE ${host}/everyheader.cpp "${includes}int main() {}\n")
+file(WRITE ${host}/everyheader.cpp "#include <iostream>
+${includes}
+const char here = 0;
+int main() {
+  const lumui::utility::ResourceManager resources(lumui::ui::ModuleOfAddress(&here));
+  if (!resources.HasBinary(lumcore::utility::ToUTF16(\"Mark_At_2x\"), \"png\")) return 1;
+  const lumcore::config::CatalogueLocalizer texts({}, \"de\");
+  std::cout << lumcore::utility::ToStdString(texts.GetLocalizedString(\"$$$/vek/redo/Redo=Redo\"));
+}\n")
+file(WRITE ${host}/mark.svg "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 8 8' width='8' height='8'/>\n")
 file(APPEND ${host}/CMakeLists.txt "
 add_executable(everyheader everyheader.cpp)
 target_link_libraries(everyheader PRIVATE vek::vek)
+vek_embed_resources(everyheader IMAGES mark.svg SCALES 100 200)
 target_compile_options(firsthost PRIVATE -Wall -Wextra -Werror)
 target_compile_options(everyheader PRIVATE -Wall -Wextra -Werror)
 ")
@@ -41,6 +52,7 @@ run("configuring the host" ${CMAKE_COMMAND} -S ${host} -B ${host}/build
 run("building the host" ${CMAKE_COMMAND} --build ${host}/build --parallel 2)
 
 file(GLOB_RECURSE dependency_files ${host}/build/*.cpp.o.d)
+list(FILTER dependency_files EXCLUDE REGEX "everyheader_resources")
 list(LENGTH dependency_files dependency_file_count)
 if(NOT dependency_file_count EQUAL 2)
   message(FATAL_ERROR "no lists of what the compiler has read: ${dependency_files}")
@@ -54,6 +66,11 @@ foreach(file IN LISTS dependency_files)
     message(FATAL_ERROR "a header of Qt was needed: ${CMAKE_MATCH_0}")
   endif()
 endforeach()
+
+run("the embedded picture and the libraries' texts" ${host}/build/everyheader)
+if(NOT output STREQUAL "Wiederholen:")
+  message(FATAL_ERROR "the moved libraries do not find their German texts, but say ${output}")
+endif()
 
 run("the host" ${host}/build/firsthost)
 file(READ ${SOURCE_DIR}/tests/package/expected.txt expected)

@@ -4,6 +4,7 @@
 #include "vek/uisupport/CommandRegistry.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <memory>
 #include <stdexcept>
@@ -119,7 +120,8 @@ class EchoLocalizer : public lumcore::config::Localizer {
 };
 
 TEST_F(CommandRegistryTest, BracketsGoOneByOneBeforeAKeyIsLookedUp) {
-  lumcore::config::Localizer::Set(std::make_unique<EchoLocalizer>());
+  EchoLocalizer localizer;
+  lumcore::config::Localizer::Set(&localizer, {});
   const char* const rows[][2] = {
       {"($$$/a/b=T)", "$$$/a/b=T"},
       {"()", ""},
@@ -140,7 +142,6 @@ TEST_F(CommandRegistryTest, BracketsGoOneByOneBeforeAKeyIsLookedUp) {
               "1 |[" + std::string(key) + "]|[" + key + "]")
         << t;
   }
-  lumcore::config::Localizer::Set(nullptr);
 }
 
 TEST_F(CommandRegistryTest, ReadsIdsAsUnsignedDecimals) {
@@ -187,12 +188,18 @@ TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
       {"not a document", ":1:1: syntax error"},
       {"", ":1:1: no element found"},
       {good + "\n<cmd id='2' id='3'/></cmdreg>", ":2:13: duplicate attribute"},
+      {good + std::string("\n<x>a\0b</x></cmdreg>", 21), ":2:5: not well-formed (invalid token)"},
+      {std::string("\xFF\xFE<\0r\0>", 7),
+       ":1:3: the bytes 3E are no character in the encoding \"UTF-16LE\""},
+      {"<!DOCTYPE r [<!ENTITY e SYSTEM \"/etc/passwd\">]>\n<r>&e;</r>",
+       ":2:4: the entity \"e\" stands in another file, and other files are not read"},
   };
   for (const auto& row : rows) {
     Register(8, "Before");
-    const auto file = folder.GetFile("commands.xml");
+    const auto file = folder.GetFile("\xFF commands.xml");
     file.ReplaceContents(row.bytes);
-    EXPECT_EQ(WordsOf([&] { Registry().LoadFromFile(file, false); }), file.GetPath() + row.words);
+    EXPECT_EQ(WordsOf([&] { Registry().LoadFromFile(file, false); }),
+              folder.GetPath("\xEF\xBF\xBD commands.xml") + row.words);
     EXPECT_EQ(Commands() + Ids({"A", "Before"}), "A=0 Before=0 ") << row.bytes;
   }
 
@@ -201,11 +208,17 @@ TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
             "SyntheticCmdMgr not initialized");
   EXPECT_EQ(Commands() + Ids({"A", "Before"}), "A=0 Before=0 ");
 
-  Register(8, "Before");
-  const lumcore::filesupport::File self(folder.GetDir().GetPath());
-  EXPECT_NE(WordsOf([&] { Registry().LoadFromFile(self, false); }).find(self.GetPath()),
-            std::string::npos);
-  EXPECT_EQ(Commands(), "");
+  // What is there and cannot be read is not missing.
+  ASSERT_EQ(::symlink("loop", folder.GetPath("loop").c_str()), 0);
+  for (const char* name : {"", "loop"}) {
+    Register(8, "Before");
+    const auto file = folder.GetFile(name);
+    EXPECT_NE(WordsOf([&] {
+                Registry().LoadFromFile(file, false);
+              }).find(U8(file.GetFullPath()) + "\": "),
+              std::string::npos);
+    EXPECT_EQ(Commands(), "");
+  }
 }
 
 TEST_F(CommandRegistryTest, ALoadReplacesAndAMissingFileEmpties) {

@@ -115,8 +115,8 @@ TEST_F(KeyRouting, MatchesCodeModifiersActionAndRepeat) {
   };
   int at = 0;
   for (const auto& row : rows) {
-    const KeyCommand mapping(1, row.code, ModifierKeys(row.modifiers),
-                             KeyboardEvent::kActionKeyDown, row.repeat, false);
+    KeyCommand mapping(1, row.code, ModifierKeys(row.modifiers), KeyboardEvent::kActionKeyDown,
+                       row.repeat, false);
     EXPECT_EQ(mapping.SameAs(row.event), row.same) << "row " << at++;
   }
 }

@@ -11,6 +11,7 @@
 #include <typeinfo>
 #include <vector>
 
+#include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/filesupport/FileStream.h"
 #include "lumcore/utility/StringUtils.h"
@@ -18,6 +19,7 @@
 #include "lumui/ui/Application.h"
 #include "vek/uisupport/Alert.h"
 #include "vek/uisupport/MessageException.h"
+#include "vek/uisupport/PlatformErrors.h"
 #include "vek/undo/NonCriticalDeedFailure.h"
 #include "vek/utility/ParamString.h"
 
@@ -110,6 +112,24 @@ TEST_F(ErrorReports, AskInterpretersInOrderUntilOneAnswersTrue) {
   EXPECT_EQ(Report(std::runtime_error("x")), "0 boxes");
   EXPECT_EQ(Report(std::logic_error("never asked")), "Error|Internal error.");
   EXPECT_EQ(sAsked, "112first12first3");
+}
+
+TEST_F(ErrorReports, ShowWhatAnEventLetsOutByTheErrorManagerUnlessAFunctionStandsInForIt) {
+  RegisterErrorInterpreter(InterpretPlatformError);
+  lumcore::config::ErrorManager manager(
+      [](const std::exception_ptr& inError) { ReportCaughtError(inError, false); });
+  lumcore::config::ErrorManager::Set(&manager);
+  auto* const application = lumui::ui::Application::Get();
+  EXPECT_FALSE(application->RunGuarded([] { throw lumcore::config::Error(ToUTF16("a.txt:3")); }));
+  application->RunGuarded([] { throw std::runtime_error("x"); });
+  application->RunGuarded([] { throw vek::undo::NonCriticalDeedFailure(); });
+  EXPECT_EQ(TakeBoxes(), (std::vector<std::string>{"Error|a.txt:3", "Error|General Error."}));
+  application->SetErrorFunction([](const std::exception_ptr&) {});
+  application->RunGuarded([] { throw 1; });
+  EXPECT_TRUE(TakeBoxes().empty());
+  application->SetErrorFunction({});
+  application->RunGuarded([] { throw 1; });
+  EXPECT_EQ(TakeBoxes().front().substr(0, 12), "Error|Sorry,");
 }
 
 TEST_F(ErrorReports, ShowTextsAsTheyAreAndSetTheFlagWhileABoxIsUp) {

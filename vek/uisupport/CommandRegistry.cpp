@@ -5,7 +5,6 @@
 
 #include <memory>
 
-#include "lumcore/filesupport/Dir.h"
 #include "lumcore/filesupport/File.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumcore/xml/Parser.h"
@@ -15,7 +14,6 @@ namespace vek::uisupport {
 
 using lumcore::UTF16String;
 using lumcore::UTF8String;
-using lumcore::filesupport::Dir;
 using lumcore::filesupport::File;
 
 namespace {
@@ -87,8 +85,8 @@ CommandRegistry::const_iterator CommandRegistry::FindCommandByID(int inCommand) 
 void CommandRegistry::LoadFromFile(const File& inFile, bool inReserveIds) {
   Load([&] {
     const File file(inFile.GetFullPath());
-    // A folder of that name is no missing file: it goes on to the parser, which says what is wrong.
-    if (!file.Exists() && !Dir(file.GetPath()).Exists()) return;
+    // What cannot be read goes on to the parser, which says why.
+    if (file.IsAbsent()) return;
     MakeParser(inReserveIds)->Parse(file);
   });
 }

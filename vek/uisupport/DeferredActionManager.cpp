@@ -41,9 +41,10 @@ class DeferredActionManager::StRunning {
     IsExecuting() = false;
     if (!Instance()) return;
     DeferredActionManager& manager = *Instance();
-    if (std::exchange(manager.mActionsRefused, false)) PostRun(&DeferredActionManager::mActions);
+    if (std::exchange(manager.mActionsRefused, false))
+      PostRun(&DeferredActionManager::ExecuteActions);
     if (std::exchange(manager.mIdleActionsRefused, false)) {
-      PostRun(&DeferredActionManager::mIdleActions);
+      PostRun(&DeferredActionManager::ExecuteIdleActions);
     }
   }
   StRunning(const StRunning&) = delete;
@@ -68,40 +69,50 @@ void DeferredActionManager::Terminate() {
   {
     const boost::lock_guard<boost::mutex> lock(manager->mMutex);
     doomed.swap(manager->mActions);
-    sGivenUp->splice(sGivenUp->end(), manager->mIdleActions);
   }
   doomed.clear();
+  {  // behind the others, as one of them may report an error when it dies
+    const boost::lock_guard<boost::mutex> lock(manager->mMutex);
+    sGivenUp->splice(sGivenUp->end(), manager->mIdleActions);
+  }
   delete manager;
   Instance() = nullptr;
 }
 
 void DeferredActionManager::QueueAction(DeferredAction* inAction) {
   Append(&DeferredActionManager::mActions, inAction);
+  PostRun(&DeferredActionManager::ExecuteActions);
 }
 
 void DeferredActionManager::QueueIdleAction(DeferredAction* inAction) {
   Append(&DeferredActionManager::mIdleActions, inAction);
+  PostRun(&DeferredActionManager::ExecuteIdleActions);
 }
 
 void DeferredActionManager::Append(Queue inQueue, DeferredAction* inAction) {
   std::unique_ptr<DeferredAction> action(inAction);
   Actions node;
   node.push_back(std::move(action));
-  {
-    const boost::lock_guard<boost::mutex> lock(mMutex);
-    Actions& actions = this->*inQueue;
-    actions.splice(actions.end(), node);
-  }
-  PostRun(inQueue);
+  const boost::lock_guard<boost::mutex> lock(mMutex);
+  Actions& actions = this->*inQueue;
+  actions.splice(actions.end(), node);
 }
 
 // What is posted may outlive the manager, so it looks for the one there is when it runs.
-void DeferredActionManager::PostRun(Queue inQueue) {
+void DeferredActionManager::PostRun(Run inRun) {
   lumui::ui::UI_NodeManager* const nodes = lumui::ui::UI_NodeManager::Get(false);
   if (!nodes) return;
-  nodes->GetExecutor()->Post([inQueue] {
-    if (Instance()) Instance()->Execute(inQueue);
+  nodes->GetExecutor()->Post([inRun] {
+    if (Instance()) (Instance()->*inRun)();
   });
+}
+
+void DeferredActionManager::ExecuteActions() {
+  Execute(&DeferredActionManager::mActions);
+}
+
+void DeferredActionManager::ExecuteIdleActions() {
+  Execute(&DeferredActionManager::mIdleActions);
 }
 
 void DeferredActionManager::Execute(Queue inQueue) {

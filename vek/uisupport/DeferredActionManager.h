@@ -34,6 +34,7 @@ class VEK_API DeferredActionManager {
  private:
   using Actions = std::list<std::unique_ptr<DeferredAction>>;
   using Queue = Actions DeferredActionManager::*;
+  using Run = void (DeferredActionManager::*)();
   class StRunning;
 
   DeferredActionManager();
@@ -42,7 +43,9 @@ class VEK_API DeferredActionManager {
   DeferredActionManager& operator=(const DeferredActionManager&) = delete;
 
   void Append(Queue inQueue, DeferredAction* inAction);
-  static void PostRun(Queue inQueue);
+  static void PostRun(Run inRun);
+  void ExecuteActions();
+  void ExecuteIdleActions();
   void Execute(Queue inQueue);
   static void RunBatch(Actions& ioBatch);
 

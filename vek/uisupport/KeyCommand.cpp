@@ -38,11 +38,11 @@ KeyCommand::KeyCommand(const int& inCommand, KeyboardCode inCode, Modifiers inMo
 
 KeyCommand::~KeyCommand() = default;
 
-lumcore::UTF16String KeyCommand::GetAsString() const {
+lumcore::UTF16String KeyCommand::GetAsString() {
   return KeyCommandManager::GetShortcutString(mKeyCode, mModifiers);
 }
 
-bool KeyCommand::SameAs(const KeyboardEvent& inEvent) const {
+bool KeyCommand::SameAs(const KeyboardEvent& inEvent) {
   return CodeToCompare(inEvent.GetCode(), mKeyCode) == mKeyCode &&
          WithoutOtherControl(inEvent.GetModKey()) == WithoutOtherControl(mModifiers) &&
          inEvent.GetAction() == mKeyType && inEvent.IsRepeat() == mRepeat;

@@ -29,10 +29,10 @@ class VEK_API KeyCommand {
   KeyCommand& operator=(const KeyCommand&) = delete;
 
   // As menus show it, "Ctrl+Shift+Z". Empty for a key without a name.
-  virtual lumcore::UTF16String GetAsString() const;
+  virtual lumcore::UTF16String GetAsString();
   // Whether the event is this key, whatever it says of the other platform's control key. Of a key
   // that is no character, the extended form counts as the plain one.
-  virtual bool SameAs(const lumui::ui::KeyboardEvent& inEvent) const;
+  virtual bool SameAs(const lumui::ui::KeyboardEvent& inEvent);
 
   int GetCommandID() const { return mCommandID; }
   lumui::ui::KeyboardCode GetKeyboardCode() const { return mKeyCode; }

@@ -40,14 +40,14 @@ bool IsSameKey(const KeyCommand& inA, const KeyCommand& inB) {
          inA.GetModifiers() == inB.GetModifiers() && inA.GetIsRepeat() == inB.GetIsRepeat();
 }
 
-const KeyCommand* FindFirst(const KeyCommandList& inList, const KeyboardEvent& inEvent) {
-  for (const KeyCommand* mapping : inList) {
+KeyCommand* FindFirst(const KeyCommandList& inList, const KeyboardEvent& inEvent) {
+  for (KeyCommand* mapping : inList) {
     if (mapping->SameAs(inEvent)) return mapping;
   }
   return nullptr;
 }
 
-const KeyCommand* FindLast(const KeyCommandList& inList, int inCommand) {
+KeyCommand* FindLast(const KeyCommandList& inList, int inCommand) {
   const auto found = std::find_if(
       inList.rbegin(), inList.rend(),
       [inCommand](const KeyCommand* inMapping) { return inMapping->GetCommandID() == inCommand; });
@@ -129,7 +129,7 @@ bool KeyCommandManager::GetShortcut(int inCommand, KeyboardCode& outCode,
 }
 
 bool KeyCommandManager::GetShortcutString(int inCommand, UTF16String& outText) const {
-  const KeyCommand* mapping = FindLast(mGlobalMappings, inCommand);
+  KeyCommand* const mapping = FindLast(mGlobalMappings, inCommand);
   if (!mapping) return false;
   outText = mapping->GetAsString();
   return true;
@@ -271,8 +271,7 @@ void KeyCommandManager::LoadKeyMappingsFromBuffer(const UTF8String& inBytes) {
 void KeyCommandManager::SaveKeyMappings(const lumcore::filesupport::File& inFile) const {
   UTF8String bytes;
   SaveKeyMappingsToBuffer(bytes);
-  inFile.ReplaceContents(
-      std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+  inFile.Recreate(std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
 }
 
 void KeyCommandManager::SaveKeyMappingsToBuffer(UTF8String& outBytes) const {

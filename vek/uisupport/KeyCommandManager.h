@@ -89,7 +89,8 @@ class VEK_API KeyCommandManager {
   // An empty buffer gives no mappings.
   void LoadKeyMappingsFromBuffer(const lumcore::UTF8String& inBytes);
   // Writes the global mappings whose commands the registry knows; those of contexts are not
-  // written. After a throw of FileError the old file is as it was.
+  // written. The file is deleted, created and written; after a throw of FileError the old one is
+  // back.
   void SaveKeyMappings(const lumcore::filesupport::File& inFile) const;
   void SaveKeyMappingsToBuffer(lumcore::UTF8String& outBytes) const;
 

@@ -12,8 +12,9 @@ namespace {
 
 struct Range {
   static Range& Get() {
-    static Range sRange;
-    return sRange;
+    // Never destroyed: who asks may have any static lifetime.
+    static Range* const sRange = new Range;
+    return *sRange;
   }
   std::unique_ptr<SyntheticCmdMgr> mInstance;
   int mFirst = 0;

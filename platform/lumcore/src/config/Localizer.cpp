@@ -3,33 +3,37 @@
 
 #include "lumcore/config/Localizer.h"
 
+#include <atomic>
 #include <string_view>
-#include <utility>
 
+#include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace lumcore::config {
 
 namespace {
 
-std::unique_ptr<Localizer>& Instance() {
-  static std::unique_ptr<Localizer> sInstance;
-  return sInstance;
-}
+std::atomic<Localizer*> sInPlace = nullptr;
 
 }  // namespace
 
 Localizer::Localizer() = default;
-Localizer::~Localizer() = default;
 
-Localizer* Localizer::Get() {
-  auto& instance = Instance();
-  if (!instance) instance = std::make_unique<Localizer>();
-  return instance.get();
+Localizer::~Localizer() {
+  Localizer* self = this;
+  sInPlace.compare_exchange_strong(self, nullptr);
 }
 
-void Localizer::Set(std::unique_ptr<Localizer> inLocalizer) {
-  Instance() = std::move(inLocalizer);
+Localizer* Localizer::Get() {
+  // Never destroyed: texts are asked for until the process ends.
+  static Localizer* const sWithoutCatalogues = new Localizer;
+  Localizer* const inPlace = sInPlace;
+  return inPlace ? inPlace : sWithoutCatalogues;
+}
+
+void Localizer::Set(Localizer* inLocalizer, const filesupport::Dir& inLocalizationDir) {
+  if (inLocalizer) inLocalizer->DoSetLocalizationDir(inLocalizationDir);
+  sInPlace = inLocalizer;
 }
 
 UTF16String Localizer::GetLocalizedString(const char* inKey) const {
@@ -41,5 +45,7 @@ UTF16String Localizer::DoGetLocalizedString(const char* inKey) const {
   const auto equals = key.find('=');
   return equals == key.npos ? UTF16String() : utility::ToUTF16(key.substr(equals + 1));
 }
+
+void Localizer::DoSetLocalizationDir(const filesupport::Dir&) {}
 
 }  // namespace lumcore::config

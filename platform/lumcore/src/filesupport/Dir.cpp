@@ -50,7 +50,7 @@ Dir::Dir() = default;
 
 Dir::Dir(std::string_view inPath) : mPath(inPath) {}
 
-Dir::Dir(const UTF16String& inPath) : mPath(utility::ToStdString(inPath)) {}
+Dir::Dir(const UTF16String& inPath) : mPath(paths::FromText(inPath)) {}
 
 Dir::Dir(const Dir& inParent, std::string_view inName)
     : mPath(paths::Join(inParent.mPath, inName)) {}
@@ -72,7 +72,7 @@ bool Dir::Exists() const {
 }
 
 UTF16String Dir::GetFullPath() const {
-  return utility::ToUTF16(paths::Full(mPath));
+  return paths::ToText(paths::Full(mPath));
 }
 
 UTF16String Dir::GetName() const {

@@ -14,7 +14,7 @@ File::File() = default;
 
 File::File(std::string_view inPath) : mPath(inPath) {}
 
-File::File(const UTF16String& inPath) : mPath(utility::ToStdString(inPath)) {}
+File::File(const UTF16String& inPath) : mPath(paths::FromText(inPath)) {}
 
 File::File(const Dir& inDir, std::string_view inName)
     : mPath(paths::Join(inDir.GetPath(), inName)) {}
@@ -23,12 +23,16 @@ bool File::Exists() const {
   return system::FileExists(mPath);
 }
 
+bool File::IsAbsent() const {
+  return system::IsAbsent(mPath);
+}
+
 std::uint64_t File::GetSize() const {
   return system::FileSize(mPath);
 }
 
 UTF16String File::GetFullPath() const {
-  return utility::ToUTF16(paths::Full(mPath));
+  return paths::ToText(paths::Full(mPath));
 }
 
 UTF16String File::GetName() const {
@@ -61,6 +65,10 @@ UTF8String File::ReadAll() const {
 
 void File::ReplaceContents(std::string_view inBytes) const {
   system::ReplaceFile(mPath, inBytes);
+}
+
+void File::Recreate(std::string_view inBytes) const {
+  system::RecreateFile(mPath, inBytes);
 }
 
 void File::Remove() const {

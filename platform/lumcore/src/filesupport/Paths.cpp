@@ -3,6 +3,10 @@
 
 #include "filesupport/Paths.h"
 
+#include <unicode/utf16.h>
+#include <unicode/utf8.h>
+
+#include <cstdint>
 #include <system_error>
 
 #include "filesupport/ThrowFileError.h"
@@ -12,6 +16,9 @@ namespace lumcore::filesupport::paths {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr UTF16String::value_type kFirstByteMark = 0xDC00;
+constexpr UChar32 kReplacementCharacter = 0xFFFD;
 
 // A separator at the end would make an empty last component.
 fs::path WithoutEndSeparator(const fs::path& inPath) {
@@ -26,6 +33,46 @@ fs::path ToSystem(const std::string& inPath) {
 
 std::string FromSystem(const fs::path& inPath) {
   return inPath.u8string();
+}
+
+UTF16String ToText(const std::string& inPath) {
+  UTF16String text;
+  text.reserve(inPath.size());
+  const auto* const bytes = reinterpret_cast<const std::uint8_t*>(inPath.data());
+  for (std::size_t at = 0; at < inPath.size();) {
+    const std::size_t start = at;
+    UChar32 character = 0;
+    U8_NEXT(bytes, at, inPath.size(), character);
+    if (character < 0) {
+      for (std::size_t byte = start; byte < at; ++byte)
+        text += static_cast<UTF16String::value_type>(kFirstByteMark + bytes[byte]);
+    } else if (U_IS_BMP(character)) {
+      text += static_cast<UTF16String::value_type>(character);
+    } else {
+      text += static_cast<UTF16String::value_type>(U16_LEAD(character));
+      text += static_cast<UTF16String::value_type>(U16_TRAIL(character));
+    }
+  }
+  return text;
+}
+
+std::string FromText(const UTF16String& inText) {
+  std::string path;
+  path.reserve(inText.size());
+  for (std::size_t at = 0; at < inText.size();) {
+    UChar32 character = 0;
+    U16_NEXT(inText.data(), at, inText.size(), character);
+    if (character >= kFirstByteMark + 0x80 && character <= kFirstByteMark + 0xFF) {
+      path += static_cast<char>(character - kFirstByteMark);
+      continue;
+    }
+    if (U_IS_SURROGATE(character)) character = kReplacementCharacter;
+    std::uint8_t bytes[U8_MAX_LENGTH];
+    std::size_t count = 0;
+    U8_APPEND_UNSAFE(bytes, count, character);
+    path.append(reinterpret_cast<const char*>(bytes), count);
+  }
+  return path;
 }
 
 // Joined as text: a name that looks like a path of its own stays inside the folder.

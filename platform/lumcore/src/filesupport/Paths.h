@@ -15,6 +15,11 @@ namespace lumcore::filesupport::paths {
 std::filesystem::path ToSystem(const std::string& inPath);
 std::string FromSystem(const std::filesystem::path& inPath);
 
+// A path as UTF-16 and back, whatever its bytes are: one that is no part of UTF-8 becomes a lone
+// surrogate, U+DC80 to U+DCFF. Another lone surrogate names nothing and becomes U+FFFD.
+UTF16String ToText(const std::string& inPath);
+std::string FromText(const UTF16String& inText);
+
 std::string Join(const std::string& inFolder, std::string_view inName);
 std::string Parent(const std::string& inPath);
 // The last component; the root's is the root itself.

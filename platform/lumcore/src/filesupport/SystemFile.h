@@ -46,9 +46,12 @@ std::intptr_t OpenForWriting(const std::string& inPath);
 std::string ProgramPath();  // of this process's executable file
 bool FileExists(const std::string& inPath);
 bool FolderExists(const std::string& inPath);
+bool IsAbsent(const std::string& inPath);
 std::uint64_t FileSize(const std::string& inPath);
 void RemoveFile(const std::string& inPath);
 // See File::ReplaceContents.
 void ReplaceFile(const std::string& inPath, std::string_view inBytes);
+// See File::Recreate.
+void RecreateFile(const std::string& inPath, std::string_view inBytes);
 
 }  // namespace lumcore::filesupport::system

@@ -1,7 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +14,7 @@
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -26,6 +29,8 @@ namespace {
 constexpr const char* kOpenKey = "$$$/lumcore/filesupport/Error/Open=Cannot open \"@0\": @1";
 constexpr const char* kWriteKey = "$$$/lumcore/filesupport/Error/Write=Cannot write \"@0\": @1";
 constexpr const char* kSaveKey = "$$$/lumcore/filesupport/Error/Save=Cannot save \"@0\": @1";
+constexpr const char* kNoFileKey =
+    "$$$/lumcore/filesupport/Error/NotAFile=Cannot save \"@0\": Not a regular file";
 
 // The kernel takes no more than this in one call.
 constexpr std::size_t kMostBytesPerCall = 1u << 30;
@@ -101,31 +106,51 @@ std::string FollowLinks(const std::string& inPath) {
   ThrowSystemError(kSaveKey, inPath, ELOOP);
 }
 
-std::string RandomName() {
+constexpr std::string_view kTemporaryPrefix = ".lumcore-save-";
+constexpr std::string_view kOldPrefix = ".lumcore-old-";
+constexpr std::size_t kTemporaryDigits = 16;
+
+// Of one length, so that a long name of the user's does not become too long by it.
+std::string RandomName(std::string_view inPrefix) {
   unsigned long long number = 0;
   while (::getrandom(&number, sizeof number, 0) == -1 && errno == EINTR) {
   }
-  char name[40];
-  std::snprintf(name, sizeof name, ".lumcore-save-%016llx", number);
-  return name;
+  char digits[kTemporaryDigits + 1];
+  std::snprintf(digits, sizeof digits, "%016llx", number);
+  return std::string(inPrefix) + digits;
 }
 
-// A new file with a name that nobody can foresee. It is deleted unless it was renamed.
+bool IsTemporaryName(std::string_view inName) {
+  return inName.size() == kTemporaryPrefix.size() + kTemporaryDigits &&
+         inName.substr(0, kTemporaryPrefix.size()) == kTemporaryPrefix &&
+         inName.find_first_not_of("0123456789abcdef", kTemporaryPrefix.size()) == inName.npos;
+}
+
+// A new file with a name that nobody can foresee. It is deleted unless it was renamed. As long as
+// it is in use it is locked, so that what a process has left behind that was ended in the middle is
+// known by its not being locked.
 class TemporaryFile {
  public:
   TemporaryFile(const std::string& inFolder, const std::string& inTarget, mode_t inMode) {
     if (!IsPath(inFolder)) ThrowSystemError(kSaveKey, inTarget, EINVAL);
     constexpr int kTries = 100;
     for (int tries = 0; tries < kTries; ++tries) {
-      mPath = paths::Join(inFolder, RandomName());
+      mPath = paths::Join(inFolder, RandomName(kTemporaryPrefix));
       mNumber = ::open(mPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, inMode);
-      if (mNumber != -1) return;
+      if (mNumber != -1) {
+        if (Lock()) return;
+        const int error = errno;
+        ::unlink(mPath.c_str());
+        ::close(mNumber);
+        errno = error;
+      }
       if (errno != EEXIST && errno != EINTR) break;
     }
     ThrowSystemError(kSaveKey, inTarget, errno);
   }
   ~TemporaryFile() {
     if (!mPath.empty()) ::unlink(mPath.c_str());
+    ::close(mLock);
   }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -139,8 +164,82 @@ class TemporaryFile {
   }
 
  private:
+  // False, with the error, where there is no second number for the file, or where another process
+  // has cleaned it away in the moment before it was locked. A file system that knows no locks
+  // grants none to the cleaner either.
+  bool Lock() {
+    mLock = ::fcntl(mNumber, F_DUPFD_CLOEXEC, 0);
+    if (mLock == -1) return false;
+    while (::flock(mLock, LOCK_EX) == -1 && errno == EINTR) {
+    }
+    struct stat status = {};
+    if (::fstat(mLock, &status) == 0 && status.st_nlink > 0) return true;
+    ::close(std::exchange(mLock, -1));
+    errno = EEXIST;
+    return false;
+  }
+
   std::string mPath;
   int mNumber = -1;
+  int mLock = -1;  // the same open file, which stays locked until both numbers are closed
+};
+
+// Deletes a file that a save has left behind which did not come to its end.
+void RemoveIfLeftOver(const std::string& inPath) {
+  const int number = ::open(inPath.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (number == -1) return;
+  struct stat status = {};
+  const bool isOurs =
+      ::fstat(number, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid();
+  if (isOurs && ::flock(number, LOCK_EX | LOCK_NB) == 0) ::unlink(inPath.c_str());
+  ::close(number);
+}
+
+// What cannot be listed or deleted stays: it is in nobody's way.
+void RemoveLeftOvers(const std::string& inFolder) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(inFolder.c_str()), &::closedir);
+  if (!folder) return;
+  while (const dirent* const entry = ::readdir(folder.get())) {
+    if (IsTemporaryName(entry->d_name)) RemoveIfLeftOver(paths::Join(inFolder, entry->d_name));
+  }
+}
+
+// A file that is deleted as far as its own name goes. It comes back under that name, in the place
+// of what has been written there so far, unless it is given up.
+class SetAside {
+ public:
+  explicit SetAside(const std::string& inPath) : mPath(inPath) {
+    struct stat status = {};
+    if (::lstat(inPath.c_str(), &status) != 0) {
+      if (errno == ENOENT) return;
+      ThrowSystemError(kSaveKey, inPath, errno);
+    }
+    if (S_ISDIR(status.st_mode)) ThrowSystemError(kSaveKey, inPath, EISDIR);
+    if (!S_ISREG(status.st_mode) && !S_ISLNK(status.st_mode)) ThrowFileError(kNoFileKey, inPath);
+    const std::string old = paths::Join(paths::Parent(inPath), RandomName(kOldPrefix));
+    if (::rename(inPath.c_str(), old.c_str()) != 0) ThrowSystemError(kSaveKey, inPath, errno);
+    mOld = old;
+  }
+  ~SetAside() {
+    if (mIsReplaced) ::unlink(mPath.c_str());
+    // Where even this fails, nothing is lost: the old file stays beside.
+    if (!mOld.empty() && ::rename(mOld.c_str(), mPath.c_str()) != 0) return;
+  }
+  SetAside(const SetAside&) = delete;
+  SetAside& operator=(const SetAside&) = delete;
+
+  // From here on, what stands under the name is ours.
+  void SetIsReplaced() { mIsReplaced = true; }
+  void GiveUp() {
+    mIsReplaced = false;
+    if (!mOld.empty()) ::unlink(mOld.c_str());
+    mOld.clear();
+  }
+
+ private:
+  std::string mPath;
+  std::string mOld;
+  bool mIsReplaced = false;
 };
 
 // Owner and group are kept where the process may. Where the group cannot be kept, the new group
@@ -250,6 +349,12 @@ bool FolderExists(const std::string& inPath) {
   return GetStatus(inPath, status) && S_ISDIR(status.st_mode);
 }
 
+bool IsAbsent(const std::string& inPath) {
+  struct stat status = {};
+  if (!IsPath(inPath) || ::stat(inPath.c_str(), &status) == 0) return false;
+  return errno == ENOENT || errno == ENOTDIR;
+}
+
 std::uint64_t FileSize(const std::string& inPath) {
   constexpr const char* kKey = "$$$/lumcore/filesupport/Error/Size=Cannot measure \"@0\": @1";
   struct stat status = {};
@@ -272,8 +377,7 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   const bool exists = GetStatus(target, old);
   if (exists && S_ISDIR(old.st_mode)) ThrowSystemError(kSaveKey, inPath, EISDIR);
   if (exists && !S_ISREG(old.st_mode)) {
-    ThrowFileError("$$$/lumcore/filesupport/Error/NotAFile=Cannot save \"@0\": Not a regular file",
-                   inPath);
+    ThrowFileError(kNoFileKey, inPath);
   }
   // A rename asks for rights on the folder alone and would pass over a file that is
   // write-protected.
@@ -282,6 +386,8 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   }
 
   const std::string folder = paths::Parent(target);
+  // First, as the disk may be full of them.
+  RemoveLeftOvers(folder);
   // Until it has the old file's permissions, nobody else may read what may be confidential.
   TemporaryFile temporary(folder, inPath, exists ? 0600 : 0666);
   Handle handle(temporary.GetNumber(), inPath);
@@ -291,6 +397,19 @@ void ReplaceFile(const std::string& inPath, std::string_view inBytes) {
   handle.Close();
   temporary.RenameTo(target, inPath);
   FlushFolder(folder);
+}
+
+void RecreateFile(const std::string& inPath, std::string_view inBytes) {
+  if (inPath.empty()) ThrowSystemError(kSaveKey, inPath, ENOENT);
+  if (!IsPath(inPath)) ThrowSystemError(kSaveKey, inPath, EINVAL);
+  SetAside old(inPath);
+  Handle handle(Open(kSaveKey, inPath, O_WRONLY | O_CREAT | O_EXCL, 0666), inPath);
+  old.SetIsReplaced();
+  handle.WriteAll(inBytes.data(), inBytes.size());
+  handle.FlushToDisk();
+  handle.Close();
+  old.GiveUp();
+  FlushFolder(paths::Parent(inPath));
 }
 
 }  // namespace lumcore::filesupport::system

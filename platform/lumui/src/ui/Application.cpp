@@ -11,6 +11,7 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedValue.h"
+#include "lumui/ui/ModuleInfo.h"
 #include "ui/ApplicationImpl.h"
 #include "ui/EventGate.h"
 #include "ui/MenuPeer.h"
@@ -40,6 +41,7 @@ Application::Application(int& ioArgumentCount, char** ioArguments)
                    [](Qt::ApplicationState inState) {
                      NodeManagerImpl().TellActivation(inState == Qt::ApplicationActive);
                    });
+  RunGuarded(&ModuleInfo::InitializeAll);
 }
 
 Application::~Application() {

@@ -12,11 +12,11 @@
 #include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
-#include <cstdio>
 #include <exception>
 #include <utility>
 
 #include "drawbot/QtConvert.h"
+#include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/ScopedValue.h"
@@ -70,16 +70,6 @@ bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
 bool IsTyped(QChar inCharacter) {
   const char16_t unit = inCharacter.unicode();
   return unit >= 0x20 && !(unit >= 0x7F && unit < 0xA0);
-}
-
-void WriteError(const std::exception_ptr& inError) {
-  try {
-    std::rethrow_exception(inError);
-  } catch (const std::exception& exception) {
-    std::fprintf(stderr, "unhandled exception: %s\n", exception.what());
-  } catch (...) {
-    std::fprintf(stderr, "unhandled exception of an unknown type\n");
-  }
 }
 
 }  // namespace
@@ -377,16 +367,8 @@ bool EventGate::RunGuarded(const std::function<void()>& inFunction) {
 }
 
 void EventGate::ReportError(const std::exception_ptr& inError) {
-  // A copy: the function may put another in its place.
-  const Application::ErrorFunction function = mErrorFunction;
-  if (!function) return WriteError(inError);
-  try {
-    function(inError);
-  } catch (...) {
-    // The reporter itself failed: both errors go where they can still be seen.
-    WriteError(inError);
-    WriteError(std::current_exception());
-  }
+  if (!mErrorFunction) return lumcore::config::ErrorManager::Get(false)->ReportError(inError);
+  lumcore::config::ErrorManager::ReportThrough(mErrorFunction, inError);
 }
 
 bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch) {

@@ -11,6 +11,7 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Window.h"
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
@@ -175,6 +176,10 @@ bool UI_Node::UI_DoPrePointerEvent(const MouseEvent&) {
 
 bool UI_Node::UI_SupportsDrawbot() const {
   return true;
+}
+
+drawbot::SupplierInterface* UI_Node::UI_GetDrawSupplier() const {
+  return drawbot::GetDefaultSupplier();
 }
 
 bool UI_Node::UI_SetKeyboardFocus(int inReason) {

@@ -22,10 +22,14 @@ class LUMCORE_API File {
   explicit File(const UTF16String& inPath);
   File(const Dir& inDir, std::string_view inName);
 
+  // False for a folder, and where the system does not let us look.
   bool Exists() const;
+  // Whether there is nothing of that name, by the system's own word.
+  bool IsAbsent() const;
   std::uint64_t GetSize() const;  // bytes; throws FileError
   const std::string& GetPath() const { return mPath; }
-  // Absolute, with "." and ".." resolved by text; links stay.
+  // Absolute, with "." and ".." resolved by text; links stay. A File of this text names the same
+  // file again: a byte that is no UTF-8 is a lone surrogate in it, U+DC80 to U+DCFF.
   UTF16String GetFullPath() const;
   UTF16String GetName() const;       // the last component
   UTF16String GetExtension() const;  // behind the last dot, without it; empty for ".profile"
@@ -39,8 +43,16 @@ class LUMCORE_API File {
   // points to is replaced and the link stays. A new file has the permissions that the process
   // gives. After a throw of FileError the old file is as it was and nothing is left beside it. A
   // file that may not be written, and what is no file (a device, a folder), is refused. Further
-  // hard links keep the old content, and access lists do not pass to the new file.
+  // hard links keep the old content, and access lists do not pass to the new file. A process that
+  // is killed meanwhile leaves a ".lumcore-save-..." behind, which the next save of the same user
+  // in that folder deletes.
   void ReplaceContents(std::string_view inBytes) const;
+
+  // Replaces the file itself: deletes it, creates it anew and writes it. So a link gives way to a
+  // file, one that is write-protected is no hindrance, and the new file has the permissions that
+  // the process gives. Until all is written the old file stands beside it under another name, and
+  // after a throw of FileError it is back. What is no file (a device, a folder) is refused.
+  void Recreate(std::string_view inBytes) const;
 
   void Remove() const;  // throws FileError; a file that is not there is no failure
 

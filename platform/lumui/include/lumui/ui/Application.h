@@ -50,8 +50,8 @@ class LUMUI_API Application {
   void SetEventSteps(PreEventStep inPre, PostEventStep inPost);
   // Called once each time the queue has run empty, before the loop waits.
   void SetIdleFunction(std::function<void()> inIdle);
-  // Gets every exception that a handler lets out. Empty brings the default back, which writes to
-  // the standard error output.
+  // Gets every exception that a handler lets out, in place of the error manager's reporter. Empty
+  // brings the error manager back.
   void SetErrorFunction(ErrorFunction inFunction);
   // True keeps a key press from opening a menu by its mnemonic: the press then comes as an event.
   void SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inClaim);

@@ -18,7 +18,8 @@
 
 namespace lumui::drawbot {
 class Drawbot;
-}
+class SupplierInterface;
+}  // namespace lumui::drawbot
 
 namespace lumui::ui {
 
@@ -109,6 +110,8 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // so. True swallows the press.
   virtual bool UI_DoPrePointerEvent(const MouseEvent& inEvent);
   virtual bool UI_SupportsDrawbot() const;
+  // What makes images, fonts and paths for drawing on this node. Borrowed, never null.
+  drawbot::SupplierInterface* UI_GetDrawSupplier() const;
 
   // Focus. A node that is not in a window has none and takes none; true if it has it now.
   bool UI_SetKeyboardFocus(int inReason);

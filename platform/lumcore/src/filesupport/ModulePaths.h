@@ -1,0 +1,15 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "lumcore/filesupport/Dir.h"
+
+namespace lumcore::filesupport::system {
+
+// Where the running program and this library lie on disk, with links resolved. An empty Dir where
+// the system does not say.
+Dir ProgramDir();
+Dir LibraryDir();
+
+}  // namespace lumcore::filesupport::system

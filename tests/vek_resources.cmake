@@ -1,0 +1,16 @@
+vek_test(vek_resources_tests
+  SOURCES
+    support/UIApplication.cpp
+    utility/EmbeddingTest.cpp
+    utility/ResourcesTest.cpp
+    utility/VekResourcesTest.cpp
+  LIBRARIES vek)
+target_compile_definitions(vek_resources_tests PRIVATE "VEK_EMBED=\"$<TARGET_FILE:vek_embed>\"")
+add_dependencies(vek_resources_tests vek_embed)
+# One of the names stands in vek too, with another picture.
+vek_embed_resources(vek_resources_tests
+  FILES
+    utility/resources/note.xml utility/resources/empty.xml
+    utility/resources/S_DELETE_MD_N_D_AT_2X.svg
+  IMAGES utility/resources/DOT.svg SCALES 300 100 150 200
+  SIZES BIG=10 SM=4 INKS "N=#ff0000" "S=#0000ff")
