@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <boost/function.hpp>
 #include <boost/intrusive_ptr.hpp>
+#include <boost/shared_ptr.hpp>
 #include <memory>
 
 #include "lumcore/Strings.h"
@@ -242,7 +244,7 @@ class VEK_API AppBase {
 
   bool mUpdateMenuShortcuts;
   bool mWorkspaceSaved;
-  lumworkspace::workspace::Workspace* mWorkspace;                        // owned, as are those below
+  lumworkspace::workspace::Workspace* mWorkspace;  // owned, as are those below
   lumcore::config::ErrorManager* mErrorManager;
   lumcore::config::Localizer* mLocalizer;
   lumworkspace::workspace::WorkspaceUIManager* mWorkspaceUIManager;
@@ -256,6 +258,7 @@ class VEK_API AppBase {
   bool mSaveRestoreLastWorkspace;
   workspace::WorkspaceSwitcherSerializer mSwitcherSerializer;
   Stage mLastStage;
+  boost::shared_ptr<boost::function<void(bool)>> mActivationFunction;
 };
 
 }  // namespace vek::app

@@ -13,14 +13,14 @@ namespace vek::app {
 struct VEK_API AppInitArgs {
   AppInitArgs();
 
-  HINSTANCE applicationInstance;      // to be set
-  HINSTANCE resourceInstance;         // to be set: the module of icons and resources
-  const wchar_t* windowClassName;     // to be set
-  int menuResourceID;                 // to be set
-  int iconResourceID;                 // to be set
-  const wchar_t* windowTitle;         // null: the class name is the title
-  bool showMainWindow;                // true
-  bool designAppTheme;                // false
+  HINSTANCE applicationInstance;   // to be set
+  HINSTANCE resourceInstance;      // to be set: the module of icons and resources
+  const wchar_t* windowClassName;  // to be set
+  int menuResourceID;              // to be set
+  int iconResourceID;              // to be set
+  const wchar_t* windowTitle;      // null: the class name is the title
+  bool showMainWindow;             // true
+  bool designAppTheme;             // false
 };
 
 }  // namespace vek::app

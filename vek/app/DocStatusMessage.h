@@ -15,8 +15,7 @@ namespace vek::app {
 // about to be closed and deleted. The document is borrowed and lives during the message.
 class VEK_API DocStatusMessage {
  public:
-  DocStatusMessage(bool inIsClosing, bool inBecomesActive,
-                   document::DocumentInterface* inDocument);
+  DocStatusMessage(bool inIsClosing, bool inBecomesActive, document::DocumentInterface* inDocument);
   virtual ~DocStatusMessage();
   DocStatusMessage(const DocStatusMessage&) = default;
   DocStatusMessage& operator=(const DocStatusMessage&) = default;

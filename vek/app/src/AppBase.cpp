@@ -27,9 +27,10 @@
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "lumworkspace/workspace/WorkspaceUIManager.h"
 #include "vek/app/App.h"
+#include "vek/app/src/MenuState.h"
 #include "vek/uisupport/DeferredActionManager.h"
 #include "vek/uisupport/KeyCommandManager.h"
-#include "vek/utility/Resources.h"
+#include "vek/utility/VekResources.h"
 #include "vek/workspace/Workspace.h"
 
 namespace vek::app {
@@ -114,9 +115,10 @@ bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   if (started && mWorkspaceManager) {
     mLastStage = kStageActivation;
     using Function = boost::function<void(bool)>;
-    lumui::ui::UI_NodeManager::InstallApplicationActivationChangedFunction(
-        boost::shared_ptr<Function>(
-            new Function([this](bool inActive) { HandleAppActiveStateChanged(inActive); })));
+    mActivationFunction.reset(
+        new Function([this](bool inActive) { HandleAppActiveStateChanged(inActive); }));
+    lumui::ui::UI_NodeManager::Get(false)->InstallApplicationActivationChangedFunction(
+        mActivationFunction);
     mLastStage = kStageWorkspaceMenu;
     InitWorkspaceManagerMenu();
   }
@@ -143,7 +145,7 @@ void AppBase::StartServices(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   mLastStage = kStageParserFactory;
   lumcore::xml::SetParserFactory(InitXMLParserFactory());
   mLastStage = kStageConsole;
-  if (lumcore::debug::DebugDatabase::Instance().GetBool("Show Windows Console", false)) {
+  if (lumcore::debug::DebugDatabase::Instance().GetBoolean("Show Windows Console", false)) {
     lumcore::console::CreateStandardConsoleWindow();
   }
 }
@@ -192,6 +194,7 @@ void AppBase::StartWorkspace(AppInitArgs&) {
 }
 
 void AppBase::Terminate() {
+  if (mActivationFunction) mActivationFunction->clear();
   SaveAppSettings();
   TerminateWorkspace();
   TerminateApplication();
@@ -237,8 +240,7 @@ void AppBase::OnIdle() {
 
 bool AppBase::PreEventProcessing(const lumui::ui::OS_Event& inEvent) {
   bool dispatch = true;
-  lumcore::config::ExecuteTopLevelFunction(
-      [&] { dispatch = DoPreEventProcessing(inEvent); });
+  lumcore::config::ExecuteTopLevelFunction([&] { dispatch = DoPreEventProcessing(inEvent); });
   return dispatch;
 }
 
@@ -247,7 +249,7 @@ void AppBase::PostEventProcessing(const lumui::ui::OS_Event& inEvent) {
 }
 
 void AppBase::BeforeMenuPopup(HMENU inMenu) {
-  if (auto* const manager = lumui::ui::UI_NodeManager::Get(true)) manager->ReleaseCapture();
+  ReleaseInputCapture();
   DoBeforeMenuPopup(inMenu);
 }
 
@@ -261,7 +263,8 @@ void AppBase::HandleAppActiveStateChanged(bool inActive) {
 }
 
 void AppBase::AutoDisableUserCmds(int inFirstCommand) {
-  AutoDisable::Get() = {true, inFirstCommand};
+  AutoDisable::Get().mIsOn = true;
+  AutoDisable::Get().mFirstCommand = inFirstCommand;
 }
 
 bool AppBase::IsAutoDisabling() {

@@ -4,6 +4,7 @@
 // What the hooks of AppBase do where the host says nothing else.
 
 #include <memory>
+#include <utility>
 
 #include "lumcore/filesupport/Dir.h"
 #include "lumcore/proplist/Utils.h"
@@ -20,7 +21,7 @@
 #include "lumworkspace/workspace/PlatformMenuHelperBase.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/app/AppBase.h"
-#include "vek/utility/Resources.h"
+#include "vek/utility/VekResources.h"
 #include "vek/workspace/Workspace.h"
 
 namespace vek::app {
@@ -89,8 +90,8 @@ void AppBase::InitThemeEditorFromResource(const UTF16String& inName, float inBri
       inFromVekResources ? utility::GetResourceManager() : GetAppResourceManager();
   const auto bytes = resources->GetRequiredBinary(inName, "xml");
   const auto theme = lumui::ui::Theme::Get();
-  std::auto_ptr<lumcore::xml::AbstractParseHandler> handler(new lumui::ui::KeyframeThemeParser(
-      dynamic_cast<lumui::ui::KeyframeThemeEditor&>(*theme)));
+  std::auto_ptr<lumcore::xml::AbstractParseHandler> handler(
+      new lumui::ui::KeyframeThemeParser(dynamic_cast<lumui::ui::KeyframeThemeEditor&>(*theme)));
   lumcore::xml::GetParser(handler)->Parse(lumcore::UTF8String(bytes.begin(), bytes.end()), inName);
   lumui::ui::Theme::SetBrightness(inBrightness);
   lumui::ui::Theme::NotifyThemeChanged();
@@ -163,9 +164,8 @@ void AppBase::DoAppActiveStateChanged(bool inActive) {
 void AppBase::MenubarCreateHook(HMENU) {}
 
 lumcore::filesupport::File AppBase::GetSettingsFile() const {
-  return lumcore::filesupport::File(
-      lumcore::filesupport::Dir::PrefDir(),
-      lumcore::utility::ToStdString(GetAppSettingsFileName()));
+  return lumcore::filesupport::File(lumcore::filesupport::Dir::PrefDir(),
+                                    lumcore::utility::ToStdString(GetAppSettingsFileName()));
 }
 
 void AppBase::LoadAppSettings() {
@@ -174,8 +174,10 @@ void AppBase::LoadAppSettings() {
 }
 
 void AppBase::SaveAppSettings() {
+  // The file is made and filled in one step: an empty one, left by a crash between two steps, would
+  // keep the application from starting.
   const auto file = GetSettingsFile();
-  if (!file.Exists()) file.Create(false);
+  if (!file.Exists()) file.GetParent().Create();
   lumcore::proplist::utils::SavePropList(file, mSettings);
 }
 

@@ -20,7 +20,7 @@ namespace {
 constexpr const char* kRecentFilesKey = "App.RecentFiles";
 constexpr int kMaximumRecentFiles = 4;
 
-void RemoveAttachment(const DocumentInterface& inDocument) {
+void TakeOffAttachment(const DocumentInterface& inDocument) {
   if (!inDocument.HasAttachment()) return;
   uisupport::CommandAttachment* const attachment = inDocument.GetCommandAttachment();
   if (!attachment) return;
@@ -55,7 +55,7 @@ messaging::Broadcaster<const DocStatusMessage>& DocumentApplication::GetDocStatu
 void DocumentApplication::SetDocument(DocumentInterface* inDocument) {
   if (inDocument == mDocument) return;
   if (mDocument) {
-    RemoveAttachment(*mDocument);
+    TakeOffAttachment(*mDocument);
     GetDocStatusNotifier().BroadcastMessage(DocStatusMessage(false, false, mDocument));
   }
   mDocument = inDocument;
@@ -129,9 +129,8 @@ void DocumentApplication::SyncMRUList() {
   const std::size_t count =
       std::min(static_cast<std::size_t>(mMaximumRecentFiles), mRecentFiles->size());
   GetVekPrivateSettings().Set(
-      kRecentFilesKey,
-      RecentFiles(mRecentFiles->begin(),
-                  mRecentFiles->begin() + static_cast<std::ptrdiff_t>(count)));
+      kRecentFilesKey, RecentFiles(mRecentFiles->begin(),
+                                   mRecentFiles->begin() + static_cast<std::ptrdiff_t>(count)));
 }
 
 void DocumentApplication::OnRecentFilesChanged() {}

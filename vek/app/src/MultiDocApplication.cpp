@@ -48,8 +48,8 @@ void MultiDocApplication::CloseDocument(DocumentInterface* inDocument) {
   mDocuments.erase(docIter);
   DocumentApplication::CloseDocument(inDocument);
   // Its own Close may have closed the neighbour as well.
-  const bool isOpen = std::find(mDocuments.begin(), mDocuments.end(), newActiveDocument) !=
-                      mDocuments.end();
+  const bool isOpen =
+      std::find(mDocuments.begin(), mDocuments.end(), newActiveDocument) != mDocuments.end();
   if (newActiveDocument && isOpen) SetDocument(newActiveDocument);
 }
 
