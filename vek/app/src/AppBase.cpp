@@ -30,6 +30,7 @@
 #include "vek/app/src/MenuState.h"
 #include "vek/uisupport/DeferredActionManager.h"
 #include "vek/uisupport/KeyCommandManager.h"
+#include "vek/uisupport/MainWindowLookup.h"
 #include "vek/utility/VekResources.h"
 #include "vek/workspace/Workspace.h"
 
@@ -85,6 +86,7 @@ AppBase::AppBase()
 }
 
 AppBase::~AppBase() {
+  uisupport::SetMainWindowLookup({});
   lumcore::config::Localizer::Set(nullptr, Dir());
   mSettings.Clear();
   Delete(mMemoryTracker);
@@ -105,6 +107,9 @@ bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   mSwitcherSerializer.Init();
   mLastStage = kStageWorkspace;
   Replace(mWorkspace, InitWorkspace(inArgs));
+  uisupport::SetMainWindowLookup([this]() -> lumui::ui::UI_Node* {
+    return mWorkspace ? mWorkspace->GetMainTopLevelWindow() : nullptr;
+  });
   mLastStage = kStageSplashScreen;
   const boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog> splashScreen = GetNewSplashScreen();
   if (splashScreen) splashScreen->Show(true);
