@@ -46,9 +46,6 @@ class VEK_API DocumentApplication : public App {
   // settings were saved.
   bool InitApplication(AppInitArgs& inArgs) override;
   void TerminateApplication() override;
-  // The handler that carries attachments from now on; one that stands elsewhere stays there.
-  void OnParentHandlerSet(uisupport::CommandHandler* inOldParent,
-                          uisupport::CommandHandler* inNewParent) override;
 
   // None of these calls OnRecentFilesChanged.
   RecentFiles::iterator RecentFilesBegin() { return mRecentFiles->begin(); }
@@ -65,6 +62,9 @@ class VEK_API DocumentApplication : public App {
 
  private:
   virtual void OnRecentFilesChanged();
+  // The handler that carries attachments from now on; one that stands elsewhere stays there.
+  void OnParentHandlerSet(uisupport::CommandHandler* inOldParent,
+                          uisupport::CommandHandler* inNewParent) override;
 
   document::DocumentInterface* mDocument;
   uisupport::CommandHandler* mAttachmentHandler;
