@@ -46,6 +46,17 @@ bool IsInput(QEvent::Type inType) {
          inType == QEvent::FocusOut || inType == QEvent::Close;
 }
 
+bool IsPress(QEvent::Type inType) {
+  return inType == QEvent::MouseButtonPress || inType == QEvent::MouseButtonDblClick;
+}
+
+// What comes and goes over other windows.
+bool IsPassing(const QWindow& inNative) {
+  const Qt::WindowType type = inNative.type();
+  return type == Qt::Popup || type == Qt::ToolTip || type == Qt::SplashScreen ||
+         inNative.flags().testFlag(Qt::WindowTransparentForInput);
+}
+
 bool IsRoutedToNodes(QEvent::Type inType) {
   return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
          inType == QEvent::KeyRelease;
@@ -130,7 +141,8 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
     mHeldRelease.Flush();
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
-  if (!window || BelongsToMenus(*window, inEvent)) return QApplication::notify(&inNative, &inEvent);
+  if (!window) return RouteForeign(inNative, inEvent);
+  if (BelongsToMenus(*window, inEvent)) return QApplication::notify(&inNative, &inEvent);
   const lumcore::utility::StKeepAlive keepAlive(*window);
   switch (inEvent.type()) {
     case QEvent::MouseButtonPress:
@@ -152,6 +164,25 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
     default:
       return QApplication::notify(&inNative, &inEvent);
   }
+}
+
+bool EventGate::RouteForeign(QWindow& inNative, QEvent& inEvent) {
+  const auto hook = mForeignPressHook;
+  if (hook && inEvent.spontaneous() && IsPress(inEvent.type()) && !IsPassing(inNative) &&
+      !FindWindowOf(inNative)) {
+    const auto& mouse = static_cast<const QMouseEvent&>(inEvent);
+    const Qt::MouseButton button = mouse.button();
+    if (button == Qt::LeftButton || button == Qt::RightButton) {
+      const QPoint position = mouse.globalPosition().toPoint();
+      const ForeignPress press{button == Qt::LeftButton ? kMessageLeftDown : kMessageRightDown,
+                               lumcore::geom::PointT<int>(position.x(), position.y()),
+                               ModifiersFromQt(mouse.modifiers())};
+      bool swallowed = false;
+      RunGuarded([&] { swallowed = hook(press); });
+      if (swallowed) return true;
+    }
+  }
+  return QApplication::notify(&inNative, &inEvent);
 }
 
 bool EventGate::RouteWidget(QWidget& inWidget, QEvent& inEvent) {
@@ -189,8 +220,7 @@ bool EventGate::HandToQt(QObject& inReceiver, QEvent& inEvent, const OS_Event& i
 bool EventGate::HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEvent& inEvent) {
   // Qt keeps this press for itself and sends the double click next.
   if (IsPressOfDoubleClick(inEvent)) return QApplication::notify(&inNative, &inEvent);
-  const bool press =
-      inEvent.type() == QEvent::MouseButtonPress || inEvent.type() == QEvent::MouseButtonDblClick;
+  const bool press = IsPress(inEvent.type());
   CaptureState& capture = NodeManagerImpl().capture;
   OS_Event os = OSEventOf(inWindow.UI_GetHandle(), inWindow.GetPeer()->GetChromeHeight(), inEvent);
   bool handled = true;

@@ -70,6 +70,7 @@ class LUMUI_API EventGate : public QApplication {
   Application::PostEventStep mPostStep;
   Application::ErrorFunction mErrorFunction;
   std::function<bool(const KeyboardEvent&)> mShortcutClaim;
+  std::function<bool(const ForeignPress&)> mForeignPressHook;
   std::function<void(int)> mQuitFunction;
 
  private:
@@ -83,6 +84,7 @@ class LUMUI_API EventGate : public QApplication {
 
   bool Route(QObject* inReceiver, QEvent* inEvent);
   bool RouteWindow(QWindow& inWindow, QEvent& inEvent);
+  bool RouteForeign(QWindow& inWindow, QEvent& inEvent);
   bool RouteWidget(QWidget& inWidget, QEvent& inEvent);
   void WatchWidget(QWidget& inWidget, QEvent& inEvent);
   bool HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEvent& inEvent);
