@@ -10,6 +10,7 @@
 
 #include "hosts/RunningOutliner.h"
 #include "lumui/ui/Application.h"
+#include "outliner/KeyChord.h"
 
 namespace {
 
@@ -80,6 +81,32 @@ TEST(ScriptRun, WhatFailsIsAnExceptionOfItsStep) {
     SCOPED_TRACE(bad.script);
     RunningOutliner host("a b");
     EXPECT_EQ(RunScript(host, bad.script), bad.log);
+  }
+}
+
+TEST(KeyChords, NameTheKeysByNumbersToo) {
+  const struct {
+    const char* name;
+    unsigned key;  // 0 for no key
+    unsigned char modifiers;
+  } kCases[] = {
+      {"F12", 0x12, 0},
+      {"F24", 0x1E, 0},
+      {"F25", 0, 0},
+      {"Num0", 0xC0000030, 0},
+      {"Num10", 0, 0},
+      {"F01", 0, 0},
+      {"F", 0x80000046, 0},
+      {"Alt+Num9", 0xC0000039, 16},
+      {"Ctrl+NumPlus", 0xC000002B, 4},
+      {"Ctrl++", 0x8000002B, 4},
+  };
+  for (const auto& row : kCases) {
+    outliner::KeyChord chord;
+    EXPECT_EQ(outliner::ParseKeyChord(row.name, chord), row.key != 0) << row.name;
+    if (row.key == 0) continue;
+    EXPECT_EQ(chord.code.GetValue(true), row.key) << row.name;
+    EXPECT_EQ(chord.modifiers.GetBits(), row.modifiers) << row.name;
   }
 }
 
