@@ -9,9 +9,11 @@
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
 #include "lumcore/console/Console.h"
 #include "lumcore/debug/DebugDatabase.h"
 #include "lumcore/filesupport/Dir.h"
+#include "lumcore/filesupport/File.h"
 #include "lumcore/utility/MemoryTracker.h"
 #include "lumcore/xml/ParserFactory.h"
 #include "lumui/sharedui/LUMAboutDlog.h"
@@ -61,6 +63,17 @@ void Replace(T*& ioOwned, T* inNew) {
 template <class T>
 void Delete(T*& ioOwned) {
   delete std::exchange(ioOwned, nullptr);
+}
+
+// A defect in a file that only fault-finders write is told in the log and keeps nobody from
+// starting.
+void LoadDebugSwitches() {
+  try {
+    lumcore::debug::DebugDatabase::Instance().Load(
+        lumcore::filesupport::File(Dir::PrefDir(), "Debug.txt"));
+  } catch (const lumcore::config::Error& error) {
+    lumcore::console::ConsoleLogFile::WriteProblem(error.what());
+  }
 }
 
 }  // namespace
@@ -150,6 +163,7 @@ void AppBase::StartServices(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   mLastStage = kStageParserFactory;
   lumcore::xml::SetParserFactory(InitXMLParserFactory());
   mLastStage = kStageConsole;
+  LoadDebugSwitches();
   if (lumcore::debug::DebugDatabase::Instance().GetBoolean("Show Windows Console", false)) {
     lumcore::console::CreateStandardConsoleWindow();
   }
