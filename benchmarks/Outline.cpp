@@ -98,7 +98,7 @@ void ParseOnly(benchmark::State& ioState, const Workbench& inBench) {
 void Save(benchmark::State& ioState, const Workbench& inBench) {
   const auto document = OutlineDocument::Open(File(inBench.GetPath("read.opml")));
   for (auto _ : ioState)
-    document->SaveAs(File(inBench.GetPath("saved.opml")));
+    document->SaveAsFile(File(inBench.GetPath("saved.opml")));
   if (ReadBytes(inBench.GetPath("saved.opml")) != ReadBytes(inBench.GetPath("read.opml"))) {
     ioState.SkipWithError("the saved file is not the one that was read");
   }

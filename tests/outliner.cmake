@@ -1,6 +1,7 @@
 vek_test(outliner_tests
   SOURCES
     hosts/CommandFilesTest.cpp
+    hosts/DocumentsTest.cpp
     hosts/FileCheckTest.cpp
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
@@ -17,12 +18,12 @@ add_test(NAME outliner_program COMMAND ${CMAKE_COMMAND}
   -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/outliner_program
   -P ${CMAKE_CURRENT_SOURCE_DIR}/hosts/ProgramTest.cmake)
 set_tests_properties(outliner_program PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
-# Without arguments it tells its usage, by the system's language or the one that is asked for.
-add_test(NAME outliner_speaks_the_systems_language COMMAND vek_outliner)
-add_test(NAME outliner_speaks_the_language_asked_for COMMAND vek_outliner --language de_AT)
+# It tells its usage by the system's language or the one that is asked for.
+add_test(NAME outliner_speaks_the_systems_language COMMAND vek_outliner --help)
+add_test(NAME outliner_speaks_the_language_asked_for COMMAND vek_outliner --help --language de_AT)
 set_tests_properties(outliner_speaks_the_systems_language PROPERTIES
   ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=de_DE.UTF-8")
 set_tests_properties(outliner_speaks_the_language_asked_for PROPERTIES
   ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C")
 set_tests_properties(outliner_speaks_the_systems_language outliner_speaks_the_language_asked_for
-  PROPERTIES PASS_REGULAR_EXPRESSION "bearbeitet eine Gliederung")
+  PROPERTIES PASS_REGULAR_EXPRESSION "bearbeitet Gliederungen")

@@ -75,7 +75,7 @@ void AddContextKeys() {
       lumui::ui::KeyboardEvent::kActionKeyDown, TextContext().c_str(), false, true);
 }
 
-void LoadKeys(const File& inFile) {
+void LoadKeysFrom(const File& inFile) {
   KeyCommandManager::Get().LoadKeyMappings(inFile);
   AddContextKeys();
 }
@@ -113,8 +113,6 @@ CommandSystem::SyntheticIds::~SyntheticIds() {
 
 CommandSystem::CommandSystem(const CommandFiles& inFiles) : mFiles(inFiles) {
   LoadCommands(mFiles.commands);
-  KeyCommandManager::Init();
-  LoadKeys(mFiles.keys);
 }
 
 CommandSystem::~CommandSystem() {
@@ -122,10 +120,15 @@ CommandSystem::~CommandSystem() {
   CommandRegistry::Get().LoadFromBuffer(lumcore::UTF8String(), false);
 }
 
+void CommandSystem::LoadKeys() {
+  KeyCommandManager::Init();
+  LoadKeysFrom(mFiles.keys);
+}
+
 void CommandSystem::LoadUserKeys(const File& inFile) {
   UTF16String cause;
   try {
-    LoadKeys(inFile);
+    LoadKeysFrom(inFile);
     if (HasAnyKey()) return;
     cause = Text("$$$/outliner/Keys/None=@0: there is no key for any command of the outliner",
                  {ToUTF16(inFile.GetPath())});
@@ -133,7 +136,7 @@ void CommandSystem::LoadUserKeys(const File& inFile) {
     cause = error.GetText();
   }
   // Before the report: a box lets events through.
-  LoadKeys(mFiles.keys);
+  LoadKeysFrom(mFiles.keys);
   vek::uisupport::ReportError(
       Text("$$$/outliner/Keys/Fallback=@0. The outliner's own keys are used.", {cause}), 0, false);
 }

@@ -21,9 +21,9 @@ CommandFiles FindCommandFiles();
 // The name for key maps of what has the keyboard while a text is edited.
 const lumcore::UTF8String& TextContext();
 
-// Gives commands their names and keys, from the files, for as long as it lives: it fills the
-// framework's registry and key map, of which a process has one each, and leaves them as they were
-// before any host. One at a time.
+// Gives commands their names and then their keys, from the files, for as long as it lives: it fills
+// the framework's registry and key map, of which a process has one each, and leaves them as they
+// were before any host. One at a time.
 class CommandSystem {
  public:
   // Throws a config::Error "path: cause", also for a file that does not fit the host's commands:
@@ -33,6 +33,8 @@ class CommandSystem {
   CommandSystem(const CommandSystem&) = delete;
   CommandSystem& operator=(const CommandSystem&) = delete;
 
+  // Throws what reading the host's key map throws.
+  void LoadKeys();
   // Puts a user's keys in the place of the host's own. A map that cannot be read, or that has no
   // key for any command, is reported, and the host's keys stay.
   void LoadUserKeys(const lumcore::filesupport::File& inFile);

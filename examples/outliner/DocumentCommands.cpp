@@ -3,27 +3,37 @@
 
 #include "DocumentCommands.h"
 
-#include <utility>
-
 #include "OutlineDocument.h"
 #include "OutlineEdits.h"
 #include "OutlinerCommands.h"
 #include "RowEditor.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
+#include "vek/uisupport/CommandRegistry.h"
 #include "vek/undo/Deed.h"
 
 namespace outliner {
 
 using lumcore::UTF16String;
 
-DocumentCommands::DocumentCommands(OutlineDocument& inDocument, RowEditor& inEditor,
-                                   std::function<void()> inSave)
-    : mDocument(inDocument), mEditor(inEditor), mSave(std::move(inSave)) {
+namespace {
+
+// In the place of the last deed's name, which a menu would go on to show.
+UTF16String NameOf(int inCommand) {
+  const auto& registry = vek::uisupport::CommandRegistry::Get();
+  const auto found = registry.FindCommandByID(inCommand);
+  return found == registry.RegistryEnd() ? UTF16String() : found->second.GetDisplayName();
+}
+
+}  // namespace
+
+DocumentCommands::DocumentCommands(OutlineDocument& inDocument) : mDocument(inDocument) {
+  const auto always = [] { return true; };
   AddEdits();
   AddTextCommands();
   AddUndo();
-  mEntries[kCommandSave] = {[] { return true; }, [this] { mSave(); }, nullptr};
+  mEntries[kCommandSave] = {always, [this] { mDocument.Save(); }, nullptr};
+  mEntries[kCommandSaveAs] = {always, [this] { mDocument.SaveAs(); }, nullptr};
 }
 
 bool DocumentCommands::DoUnifiedDispatch(int inCommand,
@@ -35,7 +45,7 @@ bool DocumentCommands::DoUnifiedDispatch(int inCommand,
     *ioQuery->enabled = entry.isEnabled();
     if (entry.title) *ioQuery->title = entry.title();
   } else {
-    if (inCommand != kCommandGiveUpText) mEditor.Commit();
+    if (inCommand != kCommandGiveUpText) mDocument.GetEditor().Commit();
     if (entry.isEnabled()) entry.execute();
   }
   return true;
@@ -69,39 +79,41 @@ void DocumentCommands::AddEdits() {
 
 void DocumentCommands::AddTextCommands() {
   const auto always = [] { return true; };
-  mEntries[kCommandNewSibling] = {always, [this] { mEditor.Begin(edits::NewSibling(mDocument)); },
-                                  nullptr};
-  mEntries[kCommandNewChild] = {always, [this] { mEditor.Begin(edits::NewChild(mDocument)); },
-                                nullptr};
-  mEntries[kCommandEditText] = {[this] { return mDocument.GetSelectedRows().size() == 1; },
-                                [this] { mEditor.Begin(*mDocument.GetSelectedRows().front()); },
-                                nullptr};
-  mEntries[kCommandGiveUpText] = {[this] { return mEditor.IsActive(); },
-                                  [this] { mEditor.Cancel(); }, nullptr};
+  mEntries[kCommandNewSibling] = {
+      always, [this] { mDocument.GetEditor().Begin(edits::NewSibling(mDocument)); }, nullptr};
+  mEntries[kCommandNewChild] = {
+      always, [this] { mDocument.GetEditor().Begin(edits::NewChild(mDocument)); }, nullptr};
+  mEntries[kCommandEditText] = {
+      [this] { return mDocument.GetSelectedRows().size() == 1; },
+      [this] { mDocument.GetEditor().Begin(*mDocument.GetSelectedRows().front()); }, nullptr};
+  mEntries[kCommandGiveUpText] = {[this] { return mDocument.GetEditor().IsActive(); },
+                                  [this] { mDocument.GetEditor().Cancel(); }, nullptr};
 }
 
 // A text that is being typed is the newest edit already, though it is no deed yet: it is what Undo
 // takes back, and it leaves nothing to redo.
 void DocumentCommands::AddUndo() {
-  mEntries[kCommandUndo] = {[this] { return mEditor.IsModified() || edits::CanUndo(mDocument); },
-                            [this] { edits::Undo(mDocument); }, [this] { return UndoTitle(); }};
-  mEntries[kCommandRedo] = {[this] { return !mEditor.IsModified() && edits::CanRedo(mDocument); },
-                            [this] { edits::Redo(mDocument); }, [this] { return RedoTitle(); }};
+  mEntries[kCommandUndo] = {
+      [this] { return mDocument.GetEditor().IsModified() || edits::CanUndo(mDocument); },
+      [this] { edits::Undo(mDocument); }, [this] { return UndoTitle(); }};
+  mEntries[kCommandRedo] = {
+      [this] { return !mDocument.GetEditor().IsModified() && edits::CanRedo(mDocument); },
+      [this] { edits::Redo(mDocument); }, [this] { return RedoTitle(); }};
 }
 
 UTF16String DocumentCommands::UndoTitle() const {
-  if (mEditor.IsModified()) {
+  if (mDocument.GetEditor().IsModified()) {
     return lumcore::config::Localizer::Get()->GetLocalizedString(
         "$$$/outliner/Command/UndoTyping=Undo Typing");
   }
   const vek::undo::Deed* deed = mDocument.GetUndoer().CouldUndoDeed();
-  return deed ? deed->GetUndoDescription() : UTF16String();
+  return deed ? deed->GetUndoDescription() : NameOf(kCommandUndo);
 }
 
 UTF16String DocumentCommands::RedoTitle() const {
   const vek::undo::Deed* deed =
-      mEditor.IsModified() ? nullptr : mDocument.GetUndoer().CouldRedoDeed();
-  return deed ? deed->GetRedoDescription() : UTF16String();
+      mDocument.GetEditor().IsModified() ? nullptr : mDocument.GetUndoer().CouldRedoDeed();
+  return deed ? deed->GetRedoDescription() : NameOf(kCommandRedo);
 }
 
 }  // namespace outliner

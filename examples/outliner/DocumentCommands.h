@@ -12,17 +12,15 @@
 namespace outliner {
 
 class OutlineDocument;
-class RowEditor;
 
-// Answers for the commands that work on the document: edits, selection, undo and save. It stands
-// on the window's command handler while the document is open there.
+// Answers for the commands that work on a document: edits, selection, undo and save. The document
+// owns it; it stands on the application while the document is the current one.
 //
 // Every command here but the one that gives a text up ends the editing of a text first, so that
 // what was typed is part of the outline before anything else happens to it.
 class DocumentCommands final : public vek::uisupport::UnifiedDispatchCmdAttachment {
  public:
-  // All borrowed, and outlive this. inSave saves the document and throws what that throws.
-  DocumentCommands(OutlineDocument& inDocument, RowEditor& inEditor, std::function<void()> inSave);
+  explicit DocumentCommands(OutlineDocument& inDocument);
 
   bool DoUnifiedDispatch(int inCommand, vek::uisupport::CommandEnableQuery* ioQuery) override;
 
@@ -30,7 +28,7 @@ class DocumentCommands final : public vek::uisupport::UnifiedDispatchCmdAttachme
   struct Entry {
     std::function<bool()> isEnabled;
     std::function<void()> execute;
-    std::function<lumcore::UTF16String()> title;  // empty where the item's own text stands
+    std::function<lumcore::UTF16String()> title;  // none where the command's own name stands
   };
 
   void AddEdits();
@@ -40,8 +38,6 @@ class DocumentCommands final : public vek::uisupport::UnifiedDispatchCmdAttachme
   lumcore::UTF16String RedoTitle() const;
 
   OutlineDocument& mDocument;
-  RowEditor& mEditor;
-  std::function<void()> mSave;
   std::map<int, Entry> mEntries;
 };
 

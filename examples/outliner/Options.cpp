@@ -3,6 +3,9 @@
 
 #include "Options.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace outliner {
 
 namespace {
@@ -13,6 +16,7 @@ struct Switch {
 };
 
 constexpr Switch kTasks[] = {
+    {"--help", Options::kHelp},
     {"--list-commands", Options::kListCommands},
     {"--list-commands=markdown", Options::kWriteCommandPage},
     {"--check", Options::kCheck},
@@ -28,31 +32,38 @@ bool ReadTask(const std::string& inText, Options& ioOptions) {
 }
 
 bool IsComplete(const Options& inOptions) {
-  const bool onlyEdits = inOptions.isNew || !inOptions.script.empty();
+  const bool onlyEdits =
+      inOptions.isNew || !inOptions.script.empty() || !inOptions.settings.empty();
   switch (inOptions.task) {
     case Options::kEdit:
-      return !inOptions.file.empty();
+      return !inOptions.isNew || inOptions.files.size() == 1;
     case Options::kCheck:
-      return !onlyEdits;
+      return !onlyEdits && inOptions.files.size() <= 1;
     default:
-      return !onlyEdits && inOptions.file.empty();
+      return !onlyEdits && inOptions.files.empty();
   }
 }
 
 }  // namespace
 
 bool ReadOptions(int inCount, char** inArguments, Options& outOptions) {
+  const struct {
+    const char* name;
+    std::string& value;
+  } kValues[] = {{"--script", outOptions.script},
+                 {"--keys", outOptions.keys},
+                 {"--settings", outOptions.settings}};
   for (int argument = 1; argument < inCount; ++argument) {
     const std::string text = inArguments[argument];
-    const bool hasNext = argument + 1 < inCount && *inArguments[argument + 1] != '\0';
-    if (text == "--new") {
+    const auto* const value = std::find_if(std::begin(kValues), std::end(kValues),
+                                           [&](const auto& inRow) { return text == inRow.name; });
+    if (value != std::end(kValues)) {
+      if (argument + 1 == inCount || *inArguments[argument + 1] == '\0') return false;
+      value->value = inArguments[++argument];
+    } else if (text == "--new") {
       outOptions.isNew = true;
-    } else if (text == "--script" && hasNext) {
-      outOptions.script = inArguments[++argument];
-    } else if (text == "--keys" && hasNext) {
-      outOptions.keys = inArguments[++argument];
-    } else if (text.rfind("--", 0) != 0 && outOptions.file.empty()) {
-      outOptions.file = text;
+    } else if (text.rfind("--", 0) != 0) {
+      outOptions.files.push_back(text);
     } else if (!ReadTask(text, outOptions)) {
       return false;
     }

@@ -4,17 +4,19 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace outliner {
 
 // What the command line asks for. Empty texts were not given.
 struct Options {
-  enum Task { kEdit, kListCommands, kWriteCommandPage, kCheck };
+  enum Task { kEdit, kHelp, kListCommands, kWriteCommandPage, kCheck };
 
   Task task = kEdit;
-  std::string file;  // the outline; for a check, the command file
+  std::vector<std::string> files;  // the outlines; for a check, the command file
   std::string script;
   std::string keys;
+  std::string settings;  // a folder
   bool isNew = false;
 };
 

@@ -7,32 +7,50 @@
 #include <list>
 #include <utility>
 
+#include "DocumentCommands.h"
+#include "FileQuestions.h"
 #include "OpmlReader.h"
 #include "OpmlWriter.h"
+#include "RowEditor.h"
+#include "lumcore/utility/ScopedValue.h"
+#include "lumworkspace/workspace/TopLevelWindow.h"
+#include "vek/uisupport/MainWindowLookup.h"
 #include "vek/undo/ClearUndoStackDeed.h"
 
 namespace outliner {
 
 using lumcore::filesupport::File;
+using lumworkspace::workspace::TopLevelWindow;
 using vek::selection::Node;
+using vek::uisupport::Alert::Response;
 
 std::unique_ptr<OutlineDocument> OutlineDocument::Open(const File& inFile) {
   return std::make_unique<OutlineDocument>(ReadOpml(inFile), inFile);
 }
 
+OutlineDocument::OutlineDocument() : OutlineDocument(std::make_unique<OutlineTree>(), File()) {}
+
 OutlineDocument::OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File& inFile)
     : mTree(std::move(inTree)),
-      mFile(inFile),
-      mJunction(*mTree),
+      mJunction(mTree),
       mSelection(new vek::selection::Manager(&mJunction)),
       mUndoer(new vek::undo::MultiUndoer(kUndoLevels)),
+      mEditor(std::make_unique<RowEditor>(*this)),
+      mCommands(std::make_unique<DocumentCommands>(*this)),
       mSavedSerial(mUndoer->GetCurSerialNumber()) {
+  SetFile(inFile);
   mUndoer->SetHooks(this);
 }
 
 OutlineDocument::~OutlineDocument() {
   mUndoer->SetHooks(nullptr);
   mSelection->DeselectAll();
+}
+
+void OutlineDocument::SetFileFunctions(std::function<void(const File&)> inCheck,
+                                       std::function<void(const File&)> inTaken) {
+  mCheckFile = std::move(inCheck);
+  mFileTaken = std::move(inTaken);
 }
 
 std::vector<OutlineRow*> OutlineDocument::GetSelectedRows() const {
@@ -69,19 +87,84 @@ void OutlineDocument::DeselectForRemoval(const OutlineRow& inParent, std::size_t
   }
 }
 
-bool OutlineDocument::IsDirty() const {
-  return mSerialIsStale || mUndoer->GetCurSerialNumber() != mSavedSerial;
+bool OutlineDocument::IsPristine() const {
+  return GetProjectFile().GetPath().empty() && !IsDirty() && !mUndoer->CouldUndoDeed() &&
+         !mUndoer->CouldRedoDeed();
+}
+
+vek::uisupport::CommandAttachment* OutlineDocument::GetCommandAttachment() const {
+  return mCommands.get();
+}
+
+void OutlineDocument::Close() {
+  SetFileFunctions(nullptr, nullptr);
+  SetChangedFunction(nullptr);
+}
+
+bool OutlineDocument::DoIsDirty() const {
+  return mEditor->IsModified() || mSerialIsStale || mUndoer->GetCurSerialNumber() != mSavedSerial;
+}
+
+void OutlineDocument::SetDirty(bool inDirty) {
+  mSavedSerial = mUndoer->GetCurSerialNumber();
+  mSerialIsStale = inDirty;
+  Changed();
+}
+
+void OutlineDocument::Changed() {
+  if (mChanged) mChanged();
+}
+
+void OutlineDocument::LoadFromFile(const File& inFile) {
+  std::unique_ptr<OutlineTree> tree = ReadOpml(inFile);
+  mEditor->Cancel();
+  mSelection->DeselectAll();
+  mUndoer->PostDeed(std::auto_ptr<vek::undo::Deed>(new vek::undo::ClearUndoStackDeed));
+  mTree = std::move(tree);
+  SetFile(inFile);
+  SetDirty(false);
+}
+
+void OutlineDocument::SaveToFile(const File& inFile) {
+  inFile.ReplaceContents(WriteOpml(*mTree));
+  SetDirty(false);
 }
 
 void OutlineDocument::Save() {
-  SaveAs(mFile);
+  mEditor->Commit();
+  FileBasedDocument::Save();
 }
 
-void OutlineDocument::SaveAs(const File& inFile) {
-  inFile.ReplaceContents(WriteOpml(*mTree));
-  mFile = inFile;
-  mSavedSerial = mUndoer->GetCurSerialNumber();
-  mSerialIsStale = false;
+// A second request while the question stands is answered by the first.
+bool OutlineDocument::CanClose() {
+  if (mIsAsking) return false;
+  const lumcore::utility::StScopedValue<bool> asking(mIsAsking, true);
+  mEditor->Commit();
+  return FileBasedDocument::CanClose();
+}
+
+void OutlineDocument::SaveAs() {
+  auto* const window = dynamic_cast<TopLevelWindow*>(vek::uisupport::FindMainWindow());
+  const lumcore::UTF16String path = GetSaveFileNameFromDialog(window);
+  if (!path.empty()) SaveAsFile(File(path));
+}
+
+void OutlineDocument::SaveAsFile(const File& inFile) {
+  mEditor->Commit();
+  if (mCheckFile) mCheckFile(inFile);
+  SaveToFile(inFile);
+  SetFile(inFile);
+  Changed();
+  if (mFileTaken) mFileTaken(inFile);
+}
+
+lumcore::UTF16String OutlineDocument::GetSaveFileNameFromDialog(TopLevelWindow* inWindow) {
+  const File file = GetProjectFile();
+  return AskForFileToSave(file.GetPath().empty() ? GetTitle() : file.GetFullPath(), inWindow);
+}
+
+Response OutlineDocument::SaveBeforeCloseMessage() const {
+  return AskToSave(GetTitle());
 }
 
 // Forgetting the stack while deeds are undone leaves the undoer with the number of the newest of

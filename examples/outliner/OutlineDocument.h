@@ -4,33 +4,44 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "OutlineJunction.h"
 #include "OutlineTree.h"
 #include "lumcore/filesupport/File.h"
+#include "vek/document/FileBasedDocument.h"
 #include "vek/selection/Manager.h"
 #include "vek/undo/MultiUndoer.h"
 #include "vek/undo/MultiUndoerHooks.h"
 
 namespace outliner {
 
-// An open outline: its tree, what is selected in it, its edits and its file. All edits are deeds of
-// its undoer (OutlineEdits.h posts them), so that the dirty mark is a comparison of two numbers.
+class DocumentCommands;
+class RowEditor;
+
+// An open outline: its tree, what is selected in it, its edits, the text that is being typed, its
+// commands and its file. All edits are deeds of its undoer (OutlineEdits.h posts them), so that the
+// dirty mark is a comparison of two numbers.
 //
-// It owns tree, selection and undoer; others keep references of their own only while it lives. Who
-// listens to the selection or the undoer may call back into the document.
-class OutlineDocument final : private vek::undo::MultiUndoerHooks {
+// It owns all of these; others keep references of their own only while it lives. Who listens to the
+// selection or the undoer may call back into the document.
+class OutlineDocument final : public vek::document::FileBasedDocument,
+                              private vek::undo::MultiUndoerHooks {
  public:
+  using File = lumcore::filesupport::File;
+
   // The steps that can be undone, as the undoer counts its limit.
   static constexpr int kUndoLevels = 1000;
 
   // Throws what ReadOpml throws.
-  static std::unique_ptr<OutlineDocument> Open(const lumcore::filesupport::File& inFile);
+  static std::unique_ptr<OutlineDocument> Open(const File& inFile);
 
+  OutlineDocument();  // empty, without a file
   // inFile is where Save writes; it need not be there yet.
-  OutlineDocument(std::unique_ptr<OutlineTree> inTree, const lumcore::filesupport::File& inFile);
+  OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File& inFile);
   ~OutlineDocument() override;
   OutlineDocument(const OutlineDocument&) = delete;
   OutlineDocument& operator=(const OutlineDocument&) = delete;
@@ -39,6 +50,8 @@ class OutlineDocument final : private vek::undo::MultiUndoerHooks {
   vek::undo::MultiUndoer& GetUndoer() { return *mUndoer; }
   const vek::undo::MultiUndoer& GetUndoer() const { return *mUndoer; }
   vek::selection::Manager& GetSelection() { return *mSelection; }
+  RowEditor& GetEditor() { return *mEditor; }
+  DocumentCommands& GetCommands() { return *mCommands; }
 
   // In document order.
   std::vector<OutlineRow*> GetSelectedRows() const;
@@ -49,16 +62,42 @@ class OutlineDocument final : private vek::undo::MultiUndoerHooks {
   // get its address. If one of these (or one below them) is selected, everything is deselected.
   void DeselectForRemoval(const OutlineRow& inParent, std::size_t inIndex, std::size_t inCount);
 
-  const lumcore::filesupport::File& GetFile() const { return mFile; }
-  // Whether the data differs from what was last saved.
-  bool IsDirty() const;
+  // Whether nothing was ever done to it: new, without a file and without an edit.
+  bool IsPristine() const;
+
+  // Called after each change of what is typed, of the file and of the dirty mark, but by a deed.
+  void SetChangedFunction(std::function<void()> inChanged) { mChanged = std::move(inChanged); }
+  // Called before another file becomes the document's, and refuses it by a throw; and after.
+  void SetFileFunctions(std::function<void(const File&)> inCheck,
+                        std::function<void(const File&)> inTaken);
+
+  bool HasAttachment() const override { return true; }
+  vek::uisupport::CommandAttachment* GetCommandAttachment() const override;
+  void Close() override;
+  // For a document that is not shown yet. The file becomes its own. After a throw of what ReadOpml
+  // throws all is as it was.
+  void LoadFromFile(const File& inFile) override;
   // Replaces the file in one step. After a throw of FileError the old file is as it was, and the
   // document as dirty as it was.
-  void Save();
-  // The file becomes the document's own once it is written.
-  void SaveAs(const lumcore::filesupport::File& inFile);
+  void SaveToFile(const File& inFile) override;
+  // Both commit what is being typed.
+  void Save() override;
+  bool CanClose() override;
+  void SaveAs() override;
+  // The same without a question. A file that cannot be written leaves the document its own.
+  void SaveAsFile(const File& inFile);
+  void SetDirty(bool inDirty) override;
+
+ protected:
+  lumcore::UTF16String GetSaveFileNameFromDialog(
+      lumworkspace::workspace::TopLevelWindow* inWindow) override;
+  vek::uisupport::Alert::Response SaveBeforeCloseMessage() const override;
 
  private:
+  // Whether the data, what is being typed included, differs from what was last saved.
+  bool DoIsDirty() const override;
+  void Changed();
+
   void WillPostDeed(vek::undo::Deed* inDeed) override;
   void DidPostDeed(vek::undo::Deed*) override {}
   void WillUndoDeed(vek::undo::Deed*) override {}
@@ -67,12 +106,17 @@ class OutlineDocument final : private vek::undo::MultiUndoerHooks {
   void DidRedoDeed(vek::undo::Deed*) override {}
 
   std::unique_ptr<OutlineTree> mTree;
-  lumcore::filesupport::File mFile;
   OutlineJunction mJunction;
   boost::intrusive_ptr<vek::selection::Manager> mSelection;
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
+  std::unique_ptr<RowEditor> mEditor;
+  std::unique_ptr<DocumentCommands> mCommands;
+  std::function<void()> mChanged;
+  std::function<void(const File&)> mCheckFile;
+  std::function<void(const File&)> mFileTaken;
   int mSavedSerial;
   bool mSerialIsStale = false;  // until the next save: the number no longer names the data's state
+  bool mIsAsking = false;
 };
 
 }  // namespace outliner

@@ -8,12 +8,12 @@
 namespace outliner {
 
 std::list<vek::selection::Node*> OutlineJunction::AllSelectables() {
-  const auto& lines = mTree.GetLines();
+  const auto& lines = mTree->GetLines();
   return {lines.begin(), lines.end()};
 }
 
 std::list<vek::selection::Node*> OutlineJunction::DefaultSelectables() {
-  const auto& lines = mTree.GetLines();
+  const auto& lines = mTree->GetLines();
   if (lines.empty()) return {};
   return {lines.front()};
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <list>
+#include <memory>
 
 #include "vek/selection/Junction.h"
 
@@ -15,14 +16,15 @@ class OutlineTree;
 // borrowed and outlives it.
 class OutlineJunction final : public vek::selection::Junction {
  public:
-  explicit OutlineJunction(OutlineTree& inTree) : mTree(inTree) {}
+  // The document's own, which may be replaced by another.
+  explicit OutlineJunction(const std::unique_ptr<OutlineTree>& inTree) : mTree(inTree) {}
 
   std::list<vek::selection::Node*> AllSelectables() override;
   // The first row.
   std::list<vek::selection::Node*> DefaultSelectables() override;
 
  private:
-  OutlineTree& mTree;
+  const std::unique_ptr<OutlineTree>& mTree;
 };
 
 }  // namespace outliner

@@ -21,6 +21,7 @@
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
 #include "vek/uisupport/CommandHandler.h"
+#include "vek/uisupport/KeyCommandManager.h"
 
 namespace outliner {
 
@@ -47,8 +48,8 @@ const UTF16String& CommentName() {
 
 }  // namespace
 
-OutlineView::OutlineView(OutlineDocument& inDocument, RowEditor& inEditor)
-    : mDocument(&inDocument), mEditor(&inEditor) {
+OutlineView::OutlineView(OutlineDocument& inDocument)
+    : mDocument(&inDocument), mEditor(&inDocument.GetEditor()) {
   inDocument.GetSelection().GetSelectionChangeNotifier()->AddListener(this);
   inDocument.GetUndoer().GetItemsChangedNotifier()->AddListener(this);
 }
@@ -134,12 +135,30 @@ OutlineRow* OutlineView::RowAt(float inY) const {
 }
 
 bool OutlineView::UI_DoMouseEvent(lumui::ui::UI_Node*, const MouseEvent& inEvent) {
-  const bool isPress =
-      inEvent.GetAction() == MouseEvent::kActionPress && inEvent.IsButton(MouseEvent::kLeftButton);
-  if (!isPress || !mDocument) return false;
+  if (inEvent.GetAction() != MouseEvent::kActionPress || !mDocument) return false;
+  const bool isRight = inEvent.IsButton(MouseEvent::kRightButton);
+  if (!isRight && !inEvent.IsButton(MouseEvent::kLeftButton)) return false;
   UI_SetKeyboardFocus(lumui::ui::kFocusPointer);
-  Press(inEvent);
+  if (isRight) {
+    OpenMenu(inEvent);
+  } else {
+    Press(inEvent);
+  }
   return true;
+}
+
+// A row that is selected already stays so with all others: the menu is for them together.
+void OutlineView::OpenMenu(const MouseEvent& inEvent) {
+  mEditor->Commit();
+  OutlineRow* const row = RowAt(inEvent.GetPosition().y);
+  if (row && !mDocument->IsSelected(*row)) mDocument->SelectRows({row});
+  if (!mOpenMenu) return;
+  const auto& window = UI_GetWindowNode()->UI_GetLocalRectF();
+  lumcore::geom::PointT<int> place(static_cast<int>(inEvent.GetPosition().x),
+                                   static_cast<int>(inEvent.GetPosition().y));
+  if (mScrollView) place.y -= static_cast<int>(mScrollView->GetOffset().y);
+  UI_LocalToGlobal(place);
+  mOpenMenu({place.x + static_cast<int>(window.x), place.y + static_cast<int>(window.y)});
 }
 
 void OutlineView::Press(const MouseEvent& inEvent) {
@@ -209,11 +228,17 @@ void OutlineView::UI_FocusChanged(int inReason) {
   if (!mDocument) return;
   UI_InvalidateAll();
   if (!UI_HasKeyboardFocus()) {
+    // The release of a key that is held now goes to somebody else.
+    vek::uisupport::KeyCommandManager::Get().RouteEndHoldCommand();
     mEditor->Commit();
     return;
   }
-  auto* handler = dynamic_cast<vek::uisupport::CommandHandler*>(UI_GetWindowNode());
-  if (handler) handler->SetAsCurrentCommandHandler(false);
+  for (UI_Node* node = UI_GetParentNode(); node; node = node->UI_GetParentNode()) {
+    if (auto* const handler = dynamic_cast<vek::uisupport::CommandHandler*>(node)) {
+      handler->SetAsCurrentCommandHandler(false);
+      return;
+    }
+  }
 }
 
 void OutlineView::UI_SizeChanged(const Rect& inRect) {

@@ -4,6 +4,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <utility>
 
 #include "OutlineRow.h"
 #include "RowPainter.h"
@@ -26,20 +28,24 @@ class RowEditor;
 // selection and typing. Keys that are not for a text it leaves to the window. It draws only the
 // rows that the damage touches, so that the length of the outline does not matter.
 //
-// It belongs to its parent node. Document and editor are borrowed until Detach; behind that the
-// view is blank and deaf.
+// It belongs to its parent node. The document is borrowed until Detach; behind that the view is
+// blank and deaf.
 class OutlineView final
     : public lumui::ui::UI_SubView,
       private vek::messaging::Listener<const vek::selection::SelectionChangeMessage&>,
       private vek::messaging::Listener<const vek::undo::ItemsChangedMsg&> {
  public:
-  OutlineView(OutlineDocument& inDocument, RowEditor& inEditor);
+  explicit OutlineView(OutlineDocument& inDocument);
   void Detach();
 
   // The scroll view that this is the content of.
   void SetScrollView(lumui::controls::UI_ScrollView* inScrollView);
   // Scrolls as little as brings the row into view.
   void ShowRow(const OutlineRow& inRow);
+  // Opened by a press of the right button, with a place on the screen; what is under the pointer is
+  // selected then.
+  using MenuFunction = std::function<void(const lumcore::geom::PointT<int>&)>;
+  void SetMenuFunction(MenuFunction inOpenMenu) { mOpenMenu = std::move(inOpenMenu); }
   // The row that an edit begins in or ends in looks different.
   void EditorChanged();
 
@@ -64,11 +70,13 @@ class OutlineView final
   void InvalidateRow(const OutlineRow& inRow);
   void UpdateContentSize();
   OutlineRow* RowAt(float inY) const;  // null beside the rows
+  void OpenMenu(const lumui::ui::MouseEvent& inEvent);
   void Press(const lumui::ui::MouseEvent& inEvent);
   void SelectWithMouse(OutlineRow& inRow, lumui::ui::ModifierKeys inModifiers);
 
   OutlineDocument* mDocument;
-  RowEditor* mEditor;
+  RowEditor* mEditor;  // the document's
+  MenuFunction mOpenMenu;
   lumui::controls::UI_ScrollView* mScrollView = nullptr;
   RowPainter mPainter;
   // Where a range by Shift and click begins; 0 once anything but a click has changed the selection.

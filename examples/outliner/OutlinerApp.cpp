@@ -3,69 +3,231 @@
 
 #include "OutlinerApp.h"
 
-#include <utility>
-
+#include "DocumentFrame.h"
+#include "OutlineDocument.h"
+#include "OutlineWindow.h"
 #include "OutlinerCommands.h"
+#include "OutlinerMenus.h"
 #include "Reports.h"
-#include "lumui/ui/Application.h"
-#include "vek/uisupport/KeyCommandManager.h"
-#include "vek/uisupport/MainWindowLookup.h"
+#include "SettingsFile.h"
+#include "lumcore/config/CatalogueLocalizer.h"
+#include "lumcore/config/ErrorManager.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/filesupport/FileError.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumcore/xml/ParserFactory.h"
+#include "lumui/ui/ModuleHandle.h"
+#include "vek/document/DocumentTypeInfo.h"
+#include "vek/uisupport/ReportError.h"
 
+// The application's life cycle. Its documents are in OutlinerDocuments.cpp.
 namespace outliner {
 
 using lumcore::UTF16String;
+using lumcore::utility::ToUTF16;
 
 namespace {
 
-bool HasCommand(const lumui::ui::KeyboardEvent& inEvent) {
-  bool endedHold = false;
-  return vek::uisupport::KeyCommandManager::Get().GetCommandIdFromKeyEvent(inEvent, endedHold) != 0;
+constexpr int kWidth = 900;
+constexpr int kHeight = 640;
+constexpr int kMenuBar = 1;
+constexpr int kRecentFiles = 10;
+
+UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
 }  // namespace
 
-OutlinerApp::OutlinerApp(std::function<void()> inQuit) : mQuit(std::move(inQuit)) {
-  SetDefaultCommandHandler(this);
-  vek::uisupport::SetMainWindowLookup([this] { return FindOpenWindow(); });
-  auto* const application = lumui::ui::Application::Get();
-  application->SetErrorFunction(&ReportFailure);
-  application->SetShortcutClaim(&HasCommand);
+OutlinerApp::OutlinerApp(const Options& inOptions) : mOptions(inOptions) {
+  using vek::document::DocumentTypeInfo;
+  const boost::intrusive_ptr<DocumentTypeInfo> type(new DocumentTypeInfo(
+      [](const DocumentTypeInfo&) { return new OutlineDocument; }, ToUTF16("outliner.outline"),
+      Localized("$$$/outliner/Files/Outlines=Outlines (OPML)")));
+  type->ExtensionPushBack(ToUTF16("opml"));
+  GetDocumentFactory().RegisterDocumentType(type);
+  SetMaximumRecentFiles(kRecentFiles);
+  AddAttachment(&mCommands);
 }
 
 OutlinerApp::~OutlinerApp() {
-  auto* const application = lumui::ui::Application::Get();
-  application->SetShortcutClaim(nullptr);
-  application->SetErrorFunction(nullptr);
-  vek::uisupport::SetMainWindowLookup({});
+  RemoveAttachment(&mCommands);
 }
 
-OutlineWindow* OutlinerApp::FindOpenWindow() const {
-  return mWindow && mWindow->UI_GetHandle() ? mWindow.get() : nullptr;
-}
-
-OutlineWindow& OutlinerApp::Show(std::unique_ptr<OutlineDocument> inDocument) {
-  mWindow.reset(new OutlineWindow(std::move(inDocument), this));
-  mWindow->SetClosedFunction(mQuit);
-  mWindow->SetAsCurrentCommandHandler(true);
-  mWindow->UI_Activate();
-  mWindow->FocusRows();
-  return *mWindow;
-}
-
-bool OutlinerApp::DoHandleCommand(int inCommand) {
-  if (inCommand != kCommandQuit) return false;
-  if (!FindOpenWindow()) {
-    mQuit();
-  } else if (mWindow->MayClose()) {
-    mWindow->UI_DoClose();
+void OutlinerApp::Start() {
+  vek::app::AppInitArgs args;
+  args.resourceInstance = lumui::ui::ModuleOfAddress(reinterpret_cast<void*>(&ReportFailure));
+  args.applicationInstance = args.resourceInstance;
+  args.windowClassName = L"outliner";
+  args.menuResourceID = kMenuBar;
+  args.iconResourceID = 0;
+  args.showMainWindow = false;  // not before it has its size and its nodes
+  if (!Initialize(args, lumcore::config::FindProgramLocalizationDir("outliner"))) {
+    lumcore::config::ThrowError("$$$/outliner/App/NoWindow=the main window could not be made");
   }
+}
+
+void OutlinerApp::End() {
+  CloseAnyOpenDocuments();
+  Terminate();
+}
+
+lumui::ui::OS_Window* OutlinerApp::FindMainWindow() const {
+  return GetWorkspace() ? GetWorkspace()->GetMainTopLevelWindow() : nullptr;
+}
+
+lumcore::config::ErrorManager* OutlinerApp::InitErrorManager(vek::app::AppInitArgs&) {
+  return new lumcore::config::ErrorManager(&ReportFailure);
+}
+
+lumcore::config::Localizer* OutlinerApp::InitLocalizer(vek::app::AppInitArgs&) {
+  return new lumcore::config::CatalogueLocalizer({"outliner"});
+}
+
+std::auto_ptr<lumcore::xml::DocParserFactory> OutlinerApp::InitXMLParserFactory() {
+  return std::auto_ptr<lumcore::xml::DocParserFactory>(new lumcore::xml::DocParserFactory);
+}
+
+lumworkspace::workspace::Workspace* OutlinerApp::InitWorkspace(vek::app::AppInitArgs&) {
+  return new OutlineWorkspace;
+}
+
+void OutlinerApp::LoadDefaultTheme(vek::app::AppInitArgs&) {}
+
+UTF16String OutlinerApp::GetClientName() {
+  return ToUTF16("outliner");
+}
+
+UTF16String OutlinerApp::GetClientVersion() {
+  return ToUTF16(OUTLINER_VERSION);
+}
+
+UTF16String OutlinerApp::GetClientInternalVersion() {
+  return GetClientVersion();
+}
+
+UTF16String OutlinerApp::GetCompanyName() {
+  return ToUTF16("vek");
+}
+
+UTF16String OutlinerApp::GetClientBuildNumber() {
+  return {};
+}
+
+UTF16String OutlinerApp::GetAppPrefsDir() {
+  return ToUTF16(mOptions.settingsFolder);
+}
+
+void OutlinerApp::RegisterApplicationCommands() {
+  mCommandSystem = std::make_unique<CommandSystem>(mOptions.files);
+  AutoDisableUserCmds(kCommandsBegin);
+}
+
+// The registry is loaded by now, which a key map takes its commands from.
+bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
+  mCommandSystem->LoadKeys();
+  if (!mOptions.keys.empty()) mCommandSystem->LoadUserKeys(File(mOptions.keys));
+  if (!MultiDocApplication::InitApplication(inArgs)) return false;
+  BuildFrame();
   return true;
 }
 
-bool OutlinerApp::DoCommandEnabled(int inCommand, bool& ioEnabled, bool&, UTF16String&) {
-  if (inCommand != kCommandQuit) return false;
-  ioEnabled = true;
-  return true;
+void OutlinerApp::BuildFrame() {
+  DocumentFrame::Functions functions;
+  functions.show = [this](OutlineDocument& inDocument) { ShowOutline(inDocument); };
+  functions.close = [this](OutlineDocument& inDocument) { CloseOutline(inDocument); };
+  functions.openRowMenu = [this](const auto& inPlace) {
+    mMenus->OpenRowMenu(*FindMainWindow(), inPlace);
+  };
+  mFrame.reset(new DocumentFrame(functions));
+  auto& window = static_cast<OutlineWindow&>(*FindMainWindow());
+  window.SetContent(mFrame);
+  window.UI_SetSize(kWidth, kHeight);
+  mFrame->ShowState();
+  window.UI_Activate();
+}
+
+// The framework has written the settings before, without the recent files of this session.
+void OutlinerApp::TerminateApplication() {
+  MultiDocApplication::TerminateApplication();
+  SaveAppSettings();
+  mFrame.reset();
+  mMenus.reset();
+  mCommandSystem.reset();
+}
+
+void OutlinerApp::MenubarCreateHook(HMENU inMenubar) {
+  mMenus = std::make_unique<OutlinerMenus>();
+  mMenus->Build(inMenubar);
+}
+
+void OutlinerApp::DoBeforeMenuPopup(HMENU inMenu) {
+  mMenus->ListRecentFiles(inMenu, GetRecentFiles());
+  std::vector<UTF16String> titles;
+  for (const OutlineDocument* document : GetOutlines())
+    titles.push_back(DocumentFrame::TabTitleOf(*document));
+  mMenus->ListDocuments(inMenu, titles);
+}
+
+void OutlinerApp::RebuildMenuState(HMENU inMenu) {
+  MultiDocApplication::RebuildMenuState(inMenu);
+  OutlinerMenus::SetMnemonics(inMenu);
+}
+
+// A file that cannot be understood is kept under another name for whoever wrote it, and the program
+// starts as if there were none. One that cannot be read at all is left alone, also at the end.
+void OutlinerApp::LoadAppSettings() {
+  const File file(lumcore::filesupport::Dir::PrefDir(),
+                  lumcore::utility::ToStdString(GetAppSettingsFileName()));
+  try {
+    try {
+      MultiDocApplication::LoadAppSettings();
+    } catch (const lumcore::filesupport::FileError&) {
+      throw;
+    } catch (const lumcore::config::Error& error) {
+      const File kept = SetAside(file);
+      vek::uisupport::ReportError(
+          lumcore::utility::ReplaceInString(
+              Localized("$$$/outliner/Settings/Defective=@0. The settings begin anew; the file is "
+                        "now @1."),
+              {error.GetText(), ToUTF16(kept.GetPath())}),
+          0, true);
+    }
+    mSettingsAreRead = true;
+  } catch (const lumcore::filesupport::FileError& error) {
+    vek::uisupport::ReportError(
+        lumcore::utility::ReplaceInString(
+            Localized("$$$/outliner/Settings/Unreadable=@0. Settings are not kept this time."),
+            {error.GetText()}),
+        0, true);
+  }
+}
+
+// What cannot be written must not keep the program from ending.
+void OutlinerApp::SaveAppSettings() {
+  if (!mSettingsAreRead) return;
+  try {
+    MultiDocApplication::SaveAppSettings();
+  } catch (...) {  // the user hears of it, once
+    mSettingsAreRead = false;
+    ReportFailure(std::current_exception());
+  }
+}
+
+// The system may end the process as soon as it has been told.
+void OutlinerApp::EndEventLoopDuringSessionEnd() {
+  SaveDefaultWorkSpace();
+  SyncMRUList();
+  SaveAppSettings();
+  MultiDocApplication::EndEventLoopDuringSessionEnd();
+}
+
+bool OutlinerApp::DoHandleCommand(int) {
+  return false;
+}
+
+bool OutlinerApp::DoCommandEnabled(int, bool&, bool&, UTF16String&) {
+  return false;
 }
 
 }  // namespace outliner

@@ -4,37 +4,114 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
-#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
-#include "OutlineWindow.h"
-#include "vek/uisupport/CommandHandler.h"
+#include "ApplicationCommands.h"
+#include "CommandSystem.h"
+#include "lumcore/filesupport/File.h"
+#include "vek/app/MultiDocApplication.h"
+
+namespace lumui::ui {
+class OS_Window;
+}
 
 namespace outliner {
 
-// The host's part of the application: the end of every command chain and the owner of the window.
-// It reports what handlers let out, and claims the keys of the key map from the menus' mnemonics.
-// One at a time, made behind the application object of the window system and gone before it.
-class OutlinerApp final : public vek::uisupport::CommandHandler {
+class DocumentFrame;
+class OutlineDocument;
+class OutlinerMenus;
+
+// The application: its hooks for the framework, and its documents. One at a time, made behind the
+// application object of the window system and gone before it:
+//
+//   OutlinerApp app(options);
+//   app.Start(); app.OpenOutline(file); app.RunEventLoop(); app.End();
+//
+// Settings are written only after they were read, so that a start that fails overwrites none.
+class OutlinerApp final : public vek::app::MultiDocApplication {
  public:
-  // inQuit is called when the last window has closed.
-  explicit OutlinerApp(std::function<void()> inQuit);
+  using File = lumcore::filesupport::File;
+
+  struct Options {
+    CommandFiles files;
+    std::string keys;            // a user's key map; empty for none
+    std::string settingsFolder;  // empty for the system's place for the user's settings
+  };
+
+  explicit OutlinerApp(const Options& inOptions);
   ~OutlinerApp() override;
 
-  // Shows the document in a window, in place of one that has closed.
-  OutlineWindow& Show(std::unique_ptr<OutlineDocument> inDocument);
-  OutlineWindow* GetWindow() { return mWindow.get(); }  // null before Show
+  // Throws what a stage of the start throws, or an Error where there is no window. End is to be
+  // called in any case. Documents that are open then are closed without a question.
+  void Start();
+  void End();
+
+  // A new outline without a file, which becomes the current one.
+  OutlineDocument& NewOutline();
+  // Makes the document current that has the file already, or else reads it; throws what that
+  // throws. A pristine document gives way to it.
+  OutlineDocument& OpenOutline(const File& inFile);
+  // A new outline that is written to the file when it is saved. Throws for a file that is there.
+  OutlineDocument& BeginOutline(const File& inFile);
+  void ShowOutline(OutlineDocument& inDocument);
+  // Each asks about changes. False when something has stayed open.
+  bool CloseOutline(OutlineDocument& inDocument);
+  bool CloseAllOutlines();
+
+  OutlineDocument* GetOutline() const;  // the current one, or null
+  std::vector<OutlineDocument*> GetOutlines() const;
+  std::vector<lumcore::UTF16String> GetRecentFiles() const;      // most recent first
+  CommandSystem& GetCommandSystem() { return *mCommandSystem; }  // from Start to End
+  lumui::ui::OS_Window* FindMainWindow() const;                  // null while there is none
 
  protected:
+  lumcore::config::ErrorManager* InitErrorManager(vek::app::AppInitArgs&) override;
+  lumcore::config::Localizer* InitLocalizer(vek::app::AppInitArgs&) override;
+  std::auto_ptr<lumcore::xml::DocParserFactory> InitXMLParserFactory() override;
+  lumworkspace::workspace::Workspace* InitWorkspace(vek::app::AppInitArgs&) override;
+  void LoadDefaultTheme(vek::app::AppInitArgs&) override;
+  lumcore::UTF16String GetClientName() override;
+  lumcore::UTF16String GetClientVersion() override;
+  lumcore::UTF16String GetClientInternalVersion() override;
+  lumcore::UTF16String GetCompanyName() override;
+  lumcore::UTF16String GetClientBuildNumber() override;
+  bool UseCustomPrefsDir() const override { return !mOptions.settingsFolder.empty(); }
+  lumcore::UTF16String GetAppPrefsDir() override;
+
+  void OnWorkspaceReady(lumworkspace::workspace::Workspace*) override {}
+  void RegisterApplicationCommands() override;
+  bool InitApplication(vek::app::AppInitArgs& inArgs) override;
+  void TerminateApplication() override;
+  void MenubarCreateHook(HMENU inMenubar) override;
+  void DoBeforeMenuPopup(HMENU inMenu) override;
+  void LoadAppSettings() override;
+  void SaveAppSettings() override;
+  bool DoAppCanQuit() override;
+  void EndEventLoopDuringSessionEnd() override;
+
   bool DoHandleCommand(int inCommand) override;
   bool DoCommandEnabled(int inCommand, bool& ioEnabled, bool& ioChecked,
                         lumcore::UTF16String& ioTitle) override;
 
- private:
-  OutlineWindow* FindOpenWindow() const;  // null when there is none, or it has closed
+ public:
+  void RebuildMenuState(HMENU inMenu) override;
 
-  std::function<void()> mQuit;
-  boost::intrusive_ptr<OutlineWindow> mWindow;
+ private:
+  OutlineDocument& Add(std::unique_ptr<OutlineDocument> inDocument);
+  std::unique_ptr<OutlineDocument> Make(const File& inFile);
+  OutlineDocument* FindOutline(const File& inFile) const;  // null where none has it
+  void CheckFileOf(const OutlineDocument& inDocument, const File& inFile) const;
+  void BuildFrame();
+
+  Options mOptions;
+  std::unique_ptr<CommandSystem> mCommandSystem;
+  ApplicationCommands mCommands{*this};
+  std::unique_ptr<OutlinerMenus> mMenus;
+  boost::intrusive_ptr<DocumentFrame> mFrame;
+  bool mSettingsAreRead = false;
+  bool mIsAskingToQuit = false;
 };
 
 }  // namespace outliner

@@ -26,7 +26,21 @@ enum Command : int {
   kCommandClose,
   kCommandQuit,
   kCommandGiveUpText,
+  kCommandNew,
+  kCommandOpen,
+  kCommandSaveAs,
+  kCommandCloseAll,
+  kCommandNextDocument,
+  kCommandPreviousDocument,
+  kCommandAbout,
   kCommandsEnd,
+
+  // Menu items that have neither a name nor keys: the recent files and the open documents, in the
+  // order of their menus. Menus send no more than 16 bits of an id.
+  kRecentFilesBegin = 2000,
+  kRecentFilesEnd = 2050,
+  kDocumentsBegin = 2100,
+  kDocumentsEnd = 2600,
 };
 
 constexpr bool IsOwnCommand(int inCommand) {

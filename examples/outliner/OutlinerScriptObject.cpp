@@ -7,12 +7,16 @@
 #include <string>
 
 #include "KeyChord.h"
-#include "OutlineWindow.h"
+#include "OutlineDocument.h"
+#include "OutlinerApp.h"
 #include "ScriptedBoxes.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/testing/Menus.h"
 #include "lumui/testing/SyntheticInput.h"
+#include "lumui/ui/Application.h"
+#include "lumui/ui/OS_Window.h"
 
 namespace outliner {
 
@@ -24,6 +28,7 @@ using lumcore::utility::ToUTF8;
 using lumscripting::ScriptParameter;
 using lumscripting::ScriptType;
 using lumscripting::ScriptValue;
+using lumui::ui::OS_Window;
 
 namespace {
 
@@ -53,7 +58,7 @@ ScriptParameter Parameter(const char* inName, ScriptType inType, const char* inD
   return {ToUTF16(inName), inType, ToUTF8(inDescription)};
 }
 
-void TapKey(OutlineWindow& ioWindow, const UTF16String& inName) {
+void TapKey(OS_Window& ioWindow, const UTF16String& inName) {
   KeyChord chord;
   if (!ParseKeyChord(ToStdString(inName), chord)) {
     Fail("$$$/outliner/Script/Key=\"@0\" is no key", {inName});
@@ -71,7 +76,20 @@ lumui::ui::ModifierKeys ModifiersOf(const ScriptValue& inValue) {
   return chord.modifiers;
 }
 
-lumui::testing::Position PlaceOf(OutlineWindow& inWindow, const Arguments& inArguments) {
+lumui::testing::MenuPath MenuPathOf(const ScriptValue& inValue) {
+  const UTF16String separator = ToUTF16(" > ");
+  const UTF16String& text = TextOf(inValue);
+  lumui::testing::MenuPath path;
+  std::size_t from = 0;
+  for (auto at = text.find(separator); at != text.npos; at = text.find(separator, from)) {
+    path.push_back(text.substr(from, at - from));
+    from = at + separator.size();
+  }
+  path.push_back(text.substr(from));
+  return path;
+}
+
+lumui::testing::Position PlaceOf(OS_Window& inWindow, const Arguments& inArguments) {
   const double x = std::get<double>(inArguments.at(0));
   const double y = std::get<double>(inArguments.at(1));
   const auto& rect = inWindow.UI_GetLocalRectF();
@@ -83,18 +101,18 @@ lumui::testing::Position PlaceOf(OutlineWindow& inWindow, const Arguments& inArg
   return {static_cast<float>(x), static_cast<float>(y)};
 }
 
-void Click(OutlineWindow& ioWindow, const Arguments& inArguments) {
+void Click(OS_Window& ioWindow, const Arguments& inArguments) {
   lumui::testing::ClickMouse(ioWindow, PlaceOf(ioWindow, inArguments),
                              lumui::ui::PointerEvent::kLeftButton, ModifiersOf(inArguments.at(2)));
 }
 
-void DoubleClick(OutlineWindow& ioWindow, const Arguments& inArguments) {
+void DoubleClick(OS_Window& ioWindow, const Arguments& inArguments) {
   lumui::testing::DoubleClickMouse(ioWindow, PlaceOf(ioWindow, inArguments),
                                    lumui::ui::PointerEvent::kLeftButton,
                                    ModifiersOf(inArguments.at(2)));
 }
 
-void SetSize(OutlineWindow& ioWindow, int inWidth, int inHeight) {
+void SetSize(OS_Window& ioWindow, int inWidth, int inHeight) {
   if (inWidth < 1 || inHeight < 1 || inWidth > kMaxSize || inHeight > kMaxSize) {
     Fail("$$$/outliner/Script/Size=a window cannot have the size @0 x @1",
          {Number(inWidth), Number(inHeight)});
@@ -111,9 +129,9 @@ UTF16String SelectedIndexes(OutlineDocument& inDocument) {
 
 }  // namespace
 
-OutlinerScriptObject::OutlinerScriptObject(OutlineWindow& inWindow, StScriptedBoxes& ioBoxes,
-                                           std::ostream& outOutput)
-    : mWindow(inWindow), mBoxes(ioBoxes), mOutput(outOutput) {
+OutlinerScriptObject::OutlinerScriptObject(OutlinerApp& ioApp, const bool& inHasQuit,
+                                           StScriptedBoxes& ioBoxes, std::ostream& outOutput)
+    : mApp(ioApp), mHasQuit(inHasQuit), mBoxes(ioBoxes), mOutput(outOutput) {
   AddInput();
   AddFiles();
   AddTalk();
@@ -139,6 +157,15 @@ void OutlinerScriptObject::AddInput() {
                ToUTF8("Taps the keys that type a text.")},
               [this](const Arguments& inArguments) {
                 lumui::testing::TypeText(GetWindow(), TextOf(inArguments.front()));
+                return ScriptValue();
+              });
+  AddFunction({ToUTF16("menu"),
+               {Parameter("path", ScriptType::kString,
+                          "\"File > Save\": the titles on the way, in the language of the run.")},
+               ScriptType::kNothing,
+               ToUTF8("Chooses an item of the menus.")},
+              [this](const Arguments& inArguments) {
+                lumui::testing::ChooseMenuItem(GetWindow(), MenuPathOf(inArguments.front()));
                 return ScriptValue();
               });
   AddClick("click", "Clicks with the left button.", Click);
@@ -174,7 +201,7 @@ void OutlinerScriptObject::AddFiles() {
   const char* const kPath = "A path; one that is relative begins at the current folder.";
   AddFunction({ToUTF16("save"), {}, ScriptType::kNothing, ToUTF8("Saves the outline to its file.")},
               [this](const Arguments&) {
-                GetWindow().Save();
+                GetOutline().Save();
                 return ScriptValue();
               });
   AddFunction({ToUTF16("saveAs"),
@@ -182,7 +209,16 @@ void OutlinerScriptObject::AddFiles() {
                ScriptType::kNothing,
                ToUTF8("Saves the outline to another file, which becomes its own.")},
               [this](const Arguments& inArguments) {
-                GetWindow().SaveAs(File(TextOf(inArguments.front())));
+                GetOutline().SaveAsFile(File(TextOf(inArguments.front())));
+                return ScriptValue();
+              });
+  AddFunction({ToUTF16("open"),
+               {Parameter("path", ScriptType::kString, kPath)},
+               ScriptType::kNothing,
+               ToUTF8("Opens an outline in a tab of its own, or shows the tab that has it.")},
+              [this](const Arguments& inArguments) {
+                GetWindow();
+                mApp.OpenOutline(File(TextOf(inArguments.front())));
                 return ScriptValue();
               });
   AddFunction({ToUTF16("picture"),
@@ -197,10 +233,11 @@ void OutlinerScriptObject::AddFiles() {
 
 void OutlinerScriptObject::AddTalk() {
   AddFunction({ToUTF16("answer"),
-               {Parameter("button", ScriptType::kString, "The button's text.")},
+               {Parameter("answer", ScriptType::kString, "The button's text, or a path.")},
                ScriptType::kNothing,
-               ToUTF8("Names the button to press in the next box that asks something. A box that "
-                      "finds no answer is cancelled, and the step that brought it up fails.")},
+               ToUTF8("Names the button to press in the next box that asks something, or the file "
+                      "for the next dialog that asks for one. What finds no answer is cancelled, "
+                      "and the step that brought it up fails.")},
               [this](const Arguments& inArguments) {
                 mBoxes.Answer(TextOf(inArguments.front()));
                 return ScriptValue();
@@ -219,19 +256,25 @@ void OutlinerScriptObject::AddWindowState() {
   AddProperty({ToUTF16("title"), ScriptType::kString, ToUTF8("The window's title.")},
               [this] { return ScriptValue(GetWindow().UI_GetTitle()); });
   AddProperty(
+      {ToUTF16("documentCount"), ScriptType::kInteger, ToUTF8("How many outlines are open.")},
+      [this] {
+        GetWindow();
+        return ScriptValue(static_cast<double>(mApp.GetOutlines().size()));
+      });
+  AddProperty(
       {ToUTF16("isDirty"), ScriptType::kBoolean, ToUTF8("Whether there is anything to save.")},
-      [this] { return ScriptValue(GetWindow().IsDirty()); });
+      [this] { return ScriptValue(GetOutline().IsDirty()); });
 }
 
 void OutlinerScriptObject::AddRows() {
   AddProperty({ToUTF16("rowCount"), ScriptType::kInteger, ToUTF8("How many rows there are.")},
               [this] {
-                const auto& lines = GetWindow().GetDocument().GetTree().GetLines();
+                const auto& lines = GetOutline().GetTree().GetLines();
                 return ScriptValue(static_cast<double>(lines.size()));
               });
   AddProperty({ToUTF16("selection"), ScriptType::kString,
                ToUTF8("The indexes of the selected rows, as \"3,4,7\".")},
-              [this] { return ScriptValue(SelectedIndexes(GetWindow().GetDocument())); });
+              [this] { return ScriptValue(SelectedIndexes(GetOutline())); });
   const ScriptParameter index =
       Parameter("index", ScriptType::kInteger, "From 0 at the top, as the window shows the rows.");
   AddFunction({ToUTF16("rowText"),
@@ -250,15 +293,23 @@ void OutlinerScriptObject::AddRows() {
               });
 }
 
-OutlineWindow& OutlinerScriptObject::GetWindow() {
-  if (!mWindow.UI_GetHandle()) {
-    Fail("$$$/outliner/Script/Closed=the window has closed", {});
+// The loop may not have noticed yet that it is to end.
+OS_Window& OutlinerScriptObject::GetWindow() {
+  if (mHasQuit || lumui::ui::Application::Get()->IsQuitting()) {
+    Fail("$$$/outliner/Script/HasQuit=the outliner has ended", {});
   }
-  return mWindow;
+  return *mApp.FindMainWindow();
+}
+
+OutlineDocument& OutlinerScriptObject::GetOutline() {
+  GetWindow();
+  OutlineDocument* const document = mApp.GetOutline();
+  if (!document) Fail("$$$/outliner/Script/NoOutline=no outline is open", {});
+  return *document;
 }
 
 const OutlineRow& OutlinerScriptObject::GetRow(const ScriptValue& inIndex) {
-  const auto& lines = GetWindow().GetDocument().GetTree().GetLines();
+  const auto& lines = GetOutline().GetTree().GetLines();
   const int index = IntegerOf(inIndex);
   if (index < 0 || static_cast<std::size_t>(index) >= lines.size()) {
     Fail("$$$/outliner/Script/NoRow=there is no row @0 in an outline of @1 rows",

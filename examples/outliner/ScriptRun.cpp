@@ -6,7 +6,8 @@
 #include <chrono>
 #include <ostream>
 
-#include "OutlineWindow.h"
+#include "OutlineDocument.h"
+#include "OutlinerApp.h"
 #include "OutlinerScriptObject.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
@@ -30,32 +31,32 @@ constexpr const char* kObjectName = "Outliner";
 // For a stopped script that is in a built-in operation, which only ends by itself.
 constexpr std::chrono::seconds kPatience(5);
 
-std::string About(const char* inKey, const lumcore::filesupport::File& inFile) {
+std::string About(const char* inKey, const UTF16String& inWhat) {
   return ToStdString(lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {ToUTF16(inFile.GetPath())}));
+      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {inWhat}));
 }
 
 }  // namespace
 
-// Every walk begins at the window, so there each command is heard once; the application is asked
-// a second time, as the chain's default end.
-ScriptRun::ScriptRun(OutlineWindow& inWindow, std::ostream& outOutput, std::ostream& outErrors)
-    : mWindow(inWindow), mOutput(outOutput), mErrors(outErrors) {
+// Every walk ends at the application, as the chain's default end and nowhere else, so there each
+// command is heard once.
+ScriptRun::ScriptRun(OutlinerApp& ioApp, std::ostream& outOutput, std::ostream& outErrors)
+    : mApp(ioApp), mOutput(outOutput), mErrors(outErrors) {
   lumscripting::ScriptRegistry::Get().RegisterObject(
-      ToUTF16(kObjectName), ToUTF8("The outliner's window, as its user handles and sees it"),
+      ToUTF16(kObjectName), ToUTF8("The outliner, as its user handles and sees it"),
       [this]() -> boost::intrusive_ptr<lumscripting::ScriptObject> {
-        return new OutlinerScriptObject(mWindow, mBoxes, mOutput);
+        return new OutlinerScriptObject(mApp, mHasQuit, mBoxes, mOutput);
       });
   mRunner.SetFailureFunction([this](const std::exception_ptr& inFailure) { Tell(inFailure); });
   mRunner.SetCallFunction([this](const auto& inCall) { Call(inCall); });
-  mWindow.EnableScriptEvents([this] {
+  mApp.EnableScriptEvents([this] {
     ++mCommandsTold;
     return mRunner.FindObject(ToUTF16("Command"));
   });
 }
 
 ScriptRun::~ScriptRun() {
-  mWindow.DisableScriptEvents();
+  mApp.DisableScriptEvents();
   lumscripting::ScriptRegistry::Get().Unregister(ToUTF16(kObjectName));
 }
 
@@ -65,9 +66,15 @@ int ScriptRun::Run(const lumcore::filesupport::File& inScript) {
     EndBehindEvents();
   });
   int code = lumui::ui::Application::Get()->Run();
+  while (code == 0 && !mHasEnded) {
+    mHasQuit = true;
+    code = lumui::ui::Application::Get()->Run();
+  }
   if (!mHasEnded) {
     mRunner.ShutDown(kPatience);
-    mErrors << About("$$$/outliner/Script/Stopped=@0: the script was stopped", inScript) << "\n";
+    mErrors << About("$$$/outliner/Script/Stopped=@0: the script was stopped",
+                     ToUTF16(inScript.GetPath()))
+            << "\n";
   }
   TellRest();
   if (code == 0 && mHasFailed) code = kExitFailure;
@@ -106,11 +113,15 @@ void ScriptRun::Tell(const std::exception_ptr& inFailure) {
 void ScriptRun::TellRest() {
   const UTF16String failure = mBoxes.TakeFailure();
   if (!failure.empty()) Tell(std::make_exception_ptr(lumcore::config::Error(failure)));
-  // A window that has closed has asked about its changes.
-  if (!mWindow.UI_GetHandle() || !mWindow.IsDirty()) return;
-  mErrors << About("$$$/outliner/Main/NotSaved=@0 has changes that are not saved",
-                   mWindow.GetDocument().GetFile())
-          << "\n";
+  // A program that was quit has asked about its changes.
+  if (mHasQuit) return;
+  for (const OutlineDocument* document : mApp.GetOutlines()) {
+    if (!document->IsDirty()) continue;
+    const auto file = document->GetProjectFile();
+    mErrors << About("$$$/outliner/Main/NotSaved=@0 has changes that are not saved",
+                     file.GetPath().empty() ? document->GetTitle() : ToUTF16(file.GetPath()))
+            << "\n";
+  }
 }
 
 }  // namespace outliner

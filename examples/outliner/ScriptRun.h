@@ -13,10 +13,10 @@
 
 namespace outliner {
 
-class OutlineWindow;
+class OutlinerApp;
 
-// Runs a script file on a window: as a user who presses keys, gives commands and reads rows, and
-// with nobody there to answer boxes. Scripts see the objects "Outliner" and "Command", and
+// Runs a script file on the application: as a user who presses keys, gives commands and reads rows,
+// and with nobody there to answer boxes. Scripts see the objects "Outliner" and "Command", and
 // listeners at the latter hear of every command once.
 //
 // An error that the host reports during a call of the script, and a box without an answer, are
@@ -24,14 +24,15 @@ class OutlineWindow;
 class ScriptRun {
  public:
   // All are borrowed, and outlive it.
-  ScriptRun(OutlineWindow& inWindow, std::ostream& outOutput, std::ostream& outErrors);
+  ScriptRun(OutlinerApp& ioApp, std::ostream& outOutput, std::ostream& outErrors);
   ~ScriptRun();
   ScriptRun(const ScriptRun&) = delete;
   ScriptRun& operator=(const ScriptRun&) = delete;
 
   // Runs the application's loop until the script has ended, and what it has left to listeners. 0 if
   // all went well; 1 if anything failed, which is told as "file:line: cause". Application::Quit
-  // stops the script, and its code is given back. Changes that are not saved are told in any case.
+  // with a code stops the script, and the code is given back; a script that quits the program by a
+  // command or by its window goes on without it. Changes that are not saved are told in any case.
   // Once.
   int Run(const lumcore::filesupport::File& inScript);
 
@@ -41,11 +42,12 @@ class ScriptRun {
   void Tell(const std::exception_ptr& inFailure);
   void TellRest();
 
-  OutlineWindow& mWindow;
+  OutlinerApp& mApp;
   std::ostream& mOutput;
   std::ostream& mErrors;
   StScriptedBoxes mBoxes;
   lumscripting::ScriptRunner mRunner;
+  bool mHasQuit = false;
   int mCommandsTold = 0;
   bool mHasEnded = false;
   bool mHasFailed = false;

@@ -8,6 +8,7 @@
 
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
+#include "lumcore/filesupport/File.h"
 #include "lumcore/utility/StringUtils.h"
 #include "vek/uisupport/ReportError.h"
 
@@ -32,9 +33,14 @@ UTF16String Complain(const char* inKey, const lumui::dialogs::MessageDialogArgs&
 StScriptedBoxes::StScriptedBoxes() {
   mOldAnswerer = lumui::dialogs::SetDialogAnswerer(
       [this](const lumui::dialogs::MessageDialogArgs& inBox) { return AnswerBox(inBox); });
+  mOldFileAnswerer =
+      lumui::dialogs::SetFileDialogAnswerer([this](const lumui::dialogs::FileDialogArgs& inDialog) {
+        return AnswerFileDialog(inDialog);
+      });
 }
 
 StScriptedBoxes::~StScriptedBoxes() {
+  lumui::dialogs::SetFileDialogAnswerer(std::move(mOldFileAnswerer));
   lumui::dialogs::SetDialogAnswerer(std::move(mOldAnswerer));
 }
 
@@ -61,8 +67,35 @@ std::optional<int> StScriptedBoxes::AnswerBox(const lumui::dialogs::MessageDialo
   }
   // A box that cannot be cancelled is not answered by guessing.
   if (inBox.cancelButton < 0) throw lumcore::config::Error(failure);
-  if (mFailure.empty()) mFailure = failure;
+  Fail(failure);
   return inBox.cancelButton;
+}
+
+UTF16String StScriptedBoxes::AnswerFileDialog(const lumui::dialogs::FileDialogArgs& inDialog) {
+  using lumcore::filesupport::File;
+  if (mAnswers.empty()) {
+    Fail(lumcore::utility::ReplaceInString(
+        lumcore::config::Localizer::Get()->GetLocalizedString(
+            "$$$/outliner/Script/NoFile=the dialog \"@0\" has no answer"),
+        {inDialog.title}));
+    return {};
+  }
+  const File file(mAnswers.front());
+  mAnswers.pop_front();
+  // The system's dialog would not let a user choose it.
+  if (inDialog.kind == lumui::dialogs::FileDialogArgs::kOpen && !file.Exists()) {
+    Fail(lumcore::utility::ReplaceInString(
+        lumcore::config::Localizer::Get()->GetLocalizedString(
+            "$$$/outliner/Script/MissingFile=the dialog \"@0\" cannot choose @1: there is no such "
+            "file"),
+        {inDialog.title, lumcore::utility::ToUTF16(file.GetPath())}));
+    return {};
+  }
+  return file.GetFullPath();
+}
+
+void StScriptedBoxes::Fail(const UTF16String& inFailure) {
+  if (mFailure.empty()) mFailure = inFailure;
 }
 
 }  // namespace outliner

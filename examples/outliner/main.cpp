@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
-#include <memory>
 #include <optional>
+#include <random>
 #include <string>
+#include <system_error>
 
 #include "CommandList.h"
 #include "CommandSystem.h"
@@ -19,14 +21,15 @@
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
+#include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/Application.h"
 
 namespace {
 
+using lumcore::filesupport::Dir;
 using lumcore::filesupport::File;
 using outliner::Options;
-using outliner::OutlineDocument;
 
 constexpr int kExitFailure = 1;
 constexpr int kExitUsage = 2;
@@ -35,10 +38,12 @@ constexpr int kExitBySignal = 128;
 
 constexpr const char* kUsage =
     "$$$/outliner/Main/Usage="
-    "outliner FILE                       edit an outline\n"
+    "outliner [FILE...]                  edit outlines\n"
     "outliner --new FILE                 begin one; FILE is written when it is saved\n"
-    "outliner --script SCRIPT.js FILE    run a script on it; that needs no display\n"
+    "outliner --script SCRIPT.js [FILE...]\n"
+    "                                    run a script on them; that needs no display\n"
     "  --keys MAP                        with one of these: use the keys of this key map\n"
+    "  --settings FOLDER                 keep the settings there; scripts keep none otherwise\n"
     "outliner --list-commands            print all commands with their keys\n"
     "outliner --list-commands=markdown   print them as a page\n"
     "outliner --check [COMMANDS]         look for faults in the command file and the key map,\n"
@@ -51,53 +56,93 @@ lumcore::UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
-std::unique_ptr<OutlineDocument> OpenDocument(const Options& inOptions) {
-  const File file(inOptions.file);
-  if (!inOptions.isNew) return OutlineDocument::Open(file);
-  if (file.Exists()) {
-    throw lumcore::config::Error(lumcore::utility::ReplaceInString(
-        Localized("$$$/outliner/Main/FileExists=@0: the file is there already"),
-        {lumcore::utility::ToUTF16(inOptions.file)}));
+// A folder that is there while this lives.
+class StScratchFolder {
+ public:
+  StScratchFolder()
+      : mFolder(Dir::TempDir(), "outliner-" + std::to_string(std::random_device()()) + "-" +
+                                    std::to_string(std::random_device()())) {
+    mFolder.Create();
   }
-  return std::make_unique<OutlineDocument>(std::make_unique<outliner::OutlineTree>(), file);
+  ~StScratchFolder() {
+    std::error_code ignored;  // what cannot be removed stays in the folder of temporary files
+    std::filesystem::remove_all(mFolder.GetPath(), ignored);
+  }
+  StScratchFolder(const StScratchFolder&) = delete;
+  StScratchFolder& operator=(const StScratchFolder&) = delete;
+
+  const std::string& GetPath() const { return mFolder.GetPath(); }
+
+ private:
+  Dir mFolder;
+};
+
+void OpenDocuments(outliner::OutlinerApp& ioApp, const Options& inOptions) {
+  for (const std::string& file : inOptions.files) {
+    if (inOptions.isNew) {
+      ioApp.BeginOutline(File(file));
+    } else {
+      ioApp.OpenOutline(File(file));
+    }
+  }
+  if (inOptions.files.empty()) ioApp.NewOutline();
 }
 
 int RunScript(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
               const Options& inOptions) {
-  outliner::OutlineWindow& window = ioApp.Show(OpenDocument(inOptions));
-  outliner::ScriptRun run(window, std::cout, std::cerr);
+  OpenDocuments(ioApp, inOptions);
+  outliner::ScriptRun run(ioApp, std::cout, std::cerr);
   const outliner::StStopSignals signals(
       [&ioApplication](int inSignal) { ioApplication.Quit(kExitBySignal + inSignal); });
   return run.Run(File(inOptions.script));
 }
 
+// A file that cannot be opened is told, over the window, and the others are.
 int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
               const Options& inOptions) {
-  ioApp.Show(OpenDocument(inOptions));
-  return ioApplication.Run();
+  Options one = inOptions;
+  for (const std::string& file : inOptions.files) {
+    one.files = {file};
+    ioApplication.RunGuarded([&] { OpenDocuments(ioApp, one); });
+  }
+  if (!ioApp.HasOpenDocument()) ioApp.NewOutline();
+  ioApp.RunEventLoop();
+  return 0;
 }
 
 int RunEditor(lumui::ui::Application& ioApplication, const Options& inOptions,
               const outliner::StReportsToStream* inReports) {
-  if (inOptions.script.empty() && ioApplication.IsHeadless()) {
+  const bool isScript = !inOptions.script.empty();
+  if (!isScript && ioApplication.IsHeadless()) {
     throw lumcore::config::Error(
         Localized("$$$/outliner/Main/NoDisplay=there is no display to show a window on; --script "
                   "needs none"));
   }
-  outliner::CommandSystem commands(outliner::FindCommandFiles());
-  if (!inOptions.keys.empty()) commands.LoadUserKeys(File(inOptions.keys));
-  // A script is not replayed with keys that it was not written for.
-  if (inReports && inReports->HasReported()) return kExitFailure;
-  // A script goes on when it has closed the window.
-  outliner::OutlinerApp app([&] {
-    if (inOptions.script.empty()) ioApplication.Quit();
-  });
-  return inOptions.script.empty() ? RunWindow(app, ioApplication, inOptions)
-                                  : RunScript(app, ioApplication, inOptions);
+  std::optional<StScratchFolder> scratch;
+  outliner::OutlinerApp::Options options{outliner::FindCommandFiles(), inOptions.keys,
+                                         inOptions.settings};
+  // A script neither finds what the user has set nor changes it.
+  if (isScript && options.settingsFolder.empty())
+    options.settingsFolder = scratch.emplace().GetPath();
+  outliner::OutlinerApp app(options);
+  int code = kExitFailure;
+  try {
+    app.Start();
+    // A script is not replayed with keys that it was not written for.
+    if (!inReports || !inReports->HasReported()) {
+      code = isScript ? RunScript(app, ioApplication, inOptions)
+                      : RunWindow(app, ioApplication, inOptions);
+    }
+  } catch (...) {  // told while the application can still tell it, and then it ends as always
+    outliner::ReportFailure(std::current_exception());
+  }
+  app.End();
+  return code;
 }
 
 int ListCommands(const Options& inOptions) {
   outliner::CommandSystem commands(outliner::FindCommandFiles());
+  commands.LoadKeys();
   if (!inOptions.keys.empty()) commands.LoadUserKeys(File(inOptions.keys));
   std::cout << (inOptions.task == Options::kWriteCommandPage ? outliner::RenderCommandPage()
                                                              : outliner::RenderCommandTable());
@@ -106,7 +151,7 @@ int ListCommands(const Options& inOptions) {
 
 int Check(const Options& inOptions) {
   outliner::CommandFiles files = outliner::FindCommandFiles();
-  if (!inOptions.file.empty()) files.commands = File(inOptions.file);
+  if (!inOptions.files.empty()) files.commands = File(inOptions.files.front());
   if (!inOptions.keys.empty()) files.keys = File(inOptions.keys);
   return outliner::CheckFiles(files, std::cout) ? 0 : kExitFailure;
 }
@@ -122,9 +167,11 @@ int Run(int inCount, char** inArguments) {
   lumui::ui::Application application(inCount, inArguments);
   const outliner::ProgramTexts texts(inCount, inArguments);
   Options options;
-  if (!ReadOptions(inCount, inArguments, options)) {
-    std::cerr << lumcore::utility::ToStdString(Localized(kUsage) + Localized(kLanguageUsage));
-    return kExitUsage;
+  const bool isUnderstood = ReadOptions(inCount, inArguments, options);
+  if (!isUnderstood || options.task == Options::kHelp) {
+    (isUnderstood ? std::cout : std::cerr)
+        << lumcore::utility::ToStdString(Localized(kUsage) + Localized(kLanguageUsage));
+    return isUnderstood ? 0 : kExitUsage;
   }
   SetIdentity();
   outliner::RegisterErrorTexts();

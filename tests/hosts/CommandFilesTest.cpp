@@ -77,13 +77,14 @@ TEST(CommandFiles, FilesThatDoNotFitEndTheStartWithTheirNameAndCause) {
     if (!bad.commands.empty()) files.commands.ReplaceContents(bad.commands);
     if (!bad.keys.empty()) files.keys.ReplaceContents(bad.keys);
     try {
-      const CommandSystem commands(files);
+      CommandSystem commands(files);
+      commands.LoadKeys();
       ADD_FAILURE() << "it has started";
     } catch (const lumcore::config::Error& error) {
       EXPECT_EQ(WithoutFolder(error.what(), folder.GetPath("")).find(bad.cause), 0u)
           << error.what();
     }
-    const CommandSystem again(good);
+    CommandSystem(good).LoadKeys();
   }
 }
 
@@ -93,7 +94,7 @@ TEST(UserKeys, ReplaceTheHostsOwnAndLeaveTextsAlone) {
   map.ReplaceContents("<keymap>" + Entry("row.delete", "<uchar>x</uchar>") +
                       Entry("row.delete", "<uchar>@</uchar>") + Entry("file.save", "<key>1</key>") +
                       Entry("text.edit", "<key>8</key>") + "</keymap>");
-  host.GetCommands().LoadUserKeys(map);
+  host.GetApp().GetCommandSystem().LoadUserKeys(map);
   host.Click(1);
   host.Keys("Delete X");
   EXPECT_EQ(host.Show(), "a c*");
@@ -133,7 +134,7 @@ TEST(UserKeys, AMapThatGivesNoneIsReportedAndLeavesTheHostsOwn) {
     RunningOutliner host("a b");
     const File map(host.GetPath("k.xml"));
     if (bad.map) map.ReplaceContents(bad.map);
-    host.GetCommands().LoadUserKeys(map);
+    host.GetApp().GetCommandSystem().LoadUserKeys(map);
     const std::string message = WithoutFolder(host.TakeMessages(), host.GetPath(""));
     EXPECT_EQ(message.find(std::string("error: ") + bad.cause), 0u) << message;
     EXPECT_NE(message.find(". The outliner's own keys are used.\n"), std::string::npos);
@@ -148,7 +149,8 @@ TEST(UserKeys, AMapThatGivesNoneIsReportedAndLeavesTheHostsOwn) {
 }
 
 TEST(CommandList, ColumnsStandWhereWideTextsEnd) {
-  const CommandSystem commands(outliner::FindCommandFiles());
+  CommandSystem commands(outliner::FindCommandFiles());
+  commands.LoadKeys();
   CommandRegistry::Get().LoadFromBuffer(lumcore::UTF8String(), false);
   CommandRegistry::Get().RegisterCommand(7, ToUTF16("x|y"), ToUTF16("\xE5\x89\xAA\xE5\x88\x87"),
                                          ToUTF16("a_b"), false);

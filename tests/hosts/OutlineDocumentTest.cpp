@@ -43,7 +43,7 @@ class OutlineDocumentTest : public testing::Test {
 TEST_F(OutlineDocumentTest, IsDirtyExactlyWhileItDiffersFromItsFile) {
   const auto document = MakeDocument("a b* c");
   const File file = MakeFile("o.opml");
-  document->SaveAs(file);
+  document->SaveAsFile(file);
   EXPECT_FALSE(document->IsDirty());
   edits::Indent(*document);
   EXPECT_TRUE(document->IsDirty());
@@ -67,7 +67,7 @@ TEST_F(OutlineDocumentTest, ForgettingTheStackKeepsTheMarkRight) {
   const auto document = MakeDocument("a b* c");
   const File file = MakeFile("o.opml");
   edits::Indent(*document);
-  document->SaveAs(file);
+  document->SaveAsFile(file);
   ClearUndoStack(*document);
   EXPECT_FALSE(document->IsDirty());
 
@@ -85,15 +85,15 @@ TEST_F(OutlineDocumentTest, ForgettingTheStackKeepsTheMarkRight) {
 
 TEST_F(OutlineDocumentTest, AFailedSaveLeavesFileAndMarkAsTheyWere) {
   const auto document = MakeDocument("a b* c");
-  document->SaveAs(MakeFile("o.opml"));
-  const std::string saved = Contents(document->GetFile());
+  document->SaveAsFile(MakeFile("o.opml"));
+  const std::string saved = Contents(document->GetProjectFile());
   edits::Indent(*document);
 
   const lumcore::filesupport::Dir taken(mFolder.GetDir(), "taken.opml");
   lumcore::filesupport::Dir(taken, "inside").Create();
   const File failing(taken.GetPath());
   try {
-    document->SaveAs(failing);
+    document->SaveAsFile(failing);
     ADD_FAILURE() << "was saved";
   } catch (const lumcore::filesupport::FileError& error) {
     EXPECT_NE(std::string(error.what()).find(failing.GetPath()), std::string::npos) << error.what();
@@ -101,12 +101,12 @@ TEST_F(OutlineDocumentTest, AFailedSaveLeavesFileAndMarkAsTheyWere) {
   EXPECT_TRUE(document->IsDirty());
   EXPECT_TRUE(taken.Exists());
   EXPECT_EQ(mFolder.GetDir().GetFiles().size(), 1u);
-  EXPECT_EQ(document->GetFile().GetPath(), MakeFile("o.opml").GetPath());
-  EXPECT_EQ(Contents(document->GetFile()), saved);
+  EXPECT_EQ(document->GetProjectFile().GetPath(), MakeFile("o.opml").GetPath());
+  EXPECT_EQ(Contents(document->GetProjectFile()), saved);
 
   document->Save();
   EXPECT_FALSE(document->IsDirty());
-  EXPECT_EQ(Contents(document->GetFile()), outliner::WriteOpml(document->GetTree()));
+  EXPECT_EQ(Contents(document->GetProjectFile()), outliner::WriteOpml(document->GetTree()));
 }
 
 TEST_F(OutlineDocumentTest, AFileThatCannotBeReadOpensNothingAndIsNamed) {

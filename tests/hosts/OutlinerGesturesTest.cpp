@@ -225,7 +225,6 @@ TEST(OutlinerClosing, AsksAboutChangesAndDoesWhatIsAnswered) {
   host.AnswerNextBox("Cancel");
   lumui::testing::RequestClose(host.GetWindow());
   EXPECT_EQ(host.TakeMessages(), kQuestion);
-  ASSERT_NE(host.GetWindow().UI_GetHandle(), nullptr);
   EXPECT_EQ(host.Show(), "ax* b");
   host.AnswerNextBox("Cancel");
   host.Keys("Ctrl+Q");
@@ -237,7 +236,6 @@ TEST(OutlinerClosing, AsksAboutChangesAndDoesWhatIsAnswered) {
   host.Keys("Ctrl+Q");
   EXPECT_EQ(host.TakeMessages(), kQuestion);
   EXPECT_TRUE(host.HasQuit());
-  EXPECT_EQ(host.GetWindow().UI_GetHandle(), nullptr);
   EXPECT_NE(host.ReadFile().find("text=\"ax\""), std::string::npos);
 }
 
@@ -253,11 +251,14 @@ TEST(OutlinerClosing, DiscardLeavesTheFileAndACleanDocumentIsNotAskedAbout) {
   }
   RunningOutliner clean("a b");
   clean.Keys("Down Delete Ctrl+Z Ctrl+W");
+  EXPECT_EQ(clean.ShowDocuments(), "");
+  EXPECT_EQ(clean.GetTitle(), "outliner");
+  lumui::testing::RequestClose(clean.GetWindow());
   EXPECT_EQ(clean.TakeMessages(), "");
   EXPECT_TRUE(clean.HasQuit());
 }
 
-TEST(OutlinerClosing, ASaveThatFailsKeepsTheWindowAndTellsWhy) {
+TEST(OutlinerClosing, ASaveThatFailsKeepsTheDocumentAndTellsWhy) {
   RunningOutliner host("a b");
   host.Keys("Down");
   host.Type("x");
@@ -269,19 +270,27 @@ TEST(OutlinerClosing, ASaveThatFailsKeepsTheWindowAndTellsWhy) {
   std::string messages = host.TakeMessages();
   EXPECT_EQ(messages.find("error: "), 0u);
   EXPECT_NE(messages.find(path), std::string::npos);
-  EXPECT_EQ(host.GetTitle(), "*o.opml \xE2\x80\x94 outliner");
+  EXPECT_EQ(host.ShowDocuments(), "[*o.opml]");
 
-  host.AnswerNextBox("Save");
-  lumui::testing::RequestClose(host.GetWindow());
-  messages = host.TakeMessages();
-  EXPECT_NE(messages.find(path), std::string::npos);
-  ASSERT_NE(host.GetWindow().UI_GetHandle(), nullptr);
-  EXPECT_FALSE(host.HasQuit());
+  for (const char* close : {"Ctrl+W", "Ctrl+Shift+W", "Ctrl+Q", "the window"}) {
+    SCOPED_TRACE(close);
+    host.AnswerNextBox("Save");
+    if (*close == 'C') {
+      host.Keys(close);
+    } else {
+      lumui::testing::RequestClose(host.GetWindow());
+    }
+    messages = host.TakeMessages();
+    EXPECT_NE(messages.find("error: "), std::string::npos);
+    EXPECT_NE(messages.find(path), std::string::npos);
+    EXPECT_FALSE(host.HasQuit());
+    EXPECT_EQ(host.ShowDocuments(), "[*o.opml]");
+  }
   EXPECT_EQ(host.Show(), "ax* b");
 
   // A question that nobody answers refuses as well.
   lumui::testing::RequestClose(host.GetWindow());
-  EXPECT_NE(host.GetWindow().UI_GetHandle(), nullptr);
+  EXPECT_FALSE(host.HasQuit());
 }
 
 std::string Ask(int inCommand) {
@@ -296,8 +305,8 @@ std::string Ask(int inCommand) {
 
 TEST(OutlinerCommands, AnswerForTheirStateThroughTheChain) {
   RunningOutliner host("a b");
-  EXPECT_EQ(Ask(outliner::kCommandUndo), "-");
-  EXPECT_EQ(Ask(outliner::kCommandRedo), "-");
+  EXPECT_EQ(Ask(outliner::kCommandUndo), "-Undo");
+  EXPECT_EQ(Ask(outliner::kCommandRedo), "-Redo");
   EXPECT_EQ(Ask(outliner::kCommandDelete), "-");
   EXPECT_EQ(Ask(outliner::kCommandEditText), "-");
   EXPECT_EQ(Ask(outliner::kCommandQuit), "+");
@@ -310,7 +319,7 @@ TEST(OutlinerCommands, AnswerForTheirStateThroughTheChain) {
   EXPECT_EQ(Ask(outliner::kCommandRedo), "+Redo Move Down");
   host.Type("x");
   EXPECT_EQ(Ask(outliner::kCommandUndo), "+Undo Typing");
-  EXPECT_EQ(Ask(outliner::kCommandRedo), "-");
+  EXPECT_EQ(Ask(outliner::kCommandRedo), "-Redo");
   // The command ends the typing first, as any other road to it does.
   EXPECT_TRUE(CommandHandlerBase::CallCommandChain(outliner::kCommandSelectAll));
   EXPECT_EQ(host.Show(), "ax* b*");

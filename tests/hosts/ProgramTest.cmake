@@ -34,6 +34,21 @@ if(NOT output STREQUAL page)
   message(SEND_ERROR "docs/outliner-commands.md:1: is not what outliner --list-commands=markdown prints")
 endif()
 
+# The user's settings are neither read nor written by a script; a folder that is named is.
+file(MAKE_DIRECTORY ${WORK_DIR}/user)
+set(ENV{XDG_CONFIG_HOME} ${WORK_DIR}/user)
+file(WRITE ${WORK_DIR}/q.js "Outliner.print(Outliner.title)\n")
+expect(0 "^o.opml" --script ${WORK_DIR}/q.js ${WORK_DIR}/o.opml)
+file(GLOB_RECURSE written ${WORK_DIR}/user/*)
+if(written)
+  message(SEND_ERROR "a script has written settings: ${written}")
+endif()
+expect(0 "^o.opml" --settings ${WORK_DIR}/own --script ${WORK_DIR}/q.js ${WORK_DIR}/o.opml)
+file(READ ${WORK_DIR}/own/AppPrefs.xml settings)
+if(NOT settings MATCHES "${WORK_DIR}/o.opml")
+  message(SEND_ERROR "${WORK_DIR}/own/AppPrefs.xml:1: does not name the file that was open")
+endif()
+
 # A script that never ends is stopped as Ctrl+C stops it, and what is lost by that is told.
 execute_process(COMMAND bash -c [[
   coproc run { exec "$0" --script "$1/loop.js" "$1/o.opml" 2>&1; }

@@ -9,10 +9,13 @@
 
 #include "hosts/OutlineText.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/dialogs/FileDialog.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/testing/SyntheticInput.h"
+#include "lumui/ui/Application.h"
 #include "outliner/KeyChord.h"
 #include "outliner/Reports.h"
+#include "outliner/RowEditor.h"
 #include "outliner/RowPainter.h"
 #include "outliner/TitleStrip.h"
 #include "vek/uisupport/ReportError.h"
@@ -41,32 +44,86 @@ outliner::KeyChord Chord(const std::string& inName) {
 
 }  // namespace
 
-RunningOutliner::RunningOutliner(const std::string& inOutline) {
+RunningOutliner::RunningOutliner(const std::string& inOutline)
+    : mOwnFolder(std::make_unique<TemporaryFolder>()), mFolder(*mOwnFolder) {
+  const auto file = MakeFile("o.opml", inOutline);
+  Start();
+  mApp->OpenOutline(file);
+  lumui::testing::ActivateWindow(&GetWindow());
+  lumui::testing::ProcessEvents();
+}
+
+RunningOutliner::RunningOutliner(TemporaryFolder& ioFolder) : mFolder(ioFolder) {
+  Start();
+}
+
+RunningOutliner::~RunningOutliner() {
+  if (mApp) {
+    lumui::ui::Application::Get()->Quit();
+    End();
+  }
+  lumui::dialogs::SetFileDialogAnswerer(nullptr);
+  lumui::dialogs::SetDialogAnswerer(nullptr);
+}
+
+void RunningOutliner::Start() {
   outliner::RegisterErrorTexts();
   lumui::dialogs::SetDialogAnswerer([this](const auto& inBox) -> std::optional<int> {
     const bool isError = vek::uisupport::ExecutingDeferredReportError();
     mMessages += (isError ? "error: " : "box: ") + ToStdString(inBox.text) + "\n";
     if (isError) return 0;
-    if (mAnswers.empty()) return std::nullopt;
-    const std::string wanted = mAnswers.front();
-    mAnswers.erase(mAnswers.begin());
-    for (std::size_t button = 0; button < inBox.buttons.size(); ++button) {
-      if (ToStdString(inBox.buttons[button]) == wanted) return static_cast<int>(button);
+    const auto wanted = TakeAnswer();
+    for (std::size_t button = 0; wanted && button < inBox.buttons.size(); ++button) {
+      if (ToStdString(inBox.buttons[button]) == *wanted) return static_cast<int>(button);
     }
     return std::nullopt;
   });
-  const auto file = mFolder.GetFile("o.opml");
-  MakeDocument(inOutline)->SaveAs(file);
-  mApp = std::make_unique<outliner::OutlinerApp>([this] { mHasQuit = true; });
-  mApp->Show(outliner::OutlineDocument::Open(file));
-  lumui::testing::ActivateWindow(&GetWindow());
-  lumui::testing::ProcessEvents();
+  lumui::dialogs::SetFileDialogAnswerer(
+      [this](const auto& inDialog) -> std::optional<lumcore::UTF16String> {
+        mMessages += "file: " + ToStdString(inDialog.title) + "\n";
+        const auto wanted = TakeAnswer();
+        if (!wanted) return std::nullopt;
+        return ToUTF16(*wanted == "Cancel" ? "" : GetPath(*wanted));
+      });
+  mApp = std::make_unique<outliner::OutlinerApp>(outliner::OutlinerApp::Options{
+      outliner::FindCommandFiles(), "", mFolder.GetPath("settings")});
+  mApp->Start();
 }
 
-RunningOutliner::~RunningOutliner() {
+void RunningOutliner::End() {
+  mApp->RunEventLoop();
+  mApp->End();
   mApp.reset();
-  lumui::testing::ProcessEvents();
-  lumui::dialogs::SetDialogAnswerer(nullptr);
+  // The window has asked to quit as well when it went: not the next application.
+  if (HasQuit()) lumui::ui::Application::Get()->Run();
+}
+
+std::optional<std::string> RunningOutliner::TakeAnswer() {
+  if (mAnswers.empty()) return std::nullopt;
+  const std::string answer = mAnswers.front();
+  mAnswers.erase(mAnswers.begin());
+  return answer;
+}
+
+bool RunningOutliner::HasQuit() const {
+  return lumui::ui::Application::Get()->IsQuitting();
+}
+
+lumcore::filesupport::File RunningOutliner::MakeFile(const std::string& inName,
+                                                     const std::string& inOutline) {
+  const auto file = mFolder.GetFile(inName);
+  MakeDocument(inOutline)->SaveAsFile(file);
+  return file;
+}
+
+std::string RunningOutliner::ShowDocuments() {
+  std::string text;
+  for (const auto* document : mApp->GetOutlines()) {
+    const std::string title = (document->IsDirty() ? "*" : "") + ToStdString(document->GetTitle());
+    text +=
+        (text.empty() ? "" : " ") + (document == mApp->GetOutline() ? "[" + title + "]" : title);
+  }
+  return text;
 }
 
 void RunningOutliner::Keys(const std::string& inChords) {
@@ -106,7 +163,7 @@ void RunningOutliner::DoubleClick(std::size_t inLine, float inX) {
 
 std::string RunningOutliner::Show() {
   std::string text = tests::Show(GetDocument());
-  const auto& editor = GetWindow().GetEditor();
+  const auto& editor = GetDocument().GetEditor();
   if (!editor.IsActive()) return text;
   const auto& typed = editor.GetEdit().GetText();
   const std::size_t caret = editor.GetEdit().GetCaret();

@@ -4,25 +4,31 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "outliner/CommandSystem.h"
+#include "lumui/ui/OS_Window.h"
+#include "outliner/OutlineDocument.h"
 #include "outliner/OutlinerApp.h"
 #include "support/TemporaryFolder.h"
 
 namespace tests {
 
 // The host in a window, driven as a user drives it: every key and click passes the window system.
-// Boxes are answered by the names of buttons that were given before, and are written down; so are
-// reported errors.
+// Boxes are answered by the names of buttons that were given before, file dialogs by paths, and all
+// are written down; so are reported errors. Its settings lie in a folder of its own.
 class RunningOutliner {
  public:
   // The outline as tests::Show writes one, without marks; its file is o.opml in a folder of its
   // own.
   explicit RunningOutliner(const std::string& inOutline);
+  // Without a document, on the folder of the one before that has ended.
+  explicit RunningOutliner(TemporaryFolder& ioFolder);
   ~RunningOutliner();
+  // Runs the loop, which has been quit, and ends the application.
+  void End();
 
   // Chords separated by blanks, "Down Ctrl+Return".
   void Keys(const std::string& inChords);
@@ -37,22 +43,29 @@ class RunningOutliner {
   std::string GetTitle();
   std::string ReadFile() const;
   std::string GetPath(const std::string& inName) const { return mFolder.GetPath(inName); }
+  // The outline as a file of that name, without opening it.
+  lumcore::filesupport::File MakeFile(const std::string& inName, const std::string& inOutline);
+  // The titles of all documents, with the current one in brackets.
+  std::string ShowDocuments();
 
-  void AnswerNextBox(const std::string& inButton) { mAnswers.push_back(inButton); }
+  // The name of a button, or of a file in the folder.
+  void AnswerNextBox(const std::string& inAnswer) { mAnswers.push_back(inAnswer); }
   // All that boxes have asked and errors have said since the last call, a line each.
   std::string TakeMessages();
-  bool HasQuit() const { return mHasQuit; }
+  bool HasQuit() const;
 
-  outliner::CommandSystem& GetCommands() { return mCommands; }
-  outliner::OutlineWindow& GetWindow() { return *mApp->GetWindow(); }
-  outliner::OutlineDocument& GetDocument() { return GetWindow().GetDocument(); }
+  outliner::OutlinerApp& GetApp() { return *mApp; }
+  lumui::ui::OS_Window& GetWindow() { return *mApp->FindMainWindow(); }
+  outliner::OutlineDocument& GetDocument() { return *mApp->GetOutline(); }
 
  private:
-  TemporaryFolder mFolder;
+  void Start();
+  std::optional<std::string> TakeAnswer();
+
+  std::unique_ptr<TemporaryFolder> mOwnFolder;
+  TemporaryFolder& mFolder;
   std::vector<std::string> mAnswers;
   std::string mMessages;
-  bool mHasQuit = false;
-  outliner::CommandSystem mCommands{outliner::FindCommandFiles()};
   std::unique_ptr<outliner::OutlinerApp> mApp;
 };
 

@@ -126,6 +126,9 @@ void CloseMenus(ui::OS_Window& inWindow) {
     Tap(inWindow, ui::KeyboardCode::kEscape);
     if (OpenPopup() == popup) return;
   }
+  // The bar keeps the keyboard, and the next arrow would open a menu again.
+  const QMenuBar* const bar = static_cast<ui::WindowPeer*>(inWindow.GetPeer())->GetBar();
+  if (bar && bar->activeAction()) Tap(inWindow, ui::KeyboardCode::kEscape);
 }
 
 lumcore::UTF16String MenuAsText(HMENU inMenu) {

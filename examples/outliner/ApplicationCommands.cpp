@@ -1,0 +1,125 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "ApplicationCommands.h"
+
+#include <algorithm>
+
+#include "FileQuestions.h"
+#include "OutlineDocument.h"
+#include "OutlinerApp.h"
+#include "OutlinerCommands.h"
+#include "RowEditor.h"
+#include "lumcore/config/ClientInfo.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/dialogs/MessageDialog.h"
+#include "lumui/ui/OS_Window.h"
+
+namespace outliner {
+
+using lumcore::UTF16String;
+using lumcore::filesupport::File;
+using vek::uisupport::CommandEnableQuery;
+
+namespace {
+
+UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+}
+
+bool IsIn(int inCommand, int inBegin, int inEnd) {
+  return inCommand >= inBegin && inCommand < inEnd;
+}
+
+}  // namespace
+
+ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
+  const auto always = [] { return true; };
+  const auto hasDocument = [this] { return mApp.GetOutline() != nullptr; };
+  const auto hasSeveral = [this] { return mApp.GetOutlines().size() > 1; };
+  mEntries[kCommandNew] = {always, [this] { mApp.NewOutline(); }};
+  mEntries[kCommandOpen] = {always, [this] { AskForFile(); }};
+  mEntries[kCommandClose] = {hasDocument, [this] { mApp.CloseOutline(*mApp.GetOutline()); }};
+  mEntries[kCommandCloseAll] = {hasDocument, [this] { mApp.CloseAllOutlines(); }};
+  mEntries[kCommandQuit] = {always, [this] { mApp.EndEventLoop(); }};
+  mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }};
+  mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }};
+  mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }};
+}
+
+bool ApplicationCommands::DoUnifiedDispatch(int inCommand, CommandEnableQuery* ioQuery) {
+  if (IsIn(inCommand, kRecentFilesBegin, kRecentFilesEnd)) {
+    return DispatchRecentFile(static_cast<std::size_t>(inCommand - kRecentFilesBegin), ioQuery);
+  }
+  if (IsIn(inCommand, kDocumentsBegin, kDocumentsEnd)) {
+    return DispatchDocument(static_cast<std::size_t>(inCommand - kDocumentsBegin), ioQuery);
+  }
+  const auto found = mEntries.find(inCommand);
+  if (found == mEntries.end()) return false;
+  const Entry& entry = found->second;
+  if (ioQuery) {
+    *ioQuery->enabled = entry.isEnabled();
+  } else if (entry.isEnabled()) {
+    // What was typed is part of its outline before anything else happens to that.
+    if (mApp.GetOutline()) mApp.GetOutline()->GetEditor().Commit();
+    entry.execute();
+  }
+  return true;
+}
+
+// A file that has gone since the menu opened is an error of its own, with its path.
+bool ApplicationCommands::DispatchRecentFile(std::size_t inIndex, CommandEnableQuery* ioQuery) {
+  const auto paths = mApp.GetRecentFiles();
+  if (inIndex >= paths.size()) return false;
+  const File file(paths[inIndex]);
+  if (ioQuery) {
+    *ioQuery->enabled = file.Exists();
+  } else {
+    mApp.OpenOutline(file);
+  }
+  return true;
+}
+
+bool ApplicationCommands::DispatchDocument(std::size_t inIndex, CommandEnableQuery* ioQuery) {
+  const auto documents = mApp.GetOutlines();
+  if (inIndex >= documents.size()) return false;
+  if (ioQuery) {
+    *ioQuery->enabled = true;
+    *ioQuery->checked = documents[inIndex] == mApp.GetOutline();
+  } else {
+    mApp.ShowOutline(*documents[inIndex]);
+  }
+  return true;
+}
+
+void ApplicationCommands::AskForFile() {
+  const OutlineDocument* const current = mApp.GetOutline();
+  const UTF16String folder = current && !current->GetProjectFile().GetPath().empty()
+                                 ? current->Parent().GetFullPath()
+                                 : UTF16String();
+  const UTF16String path = AskForFileToOpen(folder, mApp.FindMainWindow());
+  if (!path.empty()) mApp.OpenOutline(File(path));
+}
+
+void ApplicationCommands::Step(int inDistance) {
+  const auto documents = mApp.GetOutlines();
+  const auto current = std::find(documents.begin(), documents.end(), mApp.GetOutline());
+  const auto count = static_cast<int>(documents.size());
+  const int next = (static_cast<int>(current - documents.begin()) + inDistance + count) % count;
+  mApp.ShowOutline(*documents[static_cast<std::size_t>(next)]);
+}
+
+void ApplicationCommands::ShowAbout() {
+  lumui::dialogs::MessageDialogArgs args;
+  args.title = Localized("$$$/outliner/About/Title=About outliner");
+  args.text = lumcore::utility::ReplaceInString(
+      Localized("$$$/outliner/About/Text=outliner @0\nEdits outlines in OPML files. It is the "
+                "example of the vek framework, under the MIT licence."),
+      {lumcore::config::GetClientVersion()});
+  args.icon = lumui::dialogs::MessageIcon::kInformation;
+  args.owner = mApp.FindMainWindow();
+  lumui::dialogs::RunMessageDialog(args);
+}
+
+}  // namespace outliner

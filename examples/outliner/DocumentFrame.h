@@ -1,0 +1,67 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <boost/intrusive_ptr.hpp>
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+#include "lumcore/geom/Point.h"
+#include "lumui/ui/UI_SubView.h"
+#include "vek/app/DocStatusMessage.h"
+#include "vek/messaging/Listener.h"
+
+namespace outliner {
+
+class DocumentPane;
+class DocumentTabs;
+class OutlineDocument;
+
+// The middle of the main window: the pane of the current document, over it the tabs once there is
+// more than one, and words of help while there is none. It follows the application's messages about
+// documents, and keeps the window's title.
+class DocumentFrame final : public lumui::ui::UI_SubView,
+                            private vek::messaging::Listener<const vek::app::DocStatusMessage> {
+ public:
+  // What is asked of the application.
+  struct Functions {
+    std::function<void(OutlineDocument&)> show;
+    std::function<void(OutlineDocument&)> close;
+    std::function<void(const lumcore::geom::PointT<int>&)> openRowMenu;
+  };
+
+  explicit DocumentFrame(Functions inFunctions);
+  ~DocumentFrame() override;
+
+  // Sets the title of the window that the frame has come into.
+  void ShowState();
+  // The tab's title: the document's, with "*" before it when there is something to save.
+  static lumcore::UTF16String TabTitleOf(const OutlineDocument& inDocument);
+
+  void UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const override;
+
+ protected:
+  void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
+
+ private:
+  struct Page {
+    OutlineDocument* document;
+    boost::intrusive_ptr<DocumentPane> pane;
+  };
+
+  void ListenToMessage(const vek::app::DocStatusMessage inMessage) override;
+
+  std::size_t FindPage(const OutlineDocument& inDocument) const;
+  void ShowPage(OutlineDocument& inDocument);
+  void DropPage(const OutlineDocument& inDocument);
+  void PlaceNodes();
+
+  Functions mFunctions;
+  boost::intrusive_ptr<DocumentTabs> mTabs;
+  std::vector<Page> mPages;  // in the order of the tabs
+  OutlineDocument* mCurrent = nullptr;
+};
+
+}  // namespace outliner

@@ -1,0 +1,73 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "FileQuestions.h"
+
+#include "lumcore/config/Localizer.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/dialogs/FileDialog.h"
+#include "lumui/dialogs/MessageDialog.h"
+#include "lumui/ui/OS_Window.h"
+#include "vek/uisupport/MainWindowLookup.h"
+
+namespace outliner {
+
+using lumcore::UTF16String;
+using lumcore::utility::ToUTF16;
+using lumui::dialogs::FileDialogArgs;
+using vek::uisupport::Alert::Response;
+
+namespace {
+
+constexpr const char* kExtension = "opml";
+
+// In the order of the buttons.
+constexpr Response kAnswers[] = {vek::uisupport::Alert::eResponseYes,
+                                 vek::uisupport::Alert::eResponseNo,
+                                 vek::uisupport::Alert::eResponseCancel};
+
+UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+}
+
+UTF16String Ask(FileDialogArgs::Kind inKind, const char* inTitle, const UTF16String& inPath,
+                lumui::ui::OS_Window* inOwner) {
+  FileDialogArgs args;
+  args.kind = inKind;
+  args.title = Localized(inTitle);
+  args.initialPath = inPath;
+  args.filters = {{Localized("$$$/outliner/Files/Outlines=Outlines (OPML)"),
+                   {ToUTF16(kExtension), ToUTF16("xml")}},
+                  {Localized("$$$/outliner/Files/All=All files"), {}}};
+  args.saveExtension = ToUTF16(kExtension);
+  args.owner = inOwner;
+  return lumui::dialogs::RunFileDialog(args);
+}
+
+}  // namespace
+
+UTF16String AskForFileToOpen(const UTF16String& inPath, lumui::ui::OS_Window* inOwner) {
+  return Ask(FileDialogArgs::kOpen, "$$$/outliner/Files/Open=Open an outline", inPath, inOwner);
+}
+
+UTF16String AskForFileToSave(const UTF16String& inPath, lumui::ui::OS_Window* inOwner) {
+  return Ask(FileDialogArgs::kSave, "$$$/outliner/Files/SaveAs=Save the outline as", inPath,
+             inOwner);
+}
+
+Response AskToSave(const UTF16String& inTitle) {
+  lumui::dialogs::MessageDialogArgs args;
+  args.title = Localized("$$$/outliner/Close/Title=Unsaved changes");
+  args.text = lumcore::utility::ReplaceInString(
+      Localized("$$$/outliner/Close/Text=Save the changes to \"@0\" before it is closed?"),
+      {inTitle});
+  args.buttons = {Localized("$$$/outliner/Close/Save=Save"),
+                  Localized("$$$/outliner/Close/Discard=Discard"),
+                  Localized("$$$/outliner/Close/Cancel=Cancel")};
+  args.cancelButton = 2;
+  args.icon = lumui::dialogs::MessageIcon::kQuestion;
+  args.owner = dynamic_cast<lumui::ui::OS_Window*>(vek::uisupport::FindMainWindow());
+  return kAnswers[lumui::dialogs::RunMessageDialog(args)];
+}
+
+}  // namespace outliner
