@@ -1,3 +1,6 @@
 vek_test(lumscripting_tests
-  SOURCES lumscripting/ScriptRunnerTest.cpp support/UIApplication.cpp
+  SOURCES
+    lumscripting/ScriptObjectsTest.cpp
+    lumscripting/ScriptRunnerTest.cpp
+    support/UIApplication.cpp
   LIBRARIES lumscripting lumui)

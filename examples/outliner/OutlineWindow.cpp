@@ -108,7 +108,11 @@ bool OutlineWindow::UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode,
   if (OS_Window::UI_DoKeyboardEvent(inNode, inEvent)) return true;
   const lumcore::utility::StKeepAlive keepAlive(*this);
   try {
-    if (!vek::uisupport::KeyCommandManager::Get().RouteKeyEvent(inEvent)) return false;
+    // Keyboards of other scripts have our letters only as a second reading of their keys.
+    const bool taken = lumui::ui::OfferReadings(inEvent, [](const auto& inReading) {
+      return vek::uisupport::KeyCommandManager::Get().RouteKeyEvent(inReading);
+    });
+    if (!taken) return false;
   } catch (...) {  // a key whose command fails has meant the command all the same
     lumui::ui::FlushPostActionKeyEvents(inEvent);
     throw;

@@ -5,67 +5,25 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "lumcore/utility/StringUtils.h"
-#include "lumscripting/ScriptError.h"
 #include "lumscripting/threads/DirectCall.h"
-#include "lumui/ui/Application.h"
+#include "support/RunningScripts.h"
+#include "support/TemporaryFolder.h"
 
 namespace {
 
-using lumcore::utility::ToStdString;
 using lumcore::utility::ToUTF16;
 using lumscripting::ScriptRunner;
 using lumscripting::ScriptValue;
 
 constexpr std::chrono::seconds kPatience(10);
 
-std::string AsText(const ScriptValue& inValue) {
-  if (const auto* truth = std::get_if<bool>(&inValue)) return *truth ? "true" : "false";
-  if (const auto* number = std::get_if<double>(&inValue))
-    return std::to_string(std::lround(*number));
-  if (const auto* text = std::get_if<lumcore::UTF16String>(&inValue)) return ToStdString(*text);
-  return "undefined";
-}
-
-std::string AsText(const std::exception_ptr& inFailure) {
-  try {
-    std::rethrow_exception(inFailure);
-  } catch (const std::exception& failure) {
-    return failure.what();
-  }
-}
-
-class Scripts : public testing::Test {
- protected:
-  Scripts() : mApplication(*lumui::ui::Application::Get()) {}
-
-  void Queue(const std::string& inProgram) {
-    mRunner.Run(ToUTF16(inProgram), ToUTF16("test.js"),
-                [this](const ScriptValue& inValue, const std::exception_ptr& inFailure) {
-                  mLog.push_back(inFailure ? "failed: " + AsText(inFailure) : AsText(inValue));
-                  mApplication.Quit();
-                });
-  }
-  // Runs the loop until the next script has ended.
-  std::string WaitForResult() {
-    mApplication.Run();
-    return mLog.back();
-  }
-  std::string Run(const std::string& inProgram) {
-    Queue(inProgram);
-    return WaitForResult();
-  }
-
-  lumui::ui::Application& mApplication;
-  ScriptRunner mRunner;
-  std::vector<std::string> mLog;
-};
+using Scripts = test_support::RunningScripts;
 
 TEST_F(Scripts, GiveTheValueOfTheirLastStatementOrTheirError) {
   EXPECT_EQ(Run("6 * 7"), "42");
@@ -81,11 +39,11 @@ TEST_F(Scripts, GiveTheValueOfTheirLastStatementOrTheirError) {
 TEST_F(Scripts, CallTheHostOnTheThreadOfTheUserInterface) {
   const auto uiThread = std::this_thread::get_id();
   std::vector<std::string> calls;
-  mRunner.AddFunction(ToUTF16("tell"), [&](const std::vector<ScriptValue>& inArguments) {
+  mRunner->AddFunction(ToUTF16("tell"), [&](const std::vector<ScriptValue>& inArguments) {
     EXPECT_EQ(std::this_thread::get_id(), uiThread);
     std::string call;
     for (const ScriptValue& argument : inArguments)
-      call += AsText(argument) + ";";
+      call += test_support::AsText(argument) + ";";
     calls.push_back(call);
     return ScriptValue(static_cast<double>(inArguments.size()));
   });
@@ -94,11 +52,11 @@ TEST_F(Scripts, CallTheHostOnTheThreadOfTheUserInterface) {
 }
 
 TEST_F(Scripts, SeeWhatTheHostThrowsAsAnExceptionOfTheirs) {
-  mRunner.AddFunction(ToUTF16("refuse"), [](const std::vector<ScriptValue>&) -> ScriptValue {
+  mRunner->AddFunction(ToUTF16("refuse"), [](const std::vector<ScriptValue>&) -> ScriptValue {
     throw std::runtime_error("not now");
   });
-  mRunner.AddFunction(ToUTF16("refuseOddly"),
-                      [](const std::vector<ScriptValue>&) -> ScriptValue { throw 7; });
+  mRunner->AddFunction(ToUTF16("refuseOddly"),
+                       [](const std::vector<ScriptValue>&) -> ScriptValue { throw 7; });
   EXPECT_EQ(Run("try { refuse(); } catch (e) { 'caught ' + e.message }"), "caught not now");
   EXPECT_EQ(Run("\nrefuse();"), "failed: test.js:2: Error: not now");
   EXPECT_EQ(Run("try { refuseOddly(); } catch (e) { e.message }"),
@@ -106,16 +64,16 @@ TEST_F(Scripts, SeeWhatTheHostThrowsAsAnExceptionOfTheirs) {
 }
 
 TEST_F(Scripts, ThatNeverEndCanBeStopped) {
-  mRunner.AddFunction(ToUTF16("stopMe"), [this](const std::vector<ScriptValue>&) {
-    mRunner.StopRunning();
+  mRunner->AddFunction(ToUTF16("stopMe"), [this](const std::vector<ScriptValue>&) {
+    mRunner->StopRunning();
     return ScriptValue();
   });
   const std::string stopped = "failed: test.js:0: The script was stopped.";
   EXPECT_EQ(Run("stopMe(); for (;;) {}"), stopped);
   EXPECT_EQ(Run("for (;;) { try { stopMe(); } catch (e) {} }"), stopped);
   // Neither the interruption nor the refusal of calls outlives the run that it was meant for.
-  mRunner.AddFunction(ToUTF16("answer"),
-                      [](const std::vector<ScriptValue>&) { return ScriptValue(42.0); });
+  mRunner->AddFunction(ToUTF16("answer"),
+                       [](const std::vector<ScriptValue>&) { return ScriptValue(42.0); });
   EXPECT_EQ(Run("answer()"), "42");
 }
 
@@ -129,9 +87,9 @@ TEST_F(Scripts, RunInTheOrderInWhichTheyWereQueued) {
 
 TEST_F(Scripts, DoNotKeepARunnerFromShuttingDown) {
   bool endedFromWithin = false;
-  mRunner.AddFunction(ToUTF16("shutDown"), [&](const std::vector<ScriptValue>&) {
+  mRunner->AddFunction(ToUTF16("shutDown"), [&](const std::vector<ScriptValue>&) {
     // The script thread waits for this very call.
-    endedFromWithin = mRunner.ShutDown(kPatience);
+    endedFromWithin = mRunner->ShutDown(kPatience);
     mApplication.Quit();
     return ScriptValue();
   });
@@ -172,6 +130,34 @@ TEST_F(Scripts, CallsFromOtherThreadsWaitAndPassFailuresOn) {
   mApplication.Run();
   caller.join();
   EXPECT_EQ(log, "ran;returned;no");
+}
+
+TEST_F(Scripts, ComeFromFilesAndTellWhatIsWrongWithThem) {
+  const TemporaryFolder folder;
+  const struct {
+    const char* bytes;
+    const char* result;  // begins with this; @ is the path
+  } rows[] = {
+      {"\xEF\xBB\xBF'gr\xC3\xBC\xC3\x9F'", "gr\xC3\xBC\xC3\x9F"},
+      {"", "undefined"},
+      {"1;\nfunction f() {\n  1", "failed: @:3: SyntaxError: "},
+      {"1;\n2;\n\nboom()", "failed: @:4: ReferenceError: boom is not defined"},
+      {"1;\n'\xFF'\n", "failed: @:2: The text is not UTF-8."},
+      {"1;\n2;\n'\xE2\x82", "failed: @:3: The text is not UTF-8."},  // in the middle of a character
+      {"\xFF\xFE'a'", "failed: @:1: The text is not UTF-8."},
+  };
+  const auto file = folder.GetFile("odd name#%41.js");
+  for (const auto& row : rows) {
+    file.ReplaceContents(row.bytes);
+    mRunner->RunFile(file, Completion());
+    std::string expected = row.result;
+    const auto at = expected.find('@');
+    if (at != std::string::npos) expected.replace(at, 1, file.GetPath());
+    EXPECT_EQ(WaitForResult().substr(0, expected.size()), expected);
+  }
+  file.Remove();
+  mRunner->RunFile(file, Completion());
+  EXPECT_NE(WaitForResult().find(file.GetPath()), std::string::npos);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <stdexcept>
+#include <string>
 
 #include "UITest.h"
 
@@ -157,6 +158,37 @@ TEST_F(EventGate, TypesCharactersButNoControlCharacters) {
   // One event for each UTF-16 unit, also from an input method, which sends no keys.
   input::CommitInputMethodText(*mWindow, U16("日\xF0\x9F\x8C\xB3"));
   EXPECT_EQ(TakeLog(), "b:char(800065e5) b:char(8000d83c) b:char(8000df33)");
+}
+
+TEST_F(EventGate, ThirdLevelCharactersAndNamelessKeysAreNoChords) {
+  mB->UI_SetKeyboardFocus(ui::kFocusOther);
+  mB->mTakes = true;
+  std::string claims;
+  App().SetShortcutClaim([&](const ui::KeyboardEvent& inEvent) {
+    claims += std::to_string(inEvent.GetCode().GetValue(true) & 0xFFFF) + " ";
+    return false;
+  });
+  Manager().EnableMnemonics();
+  TakeLog();
+  const ModifierKeys both(ui::kModCommand | ui::kModAlt);
+  const struct {
+    std::uint32_t key;
+    ModifierKeys modifiers;
+    const char* text;
+    const char* log;
+  } kRows[] = {
+      {0x80000051, both, "@", "b:down(80000040) b:char(80000040)"},
+      {0x80000031, both, "1", "b:down(80000031+14)"},
+      {0x80000051, both, "\x11", "b:down(80000051+14)"},
+      {0x80000051, ModifierKeys(ui::kModCommand), "q", "b:down(80000051+4)"},
+      {0, ModifierKeys(), "", ""},
+      {0, ModifierKeys(), "\xF0\x9F\x8C\xB3", "b:char(8000d83c) b:char(8000df33)"},
+  };
+  for (const auto& row : kRows) {
+    input::PressTypingKey(*mWindow, KeyboardCode(row.key), row.modifiers, U16(row.text));
+    EXPECT_EQ(TakeLog(), row.log) << row.key << " " << row.text;
+  }
+  EXPECT_EQ(claims, "64 49 81 81 ");
 }
 
 TEST_F(EventGate, AltMakesSystemMessages) {

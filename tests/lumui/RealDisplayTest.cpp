@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <cstdlib>
+#include <functional>
 #include <sstream>
 #include <thread>
 
@@ -51,9 +52,9 @@ class RealDisplay : public UITest {
     });
     mNode->UI_SetLocalRectF(Rect(10, 10, 100, 60));
     mNode->mTakes = true;
+    mNode->UI_SetWantsKeyboardFocus(true);  // dead keys are composed where text is wanted
     mNode->mOnKey = [this](const ui::KeyboardEvent& inEvent) {
-      const bool last = inEvent.GetCode() == kLastKey && inEvent.IsActionKeyUp();
-      if (last) App().Quit();
+      if (IsLastKey(inEvent) && inEvent.IsActionKeyUp()) App().Quit();
     };
     mWindow = new ui::OS_Window(&RefuseClose);
     mWindow->UI_SetLocalRectF(Rect(300, 200, 200, 100));
@@ -98,8 +99,56 @@ class RealDisplay : public UITest {
            std::to_string(static_cast<int>(place.y) + inY);
   }
 
+  // What a layout makes of keys, which are sent by their places: the readings of each press,
+  // "CS+7|C+/", and what was typed, "'/'".
+  std::string KeysOf(const std::string& inLayout, const std::string& inActions) {
+    if (inLayout != mLayout) {
+      EXPECT_EQ(std::system(("setxkbmap " + inLayout).c_str()), 0);
+      mLayout = inLayout;
+    }
+    std::string keys;
+    const auto quitAtLastKey = mNode->mOnKey;
+    mNode->mOnKey = [&](const ui::KeyboardEvent& inEvent) {
+      if (!IsLastKey(inEvent)) keys += Describe(inEvent);
+      quitAtLastKey(inEvent);
+    };
+    Send(inActions);
+    mNode->mOnKey = quitAtLastKey;
+    return keys.substr(0, keys.find_last_not_of(' ') + 1);
+  }
+  static bool IsLastKey(const ui::KeyboardEvent& inEvent) {
+    return inEvent.GetCode() == KeyboardCode(0x12);
+  }
+  static std::string Name(KeyboardCode inCode) {
+    std::ostringstream name;
+    if (inCode.IsPrintable()) {
+      const lumcore::UTF16String character(1, inCode.GetCharacter());
+      name << (inCode.IsExtended() ? "pad" : "") << Text(lumcore::utility::ToUTF8(character));
+    } else {
+      name << "#" << std::hex << inCode.GetValue(true);
+    }
+    return name.str();
+  }
+  static std::string Describe(const ui::KeyboardEvent& inEvent) {
+    if (inEvent.GetNumCharacters() == 1) return "'" + Name(inEvent.GetCode()) + "' ";
+    const unsigned control = inEvent.GetCode().GetControlCode(false);
+    const bool modifier = control >= KeyboardCode::kNumLock && control <= KeyboardCode::kSystemKey;
+    if (!inEvent.IsActionKeyDown() || modifier) return "";
+    std::string readings;
+    ui::OfferReadings(inEvent, [&](const ui::KeyboardEvent& inReading) {
+      const ui::ModifierKeys held = inReading.GetModKey();
+      const std::string modifiers = std::string(held.Has(ui::kModCommand) ? "C" : "") +
+                                    (held.Has(ui::kModShift) ? "S" : "") +
+                                    (held.Has(ui::kModAlt) ? "A" : "");
+      readings += (readings.empty() ? "" : "|") + modifiers + (modifiers.empty() ? "" : "+") +
+                  Name(inReading.GetCode());
+      return false;
+    });
+    return readings + " ";
+  }
+
   static constexpr int kRounds = 20;
-  const KeyboardCode kLastKey{0x12};
+  std::string mLayout = "us";
   boost::intrusive_ptr<ui::OS_Window> mWindow;
   boost::intrusive_ptr<RecordingNode> mNode;
 };
@@ -117,6 +166,47 @@ TEST_F(RealDisplay, KeysComeOnceAndAreNamedByTheirCaps) {
   ExpectLog("key KP_Add key KP_Left key Left",
             "node:down(c000002b) node:char(8000002b) node:up(c000002b) node:down(4000002a) "
             "node:up(4000002a) node:down(2a) node:up(2a)");
+}
+
+// The numbers are the places: 24, 38 and 52 are Q, A and Z of a Latin keyboard, 10 and 16 its 1 and
+// 7, 61 its slash, 91 the number pad's dot.
+TEST_F(RealDisplay, KeysHaveTheReadingsOfTheirLayout) {
+  const std::string ctrl = "keydown ctrl ";
+  const std::string ctrlShift = "keydown ctrl keydown shift ";
+  const std::string ctrlUp = " keyup ctrl ";
+  const std::string ctrlShiftUp = " keyup shift keyup ctrl ";
+  const struct {
+    const char* layout;
+    std::string actions;
+    const char* keys;
+  } kRows[] = {
+      {"us", ctrlShift + "key 52 key 21" + ctrlShiftUp, "CS+Z CS+=|C++"},
+      {"us", "key Caps_Lock key 52 " + ctrl + "key 52" + ctrlUp + "key Caps_Lock", "Z 'Z' C+Z"},
+      {"us", "keydown shift key 10 keyup shift key 61", "S+1|! '!' / '/'"},
+      {"us", "key 83 keydown shift key 83 keyup shift", "#4000002a S+#4000002a"},
+      {"us", "key Num_Lock key 83 keydown shift key 83 keyup shift key Num_Lock",
+       "pad4 '4' #4000002a"},
+      {"us", "keydown ctrl keydown alt key 10 key 24 keyup alt keyup ctrl", "CA+1 CA+Q"},
+      {"ru", "key 52 " + ctrl + "key 52 key 61" + ctrlUp, "Я|Z 'я' C+Я|C+Z C+.|C+/"},
+      {"ru", ctrlShift + "key 52 key 61 key 10" + ctrlShiftUp, "CS+Я|CS+Z CS+.|CS+/|C+, CS+1|C+!"},
+      {"gr", ctrl + "key 24 key 38" + ctrlUp, "C+;|C+Q C+Α|C+A"},
+      {"il", ctrl + "key 24 key 25 key 47" + ctrlUp, "C+/|C+Q C+'|C+W C+ף|C+;"},
+      {"de", ctrlShift + "key 16 key 52" + ctrlShiftUp, "CS+7|C+/ CS+Y"},
+      {"de", ctrl + "key 47 key 61" + ctrlUp + "keydown 108 key 24 key 16 keyup 108",
+       "C+Ö C+- @ '@' { '{'"},
+      {"de", "key Num_Lock key 91 key Num_Lock", "pad,|pad. ','"},
+      {"fr", ctrl + "key 10 key 24 key 58" + ctrlUp, "C+&|C+1 C+A C+,"},
+      {"fr", ctrlShift + "key 10" + ctrlShiftUp, "CS+&|CS+1|C+1"},
+      {"cz", ctrl + "key 11 key 29" + ctrlUp, "C+Ě|C+2 C+Z"},
+      {"us -variant dvorak", ctrl + "key 24 key 25" + ctrlUp, "C+' C+,"},
+      // Dead keys: the accent and the letter become one character, and no key comes of the accent.
+      {"us -variant intl", "key 48 key 26", "'é'"},
+      // The user's own Latin layout says where its keys are.
+      {"ru,fr", ctrl + "key 52" + ctrlUp, "C+Я|C+W"},
+  };
+  for (const auto& row : kRows)
+    EXPECT_EQ(KeysOf(row.layout, row.actions), row.keys) << row.layout << ": " << row.actions;
+  KeysOf("us", "");
 }
 
 TEST_F(RealDisplay, ClicksWheelsAndDragsComeOnce) {

@@ -6,6 +6,7 @@
 #include <boost/container/small_vector.hpp>
 
 #include "vek/uisupport/CommandAttachment.h"
+#include "vek/uisupport/scripting/FireCommandEvent.h"
 
 namespace vek::uisupport {
 
@@ -83,7 +84,9 @@ bool CommandHandler::DoCallEndHoldCommand(int inCommand) {
 }
 
 // Through a copy: the turn calls those that stood here when it began, whatever they add or remove.
+// Scripts hear of the command before anybody is asked, whoever takes it then.
 bool CommandHandler::HandleCommand(int inCommand) {
+  if (IsScriptEventsEnabled()) scripting::FireCommandEvent(inCommand, mGetScriptTarget);
   const AttachmentsCopy attachments(mAttachments.begin(), mAttachments.end());
   for (CommandAttachment* attachment : attachments) {
     if (attachment->DoHandleCommand(inCommand)) return true;

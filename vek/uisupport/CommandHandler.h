@@ -43,7 +43,9 @@ class VEK_API CommandHandler : public CommandHandlerBase {
   void SetParentHandler(CommandHandler* inParent);
   CommandHandler* GetParentHandler() const { return mParent; }
 
-  // Gives the object that scripts see as the target of commands executed here.
+  // From now on scripts hear of each command that a walk brings here, as a CommandEvent at the
+  // object that inGetTarget gives: a lumscripting::ScriptObject, such as ScriptRunner::FindObject
+  // has. Of a handler that a walk asks twice they hear twice. An empty function is none.
   void EnableScriptEvents(const ScriptTargetFunction& inGetTarget);
   void DisableScriptEvents();
   bool IsScriptEventsEnabled() const { return !mGetScriptTarget.empty(); }

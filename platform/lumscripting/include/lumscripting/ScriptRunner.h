@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <boost/intrusive_ptr.hpp>
 #include <chrono>
 #include <exception>
 #include <functional>
@@ -10,17 +11,25 @@
 #include <vector>
 
 #include "lumcore/Strings.h"
+#include "lumcore/filesupport/File.h"
 #include "lumscripting/Export.h"
+#include "lumscripting/ScriptDefinition.h"
+#include "lumscripting/ScriptObject.h"
 #include "lumscripting/ScriptValue.h"
 
 namespace lumscripting {
 
+class HostSide;
+class ScriptWorker;
+
 // Runs scripts, one after the other, on a thread of its own. Scripts reach the host through the
-// functions that it adds; those run on the user interface thread while the script waits. A script
-// that never ends can be stopped, and a runner that dies stops what it runs: neither thread hangs.
+// objects of the ScriptRegistry and the functions that the host adds; both run on the user
+// interface thread while the script waits. Between scripts, the listeners that they have added hear
+// the events that were queued. A script or a listener that never ends can be stopped, and a runner
+// that dies stops what it runs: neither thread hangs.
 //
 // One thread makes a runner, uses it and destroys it, that of the user interface, while the
-// application object lives.
+// application object lives. What the host hands over is kept, called and destroyed there.
 class LUMSCRIPTING_API ScriptRunner {
  public:
   // What it throws becomes an exception in the script.
@@ -28,6 +37,7 @@ class LUMSCRIPTING_API ScriptRunner {
   // Called on the user interface thread with the value of the script's last statement, or with what
   // went wrong: a ScriptError, also for a script that was stopped.
   using Completion = std::function<void(const ScriptValue& inValue, std::exception_ptr inFailure)>;
+  using FailureFunction = std::function<void(const std::exception_ptr& inFailure)>;
 
   ScriptRunner();
   ~ScriptRunner();
@@ -36,20 +46,36 @@ class LUMSCRIPTING_API ScriptRunner {
 
   // A global function of all scripts that are queued from now on. Adding a name again replaces it.
   void AddFunction(const lumcore::UTF16String& inName, HostFunction inFunction);
+  // Gets the failures that no completion hears of: those of listeners, of events, of a registered
+  // object that could not be made, and of scripts without a completion. Without a function they go
+  // to the application's error function.
+  void SetFailureFunction(FailureFunction inFunction);
 
   // Queues a script. inFile stands in its errors. The completion is dropped when the runner dies.
   void Run(const lumcore::UTF16String& inProgram, const lumcore::UTF16String& inFile,
            Completion inCompletion);
-  // Stops the script that runs now, if any; the queued ones run on.
+  // The same with the content of a file, which is read now and has to be UTF-8. The completion also
+  // hears of a FileError, and of a ScriptError with the line that is not UTF-8.
+  void RunFile(const lumcore::filesupport::File& inFile, Completion inCompletion);
+  // Stops the script, or the listener, that runs now, if any; the queued ones run on.
   void StopRunning();
 
-  // Stops the running script, drops the queued ones and waits for the thread. False when the thread
-  // did not end in time: it is in a built-in operation that cannot be stopped, and is left behind.
+  // What the scripts of this runner see of the ScriptRegistry, by name. The first call, or the
+  // first script, makes the objects. Null where there is no such object.
+  boost::intrusive_ptr<ScriptObject> FindObject(const lumcore::UTF16String& inName);
+  std::vector<ScriptDefinition> GetDefinitions();
+
+  // Stops the running script, drops the queued ones with the events and waits for the thread. False
+  // when the thread did not end in time: it is in a built-in operation that cannot be stopped, and
+  // is left behind.
   bool ShutDown(std::chrono::milliseconds inPatience);
 
  private:
-  class Worker;
-  std::shared_ptr<Worker> mWorker;
+  void MakeObjects();
+  void Queue(lumcore::UTF16String inProgram, lumcore::UTF16String inFile, Completion inCompletion);
+
+  std::shared_ptr<HostSide> mHostSide;
+  std::shared_ptr<ScriptWorker> mWorker;
 };
 
 }  // namespace lumscripting

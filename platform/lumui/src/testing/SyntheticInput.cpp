@@ -93,15 +93,20 @@ QString TextOf(ui::KeyboardCode inKey, ui::ModifierKeys inModifiers) {
   }
 }
 
+void SendQtKey(ui::OS_Window& inWindow, QEvent::Type inType, const ui::QtKey& inKey,
+               ui::ModifierKeys inModifiers, const QString& inText, bool inRepeat) {
+  Qt::KeyboardModifiers modifiers = ui::QtFromModifiers(inModifiers);
+  modifiers.setFlag(Qt::KeypadModifier, inKey.keypad);
+  System::handleExtendedKeyEvent(NativeWindow(inWindow), NextTime(kApart), inType, inKey.key,
+                                 modifiers, 0, 0, 0, inText, inRepeat);
+  System::sendWindowSystemEvents(QEventLoop::AllEvents);
+}
+
 void SendKey(ui::OS_Window& inWindow, QEvent::Type inType, ui::KeyboardCode inKey,
              ui::ModifierKeys inModifiers, const QString& inText, bool inRepeat) {
   const ui::QtKey key = ui::QtFromCode(inKey);
   LUM_INPUT_CONTRACT(key.key != 0);
-  Qt::KeyboardModifiers modifiers = ui::QtFromModifiers(inModifiers);
-  modifiers.setFlag(Qt::KeypadModifier, key.keypad);
-  System::handleExtendedKeyEvent(NativeWindow(inWindow), NextTime(kApart), inType, key.key,
-                                 modifiers, 0, 0, 0, inText, inRepeat);
-  System::sendWindowSystemEvents(QEventLoop::AllEvents);
+  SendQtKey(inWindow, inType, key, inModifiers, inText, inRepeat);
 }
 
 }  // namespace
@@ -122,6 +127,14 @@ void TapKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey, ui::ModifierKeys in
   const lumcore::utility::StKeepAlive keepAlive(inWindow);
   PressKey(inWindow, inKey, inModifiers);
   if (inWindow.UI_GetHandle()) ReleaseKey(inWindow, inKey, inModifiers);
+}
+
+void PressTypingKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey, ui::ModifierKeys inModifiers,
+                    const lumcore::UTF16String& inText) {
+  const bool named = inKey != ui::KeyboardCode();
+  SendQtKey(inWindow, QEvent::KeyPress,
+            named ? ui::QtFromCode(inKey) : ui::QtKey{Qt::Key_unknown, false}, inModifiers,
+            drawbot::ToQt(inText), false);
 }
 
 void TypeText(ui::OS_Window& inWindow, const lumcore::UTF16String& inText) {

@@ -50,6 +50,13 @@ bool IsPassing(const QWindow& inNative) {
          inNative.flags().testFlag(Qt::WindowTransparentForInput);
 }
 
+// The user's input, which keeps its order. The override comes before the press that it belongs to.
+bool IsInput(QEvent::Type inType) {
+  return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
+         inType == QEvent::KeyRelease || inType == QEvent::ShortcutOverride ||
+         inType == QEvent::FocusOut || inType == QEvent::Close;
+}
+
 bool IsRoutedToNodes(QEvent::Type inType) {
   return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
          inType == QEvent::KeyRelease;
@@ -75,7 +82,13 @@ bool IsTyped(QChar inCharacter) {
 }  // namespace
 
 EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
-    : QApplication(ioArgumentCount, ioArguments) {
+    : QApplication(ioArgumentCount, ioArguments),
+      mHeldRelease([this](QWindow& inNative, QKeyEvent& inRelease) {
+        OS_Window* const window = FindWindowOf(inNative);
+        if (!window) return;
+        const lumcore::utility::StKeepAlive keepAlive(*window);
+        DispatchKey(*window, inNative, inRelease, false);
+      }) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
@@ -123,6 +136,9 @@ bool EventGate::Route(QObject* inReceiver, QEvent* inEvent) {
 bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
     NodeManagerImpl().capture.End(true);
+  }
+  if (inEvent.spontaneous() && IsInput(inEvent.type()) && !RepeatsHeldRelease(inEvent)) {
+    mHeldRelease.Flush();
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
   if (!window) return RouteForeign(inNative, inEvent);
@@ -243,11 +259,26 @@ bool EventGate::HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEv
   return handled;
 }
 
+bool EventGate::RepeatsHeldRelease(const QEvent& inEvent) const {
+  const bool press =
+      inEvent.type() == QEvent::KeyPress || inEvent.type() == QEvent::ShortcutOverride;
+  return press && mHeldRelease.IsRepeatedBy(static_cast<const QKeyEvent&>(inEvent));
+}
+
 bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent) {
   // Some window systems repeat a held key as release and press; only the presses are told.
-  if (inEvent.type() == QEvent::KeyRelease && inEvent.isAutoRepeat()) return true;
+  if (inEvent.type() == QEvent::KeyRelease) {
+    if (inEvent.isAutoRepeat() || mHeldRelease.Hold(inNative, inEvent)) return true;
+  }
+  const bool repeat = inEvent.isAutoRepeat() || RepeatsHeldRelease(inEvent);
+  if (inEvent.type() == QEvent::KeyPress) mHeldRelease.Drop();
+  return DispatchKey(inWindow, inNative, inEvent, repeat);
+}
+
+bool EventGate::DispatchKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent,
+                            bool inRepeat) {
   KeyState key;
-  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inRepeat);
   OS_Event os = *key.event.GetOSEvent();
   bool handled = true;
   bool passed = false;
@@ -260,7 +291,7 @@ bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inE
     return true;
   }
   const ModifierKeys modifiers = key.event.GetModKey();
-  const bool chord = modifiers.Has(kModCommand) && !modifiers.Has(kModAlt);
+  const bool chord = modifiers.Has(kModCommand);
   const bool takenByControl = inEvent.isAccepted() && !key.takenByNode;
   if (key.event.IsActionKeyDown() && !key.charactersDropped && !chord && !takenByControl) {
     const lumcore::utility::StScopedValue<ModifierKeys> typing(mTypingModifiers, modifiers);
@@ -301,10 +332,13 @@ void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
 
 bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
   if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
-  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent);
+  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent,
+                                         inEvent.isAutoRepeat() || RepeatsHeldRelease(inEvent));
   bool claimed = !NodeManagerImpl().mnemonics;
   const auto claim = mShortcutClaim;
-  if (claim) RunGuarded([&] { claimed = claim(event) || claimed; });
+  if (claim && event.GetCode() != KeyboardCode()) {
+    RunGuarded([&] { claimed = OfferReadings(event, claim) || claimed; });
+  }
   if (claimed) inEvent.accept();
   return claimed;
 }

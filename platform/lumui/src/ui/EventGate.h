@@ -13,6 +13,7 @@
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/OS_Event.h"
 #include "lumui/ui/UI_Node.h"
+#include "ui/HeldRelease.h"
 
 class QKeyEvent;
 class QMouseEvent;
@@ -89,6 +90,8 @@ class LUMUI_API EventGate : public QApplication {
   bool HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEvent& inEvent);
   bool HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEvent);
   bool HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent);
+  bool DispatchKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent, bool inRepeat);
+  bool RepeatsHeldRelease(const QEvent& inEvent) const;
   bool HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent);
   bool HandleClose(OS_Window& inWindow, QEvent& inEvent);
   bool HandleQuit();
@@ -107,6 +110,7 @@ class LUMUI_API EventGate : public QApplication {
   UI_Node* mStartNode = nullptr;
   OS_Event mCurrentOSEvent;
   KeyState* mKey = nullptr;
+  HeldRelease mHeldRelease;
 };
 
 }  // namespace lumui::ui

@@ -154,6 +154,8 @@ bool NodePeer::HandleKey(QKeyEvent& inEvent) {
   EventGate* const gate = EventGate::Get();
   if (!gate->GetCurrentKey()) return false;
   const KeyboardEvent event = *gate->GetCurrentKey();
+  // A key without a code is no key to a node; what it types comes as characters.
+  if (event.GetCode() == KeyboardCode()) return false;
   const QPointer<QWidget> widget = mWidget;
   const bool decided = Offer(inEvent, [&](UI_Node* inStart) {
     const bool taken = mNode->UI_DoKeyboardEvent(inStart, event);

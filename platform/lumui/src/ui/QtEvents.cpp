@@ -3,15 +3,13 @@
 
 #include "ui/QtEvents.h"
 
-#include <private/qkeymapper_p.h>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 #include <cmath>
 #include <cstdlib>
-#include <memory>
 
-#include "ui/KeyTable.h"
+#include "ui/KeyReadings.h"
 
 namespace lumui::ui {
 
@@ -90,28 +88,7 @@ ModifierKeys WithOwnKey(ModifierKeys inModifiers, KeyboardCode inCode, bool inDo
   return inModifiers;
 }
 
-// Qt has told combinations as int and later as a type of their own.
-int KeyOf(int inCombination) {
-  return inCombination & ~static_cast<int>(Qt::KeyboardModifierMask);
-}
-[[maybe_unused]] int KeyOf(QKeyCombination inCombination) {
-  return inCombination.key();
-}
-
-// With Shift, Qt names the character that the key types, "!" for the key with the "1". The
-// keyboard's layout tells the cap: the first of the possible keys is the one without Shift.
-int KeyOnCap(const QKeyEvent& inEvent) {
-  const int key = inEvent.key();
-  const bool character = key > Qt::Key_Space && key <= 0xFFFF;
-  if (!character || !inEvent.modifiers().testFlag(Qt::ShiftModifier)) return key;
-  const std::unique_ptr<QKeyEvent> copy(inEvent.clone());
-  const auto possible = QKeyMapper::possibleKeys(copy.get());
-  const int cap = possible.isEmpty() ? key : KeyOf(possible.first());
-  return cap > Qt::Key_Space && cap <= 0xFFFF ? cap : key;
-}
-
-// Alt alone makes the system's variants of the key messages; with Ctrl it types third-level
-// characters.
+// Alt alone makes the system's variants of the key messages.
 bool IsSystemKey(ModifierKeys inModifiers) {
   return inModifiers.Has(kModAlt) && !inModifiers.Has(kModCommand);
 }
@@ -186,23 +163,28 @@ OS_Event OSEventOf(HWND inWindow, const QWheelEvent& inEvent) {
                   PackedPosition(inEvent.globalPosition()));
 }
 
-KeyboardEvent KeyEventOf(HWND inWindow, const QKeyEvent& inEvent) {
+KeyboardEvent KeyEventOf(HWND inWindow, const QKeyEvent& inEvent, bool inRepeat) {
   const bool down = inEvent.type() != QEvent::KeyRelease;
-  const KeyboardCode code =
-      CodeFromQt(QtKey{KeyOnCap(inEvent), inEvent.modifiers().testFlag(Qt::KeypadModifier)});
-  const ModifierKeys modifiers = WithOwnKey(ModifiersFromQt(inEvent.modifiers()), code, down);
+  const KeyReadings readings = ReadKey(inEvent);
+  // AltGr has Alt's code and is no modifier.
+  const ModifierKeys modifiers = inEvent.key() == Qt::Key_AltGr
+                                     ? readings.modifiers
+                                     : WithOwnKey(readings.modifiers, readings.code, down);
   const bool system = IsSystemKey(modifiers);
-  const int osCode = code.GetOSCode();
+  const int ownOSCode = readings.code.GetOSCode();
+  const int osCode = ownOSCode != 0 ? ownOSCode : readings.latinCode.GetOSCode();
   const unsigned message = down ? (system ? kMessageSysKeyDown : kMessageKeyDown)
                                 : (system ? kMessageSysKeyUp : kMessageKeyUp);
   LPARAM details = 1;
   if (osCode < 0) details |= kKeyExtended;
   if (system) details |= kKeyWithAlt;
-  if (!down || inEvent.isAutoRepeat()) details |= kKeyWasDown;
+  if (!down || inRepeat) details |= kKeyWasDown;
   if (!down) details |= kKeyGoesUp;
   const OS_Event os(inWindow, message, static_cast<WPARAM>(std::abs(osCode)), details);
-  return KeyboardEvent(down ? KeyboardEvent::kActionKeyDown : KeyboardEvent::kActionKeyUp, code,
-                       modifiers, inEvent.isAutoRepeat(), os);
+  KeyboardEvent event(down ? KeyboardEvent::kActionKeyDown : KeyboardEvent::kActionKeyUp,
+                      readings.code, modifiers, inRepeat, os);
+  event.SetOtherCodes(readings.latinCode, readings.shiftedCode);
+  return event;
 }
 
 KeyboardEvent CharacterEventOf(HWND inWindow, unsigned short inCharacter,

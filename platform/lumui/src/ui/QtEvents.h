@@ -28,7 +28,7 @@ bool IsPressOfDoubleClick(const QMouseEvent& inEvent);
 // inTop is where the nodes begin in the native window.
 OS_Event OSEventOf(HWND inWindow, int inTop, const QMouseEvent& inEvent);
 OS_Event OSEventOf(HWND inWindow, const QWheelEvent& inEvent);
-KeyboardEvent KeyEventOf(HWND inWindow, const QKeyEvent& inEvent);
+KeyboardEvent KeyEventOf(HWND inWindow, const QKeyEvent& inEvent, bool inRepeat);
 KeyboardEvent CharacterEventOf(HWND inWindow, unsigned short inCharacter, ModifierKeys inModifiers);
 
 // The same event as a node sees it that has the pointer at inPosition.

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include <QByteArray>
+#include <QGuiApplication>
+#include <QKeyEvent>
 
 #include "ui/ApplicationImpl.h"
+#include "ui/KeyPlaces.h"
 
 namespace lumui::ui {
 
@@ -11,6 +14,9 @@ namespace {
 
 constexpr char kVariable[] = "QT_QPA_PLATFORM";
 bool sChosen = false;
+
+// X11 leaves the first eight key codes to itself, and Wayland's layouts keep that.
+constexpr quint32 kFirstKeyCode = 8;
 
 }  // namespace
 
@@ -25,6 +31,20 @@ void ChooseWindowSystem() {
 void ForgetWindowSystem() {
   if (sChosen) qunsetenv(kVariable);
   sChosen = false;
+}
+
+int PlaceOf(const QKeyEvent& inEvent) {
+  const quint32 keyCode = inEvent.nativeScanCode();
+  return keyCode > kFirstKeyCode ? static_cast<int>(keyCode - kFirstKeyCode) : 0;
+}
+
+std::unique_ptr<QKeyEvent> MakePressAt(int inPlace) {
+  return std::make_unique<QKeyEvent>(QEvent::KeyPress, 0, Qt::NoModifier,
+                                     static_cast<quint32>(inPlace) + kFirstKeyCode, 0, 0);
+}
+
+bool RepeatsByReleases() {
+  return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
 }  // namespace lumui::ui

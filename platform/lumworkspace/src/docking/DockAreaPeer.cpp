@@ -49,7 +49,9 @@ class DockArea::Peer::Style : public QProxyStyle {
 class DockArea::Peer::Main : public lumui::ui::NodeWidgetT<QMainWindow> {
  public:
   Main(Peer& inPeer, QWidget* inParent, const workspace::DockMetrics& inMetrics)
-      : NodeWidgetT<QMainWindow>(inPeer, inParent, Qt::Widget), mStyle(inMetrics) {
+      : NodeWidgetT<QMainWindow>(inPeer, inParent), mStyle(inMetrics) {
+    // Qt makes it a window of its own whatever it is told at first.
+    setWindowFlags(Qt::Widget);
     setStyle(&mStyle);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setDockOptions(AllowTabbedDocks | AllowNestedDocks);
@@ -75,7 +77,7 @@ class DockArea::Peer::Main : public lumui::ui::NodeWidgetT<QMainWindow> {
     auto* const bar = qobject_cast<QTabBar*>(inChild);
     if (!bar) return;
     bar->setStyle(&mStyle);
-    bar->setElideMode(Qt::ElideNone);
+    bar->setElideMode(Qt::ElideRight);
     bar->setUsesScrollButtons(true);
     bar->setDocumentMode(true);
   }

@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPalette>
 #include <QStyle>
 #include <QToolButton>
 #include <utility>
@@ -32,6 +33,8 @@ TitleBar::TitleBar(QWidget* inParent, Actions inActions)
     : QWidget(inParent), mLabel(new QLabel(this)) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(kMargin, 1, 1, 1);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Midlight);
   row->setSpacing(0);
   mLabel->setTextFormat(Qt::PlainText);
   mLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

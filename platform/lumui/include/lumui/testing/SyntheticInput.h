@@ -27,6 +27,10 @@ LUMUI_API void ReleaseKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey,
                           ui::ModifierKeys inModifiers = ui::ModifierKeys());
 LUMUI_API void TapKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey,
                       ui::ModifierKeys inModifiers = ui::ModifierKeys());
+// A key that types something else than its cap: a character of the third level, which some systems
+// tell with Ctrl and Alt, or of a key without a code (no key).
+LUMUI_API void PressTypingKey(ui::OS_Window& inWindow, ui::KeyboardCode inKey,
+                              ui::ModifierKeys inModifiers, const lumcore::UTF16String& inText);
 // Taps the keys that type the text, one after the other.
 LUMUI_API void TypeText(ui::OS_Window& inWindow, const lumcore::UTF16String& inText);
 // Text as an input method commits it, without keys.

@@ -54,6 +54,7 @@ class LUMUI_API Application {
   // brings the error manager back.
   void SetErrorFunction(ErrorFunction inFunction);
   // True keeps a key press from opening a menu by its mnemonic: the press then comes as an event.
+  // Asked with each reading of the key until it answers true.
   void SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inClaim);
   // Asked before the window gets the press; true keeps it from the window.
   void SetForeignPressHook(std::function<bool(const ForeignPress&)> inHook);

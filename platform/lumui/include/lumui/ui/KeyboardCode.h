@@ -11,7 +11,10 @@ namespace lumui::ui {
 
 // Names one key in 32 bits, so that it can be stored. Bit 31 marks a character, upper case as on
 // the key cap; bit 30 the number pad's key or the extended form of a key that exists twice; the
-// other bits are a UTF-16 unit or a control code (one of the ControlCode constants). 0 is no key.
+// other bits are a UTF-16 unit or a control code (one of the ControlCode constants). 0 is no key:
+// it stands for a key that could not be named, and since no event of a key carries it, what is
+// mapped to it never runs. Without a code are the dead keys, the media, browser and launch keys and
+// those whose character is beyond 16 bits.
 class LUMUI_API KeyboardCode {
  public:
   enum ControlCode : unsigned short {
