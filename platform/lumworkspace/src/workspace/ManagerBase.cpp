@@ -21,6 +21,10 @@ using lumcore::UTF16String;
 // What file systems take.
 constexpr std::size_t kLongestFileName = 255;
 
+UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+}
+
 }  // namespace
 
 ManagerBase::ManagerBase() = default;
@@ -42,26 +46,29 @@ bool ManagerBase::RenameWorkspace(const UTF16String&, const UTF16String&) {
 
 void ManagerBase::SetWorkspaceOrder(const std::vector<UTF16String>&) {}
 
-UTF16String ManagerBase::CheckName(const UTF16String& inName, const UTF16String& inExcept) const {
-  const auto localized = [](const char* inKey) {
-    return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-  };
+UTF16String ManagerBase::CheckNameAlone(const UTF16String& inName) {
   const auto isSpace = [](unsigned short inUnit) { return inUnit <= ' ' || inUnit == 0xA0; };
   if (std::all_of(inName.begin(), inName.end(), isSpace)) {
-    return localized("$$$/lumworkspace/Error/EmptyName=A workspace needs a name.");
+    return Localized("$$$/lumworkspace/Error/EmptyName=A workspace needs a name.");
   }
   if (isSpace(inName.front()) || isSpace(inName.back())) {
-    return localized(
+    return Localized(
         "$$$/lumworkspace/Error/NameSpace=A name begins and ends with something to be seen.");
   }
   if (WorkspaceFileName(inName).size() > kLongestFileName) {
-    return localized("$$$/lumworkspace/Error/LongName=The name is too long.");
+    return Localized("$$$/lumworkspace/Error/LongName=The name is too long.");
   }
+  return UTF16String();
+}
+
+UTF16String ManagerBase::CheckName(const UTF16String& inName, const UTF16String& inExcept) const {
+  const UTF16String cause = CheckNameAlone(inName);
+  if (!cause.empty()) return cause;
   const auto folded = lumcore::utility::FoldCase(inName);
   for (const UTF16String& name : GetWorkspaceNames()) {
     if (name == inExcept || lumcore::utility::FoldCase(name) != folded) continue;
     return lumcore::utility::ReplaceInString(
-        localized("$$$/lumworkspace/Error/NameTaken=There is a workspace \"@0\" already."), {name});
+        Localized("$$$/lumworkspace/Error/NameTaken=There is a workspace \"@0\" already."), {name});
   }
   return UTF16String();
 }

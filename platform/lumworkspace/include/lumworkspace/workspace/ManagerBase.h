@@ -52,9 +52,10 @@ class LUMWORKSPACE_API ManagerBase {
   // The named ones stand in this order, in front of the others.
   virtual void SetWorkspaceOrder(const std::vector<lumcore::UTF16String>& inNames);
 
-  // The cause why a workspace may not get this name, for the user; empty where it may. Names that
-  // differ in case alone are too much alike. inExcept, which may be empty, is about to lose its
-  // own.
+  // The cause why no workspace may have this name, for the user; empty where one may.
+  static lumcore::UTF16String CheckNameAlone(const lumcore::UTF16String& inName);
+  // The same, counting that others have theirs: names that differ in case alone are too much alike.
+  // inExcept, which may be empty, is about to lose its own.
   lumcore::UTF16String CheckName(const lumcore::UTF16String& inName,
                                  const lumcore::UTF16String& inExcept) const;
 
