@@ -3,6 +3,7 @@
 
 #include "lumui/testing/SyntheticInput.h"
 
+#include <qpa/qplatformdrag.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <QCoreApplication>

@@ -39,6 +39,13 @@ bool IsPointerEvent(QEvent::Type inType) {
          inType == QEvent::MouseButtonDblClick || inType == QEvent::MouseMove;
 }
 
+// The user's input, which keeps its order. The override comes before the press that it belongs to.
+bool IsInput(QEvent::Type inType) {
+  return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
+         inType == QEvent::KeyRelease || inType == QEvent::ShortcutOverride ||
+         inType == QEvent::FocusOut || inType == QEvent::Close;
+}
+
 bool IsPress(QEvent::Type inType) {
   return inType == QEvent::MouseButtonPress || inType == QEvent::MouseButtonDblClick;
 }
@@ -48,13 +55,6 @@ bool IsPassing(const QWindow& inNative) {
   const Qt::WindowType type = inNative.type();
   return type == Qt::Popup || type == Qt::ToolTip || type == Qt::SplashScreen ||
          inNative.flags().testFlag(Qt::WindowTransparentForInput);
-}
-
-// The user's input, which keeps its order. The override comes before the press that it belongs to.
-bool IsInput(QEvent::Type inType) {
-  return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
-         inType == QEvent::KeyRelease || inType == QEvent::ShortcutOverride ||
-         inType == QEvent::FocusOut || inType == QEvent::Close;
 }
 
 bool IsRoutedToNodes(QEvent::Type inType) {
