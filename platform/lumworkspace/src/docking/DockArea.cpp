@@ -275,7 +275,10 @@ void DockArea::CaptureTabs(Item& ioRoot) const {
                                group.types.end())) {
         continue;
       }
-      ioGroup.current = group.current;
+      // The one that shall be in front may not be there at present.
+      const layout::Tab* const front =
+          FrontTab(ioGroup, [&](const UTF8String& inType) { return IsShown(inType); });
+      if (!front || front->type != group.current) ioGroup.current = group.current;
       // The closed ones keep their positions among the others.
       std::size_t next = 0;
       for (layout::Tab& tab : ioGroup.tabs) {
