@@ -118,6 +118,8 @@ void DockArea::Arrange(const Roots& inRoots, int inWidth, int inHeight, const Fi
     frame->GetFramePeer().GetDock()->show();
     frame->GetFramePeer().ShowTitle();
   }
+  ApplySizes();
+  // Only now, also in a window that is not shown yet, is there a tab for each.
   for (const Item& root : inRoots) {
     Item copy = root;
     ForEachGroup(copy, [&](Item& ioGroup) {
@@ -127,7 +129,6 @@ void DockArea::Arrange(const Roots& inRoots, int inWidth, int inHeight, const Fi
       return false;
     });
   }
-  ApplySizes();
   main->setUpdatesEnabled(true);
 }
 
