@@ -54,7 +54,7 @@ TEST_F(Panels, AreReadBackFromTheScreenOnceTheUserHasMovedThem) {
   const std::string before = Text();
   EXPECT_EQ(before, "left[a|b*] right[~c / (d + e)] center float[f@100,120]");
   const std::string sizes = Text(true);
-  Drag({242, 300}, {312, 300});
+  Drag(*main, {242, 300}, {312, 300});
   EXPECT_EQ(Text(), before);
   EXPECT_NE(Text(true), sizes);
   EXPECT_NE(Text(true).find("left:310["), std::string::npos) << Text(true);
@@ -97,6 +97,18 @@ TEST_F(Panels, GoToWindowsOfTheirOwnAndBack) {
   lumui::testing::RequestClose(*workspace.FindTab(U8("f"))->UI_GetWindowNode());
   Settle();
   EXPECT_EQ(Text(), "left[a|b*] right[c / d] bottom[e] center float[~f@100,120]");
+}
+
+TEST_F(Panels, AreDraggedOutOfTheWindowAndBackIntoAnother) {
+  OpenAll();
+  // From the title of "c" to the middle of the window, where there is no dock, and on to the
+  // lower part of the dock of "a" and "b".
+  Drag(*main, {600, 12}, {400, 250});
+  lumui::ui::OS_Window& window = *workspace.FindTab(U8("c"))->UI_GetWindowNode();
+  ASSERT_NE(&window, main) << Text();
+  const auto rect = window.UI_GetLocalRectF();
+  Drag(window, {40, 12}, {120 - rect.x, 400 - rect.y});
+  EXPECT_EQ(Text(), "left[a|b* / c] right[d] bottom[e] center float[f@100,120]");
 }
 
 TEST_F(Panels, LayoutOutlivesASmallWindowAndAScreenThatIsGone) {

@@ -85,12 +85,16 @@ struct PanelWorkspace {
     Open("f", TabPlace::kFloating, "");
   }
   void Settle() { lumui::testing::ProcessEvents(); }
-  // As the user does, with the line between two docks.
-  void Drag(lumui::testing::Position inFrom, lumui::testing::Position inTo) {
-    lumui::testing::PressMouse(*main, inFrom);
-    lumui::testing::MoveMouse(*main, inTo);
-    Settle();
-    lumui::testing::ReleaseMouse(*main, inTo);
+  // As the user does, with the line between two docks or the title of one.
+  void Drag(lumui::ui::OS_Window& inWindow, lumui::testing::Position inFrom,
+            lumui::testing::Position inTo) {
+    lumui::testing::PressMouse(inWindow, inFrom);
+    for (const float part : {0.5f, 1.0f}) {
+      lumui::testing::MoveMouse(
+          inWindow, {inFrom.x + part * (inTo.x - inFrom.x), inFrom.y + part * (inTo.y - inFrom.y)});
+      Settle();
+    }
+    lumui::testing::ReleaseMouse(inWindow, inTo);
     Settle();
   }
   std::string Text(bool inWithSizes = false) {

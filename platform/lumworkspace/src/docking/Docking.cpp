@@ -400,18 +400,25 @@ bool Docking::FindDropPlace(const Frame& inFrame, TabPlace& outPlace) const {
 }
 
 void Docking::DropDragged(const UTF8String& inType) {
-  const Frame* const frame = FindFrame(inType);
+  const FrameP frame = FindFrame(inType);
   const QDockWidget* const dock = frame ? frame->GetFramePeer().GetDock() : nullptr;
   // Qt itself has docked it meanwhile.
   if (!dock || !dock->isFloating()) return;
+  Layout layout = Capture();
   TabPlace place;
-  if (FindDropPlace(*frame, place)) {
-    Open(inType, &place);
-    return;
+  if (!FindDropPlace(*frame, place)) {
+    const QRect geometry = dock->geometry();
+    place.where = TabPlace::kFloating;
+    place.floatingRect = Rect(geometry.x(), geometry.y(), geometry.width(), geometry.height());
+    if (!frame->IsFloating()) mCameFrom[inType] = layout;
   }
-  const QRect geometry = dock->geometry();
-  const Rect rect(geometry.x(), geometry.y(), geometry.width(), geometry.height());
-  SetFloating(inType, true, &rect);
+  // A dock that has been dragged in one window of Qt's cannot be dragged in another: the frame gets
+  // a new one there.
+  frame->UI_GetParentNode()->UI_RemoveChild(frame.get());
+  frame->GetPeer()->Destroy();
+  Insert(layout, inType, place);
+  Show(layout);
+  Activate(inType);
 }
 
 void Docking::WindowGoes(TopLevelWindow& inWindow) {
