@@ -93,8 +93,10 @@ void DockArea::Arrange(const Roots& inRoots, int inWidth, int inHeight, const Fi
   if (!main) return;
   const lumcore::utility::StScopedValue<bool> arranging(mArranging, true);
   main->setUpdatesEnabled(false);
+  // Out of the layout only: to hide and show each again would take twice the time.
   for (const Frame* const frame : GetFrames()) {
-    if (QDockWidget* const dock = frame->GetFramePeer().GetDock()) main->removeDockWidget(dock);
+    if (QDockWidget* const dock = frame->GetFramePeer().GetDock())
+      main->layout()->removeWidget(dock);
   }
   for (const Item& root : inRoots) {
     ForEachTab(root, [&](const layout::Tab& inTab) {
