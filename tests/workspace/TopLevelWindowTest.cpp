@@ -94,8 +94,11 @@ TEST(TopLevelWindows, DropsGoToTheNodeElseToTheFallback) {
   EXPECT_EQ(drop(130), "node:enter@30 node:drop@30 /tmp/a b.txt taken");
   boost::shared_ptr<lumui::ui::UI_DragDropHandler> fallback(new Logger("window", log));
   window->SetDragDropFallbackHandler(fallback);
-  EXPECT_EQ(drop(250), "window:enter@0 window:over@0 window:over@250 window:drop@250 /tmp/a b.txt taken");
-  EXPECT_EQ(drop(130), "window:enter@0 window:over@0 window:leave node:enter@30 node:drop@30 /tmp/a b.txt taken");
+  EXPECT_EQ(drop(250),
+            "window:enter@0 window:over@0 window:over@250 window:drop@250 /tmp/a b.txt taken");
+  EXPECT_EQ(
+      drop(130),
+      "window:enter@0 window:over@0 window:leave node:enter@30 node:drop@30 /tmp/a b.txt taken");
   window->UI_DestroyWindow();
 }
 

@@ -55,22 +55,27 @@ bool WorkspacesCmdAttachment::DoHandleCommand(int inCommand) {
 
 bool WorkspacesCmdAttachment::DoCommandEnabled(int inCommand, bool& ioEnabled, bool& ioChecked,
                                                lumcore::UTF16String&) {
-  if (inCommand == mNewCommand) {
-    ioEnabled = true;
-  } else if (inCommand == mRevertCommand) {
-    ioEnabled = mManager.HasCurrentWorkspace();
-  } else if (inCommand == mDeleteCommand) {
-    ioEnabled = mManager.GetNumberWorkspaces() > 1 && mManager.HasCurrentWorkspace();
-  } else if (inCommand == mSaveCommand) {
-    ioEnabled = mManager.HasCurrentWorkspace();
-  } else if (inCommand == mEditCommand) {
-    ioEnabled = true;
-  } else {
-    if (!mMenuHelper.IsWorkspaceCommand(inCommand)) return false;
-    ioEnabled = true;
-    if (mManager.HasCurrentWorkspace()) {
-      ioChecked = mMenuHelper.WorkspaceNameForCmd(inCommand) == mManager.GetCurrentWorkspace();
-    }
+  const bool current = mManager.HasCurrentWorkspace();
+  // Counted only where it matters: the names may have to be read from a folder.
+  const bool deletable =
+      inCommand == mDeleteCommand && current && mManager.GetNumberWorkspaces() > 1;
+  const struct {
+    int command;
+    bool enabled;
+  } answers[] = {{mNewCommand, true},
+                 {mRevertCommand, current},
+                 {mDeleteCommand, deletable},
+                 {mSaveCommand, current},
+                 {mEditCommand, true}};
+  for (const auto& answer : answers) {
+    if (answer.command != inCommand) continue;
+    ioEnabled = answer.enabled;
+    return true;
+  }
+  if (!mMenuHelper.IsWorkspaceCommand(inCommand)) return false;
+  ioEnabled = true;
+  if (current) {
+    ioChecked = mMenuHelper.WorkspaceNameForCmd(inCommand) == mManager.GetCurrentWorkspace();
   }
   return true;
 }
