@@ -1,0 +1,374 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <memory>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "lumcore/utility/StringUtils.h"
+#include "lumcore/xml/Parser.h"
+#include "lumui/ui/KeyframeThemeEditor.h"
+#include "lumui/ui/KeyframeThemeParser.h"
+#include "lumui/utility/ResourceManager.h"
+#include "vek/utility/VekResources.h"
+
+namespace {
+
+using lumcore::utility::ToStdString;
+using lumui::ui::KeyframeThemeEditor;
+using lumui::ui::Theme;
+
+constexpr float kPositions[] = {0.0f, 0.5f, 0.5001f, 1.0f};
+
+using Keys = std::map<std::string, int>;
+
+std::string Document(const char* inName) {
+  const auto bytes = vek::utility::GetResourceManager()->GetRequiredBinary(
+      lumcore::utility::ToUTF16(inName), "xml");
+  return {bytes.begin(), bytes.end()};
+}
+
+void Parse(const std::string& inDocument, lumcore::xml::AbstractParseHandler* inHandler) {
+  std::auto_ptr<lumcore::xml::AbstractParseHandler> handler(inHandler);
+  lumcore::xml::GetParser(handler)->Parse(lumcore::utility::ToUTF8(inDocument),
+                                          lumcore::utility::ToUTF16("theme"));
+}
+
+std::size_t Entities(const std::string& inDocument) {
+  static const std::regex sEntity("<!ENTITY ");
+  return static_cast<std::size_t>(
+      std::distance(std::sregex_iterator(inDocument.begin(), inDocument.end(), sEntity), {}));
+}
+
+// The names that stand for whole numbers, which are the keys; values have a point.
+Keys KeysIn(const std::string& inText, const char* inPattern) {
+  const std::regex pattern(inPattern);
+  Keys keys;
+  for (std::sregex_iterator it(inText.begin(), inText.end(), pattern), end; it != end; ++it) {
+    EXPECT_TRUE(keys.emplace((*it)[1], std::stoi((*it)[2])).second) << (*it)[1] << " twice";
+  }
+  return keys;
+}
+Keys KeysOf(const std::string& inDocument) {
+  return KeysIn(inDocument, "<!ENTITY kColor_(\\w+) +\"(\\d+)\">");
+}
+
+// At which positions each colour has a frame.
+class FramePositions : public lumcore::xml::AbstractParseHandler {
+ public:
+  explicit FramePositions(std::map<int, std::multiset<std::string>>& outPositions)
+      : mPositions(outPositions) {}
+  void StartElement(const lumcore::UTF16String& inName,
+                    const lumcore::xml::Attributes& inAttributes) override {
+    const std::string name = ToStdString(inName);
+    if (name == "Theme") mTheme = ToStdString(*inAttributes.Find("t"));
+    if (name == "KeyFrame")
+      mPositions[std::stoi(ToStdString(*inAttributes.Find("name")))].insert(mTheme);
+  }
+
+ private:
+  std::map<int, std::multiset<std::string>>& mPositions;
+  std::string mTheme;
+};
+
+TEST(ThemeDocuments, NameEachKeyOnceAndGiveItAllItsValues) {
+  const struct {
+    const char* name;
+    const char* root;
+    std::size_t entities;
+    int first;
+    int last;
+  } kDocuments[] = {
+      {"LUMColorThemesV1", "ThemeColors", 139, 0, 90},
+      {"LUMColorThemesV2", "ThemeParameters", 712, 0, 384},
+      {"LUMColorThemesV3", "ThemeParameters", 132, 3000000, 3000060},
+      {"LUMColorThemesV4", "ThemeParameters", 85, 4000000, 4000033},
+      {"LUMColorThemesV5", "ThemeParameters", 182, 5000000, 5000089},
+      {"DesignAppColorThemesV5", "ThemeParameters", 199, 5000000, 5000106},
+      {"HighContrastColorThemeV5", "ThemeParameters", 104, 5000000, 5000089},
+  };
+  const std::multiset<std::string> kGeneral{"0.0000"};
+  const std::multiset<std::string> kEach{"0.0000", "0.5000", "0.5001", "1.0000"};
+  for (const auto& row : kDocuments) {
+    SCOPED_TRACE(row.name);
+    const std::string document = Document(row.name);
+    EXPECT_EQ(Entities(document), row.entities);
+    EXPECT_NE(document.find(std::string("<!DOCTYPE ") + row.root + " ["), std::string::npos);
+
+    std::set<int> numbers;
+    for (const auto& [name, number] : KeysOf(document))
+      EXPECT_TRUE(numbers.insert(number).second) << name << " shares its number";
+    EXPECT_EQ(*numbers.begin(), row.first);
+    EXPECT_EQ(*numbers.rbegin(), row.last);
+    EXPECT_EQ(numbers.size(), static_cast<std::size_t>(row.last - row.first + 1));
+
+    std::map<int, std::multiset<std::string>> positions;
+    Parse(document, new FramePositions(positions));
+    for (const int number : numbers) {
+      const auto& found = positions[number];
+      EXPECT_TRUE(found == kGeneral || found == kEach) << number << " has not each of its values";
+    }
+    EXPECT_EQ(positions.size(), numbers.size()) << "a value for what has no name";
+  }
+}
+
+TEST(ThemeDocuments, AgreeWithTheConstants) {
+  std::ifstream file(VEK_THEME_COLORS);
+  std::stringstream text;
+  text << file.rdbuf();
+  const std::string header = text.str();
+  const std::size_t middle = header.find("themev5 {");
+  const char* const kConstant = "kColor_(\\w+) = (\\d+),";
+  EXPECT_EQ(KeysIn(header.substr(middle), kConstant), KeysOf(Document("DesignAppColorThemesV5")));
+
+  const Keys present = KeysOf(Document("LUMColorThemesV5"));
+  const Keys design = KeysOf(Document("DesignAppColorThemesV5"));
+  EXPECT_TRUE(std::includes(design.begin(), design.end(), present.begin(), present.end()));
+  EXPECT_EQ(present, KeysOf(Document("HighContrastColorThemeV5")));
+
+  const Keys bevelled = KeysOf(Document("LUMColorThemesV2"));
+  const Keys painted = KeysIn(header.substr(0, middle), kConstant);
+  EXPECT_TRUE(std::includes(bevelled.begin(), bevelled.end(), painted.begin(), painted.end()));
+  // Trees and headers ask for these by number.
+  std::string names;
+  for (const int number : {232, 233, 234, 237, 238, 239, 247, 248, 249, 250, 251, 252, 324, 329}) {
+    for (const auto& [name, other] : painted)
+      if (other == number) names += name + " ";
+  }
+  EXPECT_EQ(names,
+            "TreeHeaderLine TreeBackground TreeSelectedRow TreeInsertionFeedback TreeDropBoxFill "
+            "TreeDropBoxStroke HeaderOuterGradientTop HeaderOuterGradientBottom "
+            "HeaderInnerGradientTop HeaderInnerGradientBottom HeaderColumnGroove "
+            "HeaderColumnRidge TreeBorder TreeRowSeparator ");
+}
+
+class ThemeColors : public ::testing::Test {
+ protected:
+  ThemeColors() { Theme::Initialize(new KeyframeThemeEditor(385, 3, 1)); }
+  ~ThemeColors() override { Theme::Terminate(); }
+
+  void Load(const char* inName) {
+    mDocument = Document(inName);
+    mKeys = KeysOf(mDocument);
+    const auto theme = Theme::Get();
+    Parse(mDocument, new lumui::ui::KeyframeThemeParser(static_cast<KeyframeThemeEditor&>(*theme)));
+  }
+  lumui::drawbot::ColorRGBA Color(const std::string& inKey) const {
+    const auto found = mKeys.find(inKey);
+    if (found == mKeys.end()) {
+      ADD_FAILURE() << "no key " << inKey;
+      return {};
+    }
+    return Theme::Get()->GetColor(found->second);
+  }
+  // The relative luminance and the ratio of two of them, as the accessibility guidelines for the
+  // web define both.
+  static double Luminance(const lumui::drawbot::ColorRGBA& inColor) {
+    const auto linear = [](double inPart) {
+      return inPart <= 0.04045 ? inPart / 12.92 : std::pow((inPart + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(inColor.red) + 0.7152 * linear(inColor.green) +
+           0.0722 * linear(inColor.blue);
+  }
+  double Contrast(const std::string& inKey, const std::string& inGround) const {
+    const double a = Luminance(Color(inKey)) + 0.05;
+    const double b = Luminance(Color(inGround)) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+  }
+
+  std::string mDocument;
+  Keys mKeys;
+};
+
+// A ratio, then "key: grounds" as often as wanted.
+struct Demand {
+  double atLeast;
+  const char* pairs;
+};
+constexpr double kReadable = 4.5;
+constexpr double kVisible = 3.0;
+
+const Demand kPresent[] = {
+    {kReadable,
+     "Text: AppBackground PanelBackground ButtonBackground\n"
+     "TextSecondary: AppBackground PanelBackground\n"
+     "ButtonText: ButtonBackground ButtonBackgroundHover ButtonBackgroundDown\n"
+     "FieldText: FieldBackground FieldBackgroundHover\n"
+     "FieldPlaceholder: FieldBackground FieldBackgroundHover\n"
+     "FieldSelectionText: FieldSelection\n"
+     "AccentButtonText: AccentButtonBackground AccentButtonBackgroundHover "
+     "AccentButtonBackgroundDown\n"
+     "ListText: ListBackground ListBackgroundAlternate ListRowHover ListRowSelectedInactive\n"
+     "ListTextSelected: ListRowSelected\n"
+     "HeaderText: HeaderBackground\n"
+     "TabText: TabBackground TabBackgroundHover\n"
+     "TabTextSelected: TabBackgroundSelected\n"
+     "MenuText: MenuBackground\n"
+     "MenuTextHover: MenuItemHover\n"
+     "LinkText: PanelBackground\n"
+     "ErrorText: PanelBackground FieldBackground\n"
+     "WarningText: WarningBackground\n"
+     "ToolTipText: ToolTipBackground\n"},
+    {kVisible,
+     "TextDisabled: AppBackground PanelBackground\n"
+     "ButtonTextDisabled: ButtonBackgroundDisabled\n"
+     "FieldTextDisabled: FieldBackgroundDisabled\n"
+     "MenuTextDisabled: MenuBackground\n"
+     "CheckMarkDisabled: PanelBackground\n"
+     "Focus: AppBackground PanelBackground FieldBackground ButtonBackground ListBackground\n"
+     "FieldBorder: PanelBackground FieldBackground\n"
+     "FieldBorderHover: PanelBackground FieldBackgroundHover\n"
+     "CheckBorder: PanelBackground CheckBackground\n"
+     "CheckMark: CheckBackgroundOn\n"
+     "ButtonBorder: PanelBackground AppBackground\n"
+     "SliderTrackFilled: PanelBackground\n"
+     "SliderThumb: PanelBackground\n"
+     "ProgressFill: PanelBackground\n"
+     "ScrollThumb: ScrollTrack\n"
+     "ScrollThumbHover: ScrollTrack\n"
+     "ScrollThumbDown: ScrollTrack\n"
+     "ListTwisty: ListBackground ListRowHover\n"
+     "HeaderSortArrow: HeaderBackground\n"
+     "DropTarget: ListBackground PanelBackground\n"},
+};
+
+const Demand kCanvas[] = {
+    {kReadable, "ArtboardLabel: Canvas\nRulerText: RulerBackground\n"},
+    {kVisible,
+     "SelectionHandleStroke: SelectionHandleFill Canvas\nPlayhead: TimelineBackground\n"
+     "RulerTick: RulerBackground\n"},
+};
+
+const Demand kFlat[] = {
+    {kReadable,
+     "Text: ApplicationBackground ContentBackground\n"
+     "TextSecondary: ApplicationBackground ContentBackground\n"
+     "ButtonText: ButtonBackground ButtonBackgroundHover ButtonBackgroundDown\n"
+     "FieldText: FieldBackground\n"
+     "FieldSelectionText: FieldSelection\n"
+     "ListTextSelected: ListRowSelected\n"
+     "Text: ListBackground ListRowHover\n"
+     "TabText: TabBackground\n"
+     "TabTextSelected: TabBackgroundSelected\n"
+     "MenuText: MenuBackground\n"},
+    {kVisible,
+     "TextDisabled: ContentBackground FieldBackgroundDisabled\n"
+     "Focus: ApplicationBackground ContentBackground FieldBackground\n"
+     "FieldBorder: ContentBackground FieldBackground\n"
+     "ScrollThumb: ScrollTrack\n"},
+};
+
+const Demand kBevelled[] = {
+    {kReadable,
+     "DefaultText: TreeBackground TreeSelectedRow TreeHoverRow TreeAlternateRow "
+     "TreeInactiveSelectedRow HeaderOuterGradientTop HeaderOuterGradientBottom "
+     "HeaderInnerGradientTop HeaderInnerGradientBottom WindowBackground AppBackground\n"
+     "DefaultTextSecondary: WindowBackground AppBackground\n"
+     "LinkText: WindowBackground\n"
+     "ErrorText: WindowBackground\n"
+     "ButtonText: ButtonFillTop ButtonFillBottom\n"
+     "ButtonTextHover: ButtonFillTopHover ButtonFillBottomHover\n"
+     "ButtonTextDown: ButtonFillTopDown ButtonFillBottomDown\n"
+     "DefaultButtonText: DefaultButtonFillTop\n"
+     "DefaultButtonTextHover: DefaultButtonFillTopHover\n"
+     "DefaultButtonTextDown: DefaultButtonFillTopDown\n"
+     "EditText: EditFill\n"
+     "EditTextHover: EditFillHover\n"
+     "EditSelectionText: EditSelection\n"
+     "PopupText: PopupFillTop PopupFillBottom\n"
+     "ListBoxText: ListBoxFill ListBoxRowSelected ListBoxRowHover\n"
+     "MenuText: MenuFill\n"
+     "MenuTextHover: MenuFillHover\n"
+     "MenuTextDown: MenuFillDown\n"
+     "PanelTitleText: PanelTitle\n"
+     "PanelTitleTextActive: PanelTitleActive\n"
+     "TabText: TabFill\n"
+     "TabTextSelected: TabFillSelected\n"
+     "ToolTipText: ToolTipFill\n"
+     "KeyMapKeyText: KeyMapKeyFill\n"},
+    {kVisible,
+     "DefaultTextDisabled: WindowBackground TreeBackground\n"
+     "ButtonTextDisabled: ButtonFillTopDisabled ButtonFillBottomDisabled\n"
+     "EditTextDisabled: EditFillDisabled\n"
+     "EditStroke: EditFill WindowBackground\n"
+     "CheckBoxBoxStroke: CheckBoxInnerFill WindowBackground\n"
+     "CheckBoxMarkStroke: CheckBoxInnerFill\n"
+     "CheckBoxMarkStrokeHover: CheckBoxInnerFillHover\n"
+     "RadioButtonDotFill: RadioButtonInnerCircleFill\n"
+     "Focus: WindowBackground AppBackground EditFill TreeBackground\n"
+     "TreeTwisty: TreeBackground TreeSelectedRow\n"
+     "TreeInsertionFeedback: TreeBackground\n"
+     "TreeDropBoxStroke: TreeBackground\n"
+     "HeaderSortArrow: HeaderOuterGradientTop HeaderOuterGradientBottom\n"
+     "ScrollBarThumbFill: ScrollBarTrack\n"},
+};
+
+TEST_F(ThemeColors, AreReadAtEachPosition) {
+  const auto walk = [&](const char* inDocument, const auto& inDemands) {
+    Load(inDocument);
+    for (const float position : kPositions) {
+      Theme::SetBrightness(position);
+      for (const Demand& demand : inDemands) {
+        std::istringstream lines(demand.pairs);
+        for (std::string line; std::getline(lines, line);) {
+          const std::size_t colon = line.find(':');
+          std::istringstream grounds(line.substr(colon + 1));
+          for (std::string ground; grounds >> ground;) {
+            EXPECT_GE(Contrast(line.substr(0, colon), ground), demand.atLeast)
+                << inDocument << " at " << position << ": " << line.substr(0, colon) << " on "
+                << ground;
+          }
+        }
+      }
+    }
+  };
+  walk("LUMColorThemesV2", kBevelled);
+  walk("LUMColorThemesV4", kFlat);
+  walk("LUMColorThemesV5", kPresent);
+  walk("DesignAppColorThemesV5", kPresent);
+  walk("DesignAppColorThemesV5", kCanvas);
+  Theme::Initialize(new KeyframeThemeEditor(385, 3, 1));
+  walk("HighContrastColorThemeV5", kPresent);
+}
+
+TEST_F(ThemeColors, JumpBetweenTheFamiliesAndKeepTheFontsTable) {
+  Load("LUMColorThemesV2");
+  Load("LUMColorThemesV4");
+  Load("LUMColorThemesV5");
+  const auto isDark = [this](float inBrightness) {
+    Theme::SetBrightness(inBrightness);
+    return Luminance(Color("PanelBackground")) < Luminance(Color("Text"));
+  };
+  EXPECT_TRUE(isDark(0.5f));
+  EXPECT_FALSE(isDark(0.5001f));
+  Theme::SetBrightness(0.25f);
+  EXPECT_NEAR(Color("Gray_10").red, (0.9020 + 0.9608) / 2, 1e-4) << "a blend within a family";
+  Theme::SetBrightness(0.0f);
+  EXPECT_NEAR(Color("Gray_01").red, 0.0863, 1e-4);
+  Theme::SetBrightness(1.0f);
+  EXPECT_NEAR(Color("Gray_10").red, 0.1725, 1e-4);
+  EXPECT_EQ(Color("Gray_10").red, Color("Gray_10").blue) << "no tint in a gray";
+  EXPECT_TRUE(Theme::Get()->HasColor(384) && Theme::Get()->HasColor(4000000)) << "kept beside";
+
+  std::string sizes;
+  for (const int text : {Theme::kTextMainSmall, Theme::kTextMainLarge, Theme::kTextTitle}) {
+    for (int scheme = 0; scheme < Theme::kFontSizeSchemes; ++scheme) {
+      Theme::Get()->SetFontSizeScheme(static_cast<Theme::FontSizeScheme>(scheme));
+      sizes +=
+          std::to_string(std::lround(Theme::Get()->GetTextSize(static_cast<Theme::Text>(text)))) +
+          " ";
+    }
+  }
+  EXPECT_EQ(sizes, "8 9 13 9 11 15 11 13 17 ");
+}
+
+}  // namespace
