@@ -4,8 +4,9 @@ vek_test(vek_resources_tests
     utility/EmbeddingTest.cpp
     utility/ResourcesTest.cpp
     utility/ThemeDocumentsTest.cpp
+    utility/ThemedControlsTest.cpp
     utility/VekResourcesTest.cpp
-  LIBRARIES vek)
+  LIBRARIES vek Qt6::Widgets)
 target_compile_definitions(vek_resources_tests PRIVATE 
   "VEK_EMBED=\"$<TARGET_FILE:vek_embed>\""
   "VEK_THEME_COLORS=\"${PROJECT_SOURCE_DIR}/platform/lumui/include/lumui/ui/ThemeColors.h\"")

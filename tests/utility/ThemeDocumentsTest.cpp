@@ -217,6 +217,8 @@ const Demand kPresent[] = {
      "LinkText: PanelBackground\n"
      "ErrorText: PanelBackground FieldBackground\n"
      "WarningText: WarningBackground\n"
+     "Text: SliderTrack\n"
+     "PanelBackground: ProgressFill\n"
      "ToolTipText: ToolTipBackground\n"},
     {kVisible,
      "TextDisabled: AppBackground PanelBackground\n"
