@@ -13,35 +13,25 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "lumcore/utility/StringUtils.h"
 #include "lumcore/xml/Parser.h"
 #include "lumui/ui/KeyframeThemeEditor.h"
-#include "lumui/ui/KeyframeThemeParser.h"
-#include "lumui/utility/ResourceManager.h"
-#include "vek/utility/VekResources.h"
+#include "support/ThemeDocuments.h"
 
 namespace {
 
 using lumcore::utility::ToStdString;
 using lumui::ui::KeyframeThemeEditor;
 using lumui::ui::Theme;
+using vek::test::LoadTheme;
+using vek::test::ParseTheme;
+using vek::test::ThemeDocument;
 
 constexpr float kPositions[] = {0.0f, 0.5f, 0.5001f, 1.0f};
 
 using Keys = std::map<std::string, int>;
-
-std::string Document(const char* inName) {
-  const auto bytes = vek::utility::GetResourceManager()->GetRequiredBinary(
-      lumcore::utility::ToUTF16(inName), "xml");
-  return {bytes.begin(), bytes.end()};
-}
-
-void Parse(const std::string& inDocument, lumcore::xml::AbstractParseHandler* inHandler) {
-  std::auto_ptr<lumcore::xml::AbstractParseHandler> handler(inHandler);
-  lumcore::xml::GetParser(handler)->Parse(lumcore::utility::ToUTF8(inDocument),
-                                          lumcore::utility::ToUTF16("theme"));
-}
 
 std::size_t Entities(const std::string& inDocument) {
   static const std::regex sEntity("<!ENTITY ");
@@ -100,7 +90,7 @@ TEST(ThemeDocuments, NameEachKeyOnceAndGiveItAllItsValues) {
   const std::multiset<std::string> kEach{"0.0000", "0.5000", "0.5001", "1.0000"};
   for (const auto& row : kDocuments) {
     SCOPED_TRACE(row.name);
-    const std::string document = Document(row.name);
+    const std::string document = ThemeDocument(row.name);
     EXPECT_EQ(Entities(document), row.entities);
     EXPECT_NE(document.find(std::string("<!DOCTYPE ") + row.root + " ["), std::string::npos);
 
@@ -112,7 +102,7 @@ TEST(ThemeDocuments, NameEachKeyOnceAndGiveItAllItsValues) {
     EXPECT_EQ(numbers.size(), static_cast<std::size_t>(row.last - row.first + 1));
 
     std::map<int, std::multiset<std::string>> positions;
-    Parse(document, new FramePositions(positions));
+    ParseTheme(document, new FramePositions(positions));
     for (const int number : numbers) {
       const auto& found = positions[number];
       EXPECT_TRUE(found == kGeneral || found == kEach) << number << " has not each of its values";
@@ -128,14 +118,15 @@ TEST(ThemeDocuments, AgreeWithTheConstants) {
   const std::string header = text.str();
   const std::size_t middle = header.find("themev5 {");
   const char* const kConstant = "kColor_(\\w+) = (\\d+),";
-  EXPECT_EQ(KeysIn(header.substr(middle), kConstant), KeysOf(Document("DesignAppColorThemesV5")));
+  EXPECT_EQ(KeysIn(header.substr(middle), kConstant),
+            KeysOf(ThemeDocument("DesignAppColorThemesV5")));
 
-  const Keys present = KeysOf(Document("LUMColorThemesV5"));
-  const Keys design = KeysOf(Document("DesignAppColorThemesV5"));
+  const Keys present = KeysOf(ThemeDocument("LUMColorThemesV5"));
+  const Keys design = KeysOf(ThemeDocument("DesignAppColorThemesV5"));
   EXPECT_TRUE(std::includes(design.begin(), design.end(), present.begin(), present.end()));
-  EXPECT_EQ(present, KeysOf(Document("HighContrastColorThemeV5")));
+  EXPECT_EQ(present, KeysOf(ThemeDocument("HighContrastColorThemeV5")));
 
-  const Keys bevelled = KeysOf(Document("LUMColorThemesV2"));
+  const Keys bevelled = KeysOf(ThemeDocument("LUMColorThemesV2"));
   const Keys painted = KeysIn(header.substr(0, middle), kConstant);
   EXPECT_TRUE(std::includes(bevelled.begin(), bevelled.end(), painted.begin(), painted.end()));
   // Trees and headers ask for these by number.
@@ -157,10 +148,8 @@ class ThemeColors : public ::testing::Test {
   ~ThemeColors() override { Theme::Terminate(); }
 
   void Load(const char* inName) {
-    mDocument = Document(inName);
-    mKeys = KeysOf(mDocument);
-    const auto theme = Theme::Get();
-    Parse(mDocument, new lumui::ui::KeyframeThemeParser(static_cast<KeyframeThemeEditor&>(*theme)));
+    mKeys = KeysOf(ThemeDocument(inName));
+    LoadTheme(inName);
   }
   lumui::drawbot::ColorRGBA Color(const std::string& inKey) const {
     const auto found = mKeys.find(inKey);
@@ -185,161 +174,50 @@ class ThemeColors : public ::testing::Test {
     return std::max(a, b) / std::min(a, b);
   }
 
-  std::string mDocument;
   Keys mKeys;
 };
 
-// A ratio, then "key: grounds" as often as wanted.
+// "documents NAME...", "atleast RATIO" and "KEY: GROUND..." lines; a document with what it owes.
 struct Demand {
   double atLeast;
-  const char* pairs;
+  std::string key;
+  std::string ground;
 };
-constexpr double kReadable = 4.5;
-constexpr double kVisible = 3.0;
-
-const Demand kPresent[] = {
-    {kReadable,
-     "Text: AppBackground PanelBackground ButtonBackground\n"
-     "TextSecondary: AppBackground PanelBackground\n"
-     "ButtonText: ButtonBackground ButtonBackgroundHover ButtonBackgroundDown\n"
-     "FieldText: FieldBackground FieldBackgroundHover\n"
-     "FieldPlaceholder: FieldBackground FieldBackgroundHover\n"
-     "FieldSelectionText: FieldSelection\n"
-     "AccentButtonText: AccentButtonBackground AccentButtonBackgroundHover "
-     "AccentButtonBackgroundDown\n"
-     "ListText: ListBackground ListBackgroundAlternate ListRowHover ListRowSelectedInactive\n"
-     "ListTextSelected: ListRowSelected\n"
-     "HeaderText: HeaderBackground\n"
-     "TabText: TabBackground TabBackgroundHover\n"
-     "TabTextSelected: TabBackgroundSelected\n"
-     "MenuText: MenuBackground\n"
-     "MenuTextHover: MenuItemHover\n"
-     "LinkText: PanelBackground\n"
-     "ErrorText: PanelBackground FieldBackground\n"
-     "WarningText: WarningBackground\n"
-     "Text: SliderTrack\n"
-     "PanelBackground: ProgressFill\n"
-     "ToolTipText: ToolTipBackground\n"},
-    {kVisible,
-     "TextDisabled: AppBackground PanelBackground\n"
-     "ButtonTextDisabled: ButtonBackgroundDisabled\n"
-     "FieldTextDisabled: FieldBackgroundDisabled\n"
-     "MenuTextDisabled: MenuBackground\n"
-     "CheckMarkDisabled: PanelBackground\n"
-     "Focus: AppBackground PanelBackground FieldBackground ButtonBackground ListBackground\n"
-     "FieldBorder: PanelBackground FieldBackground\n"
-     "FieldBorderHover: PanelBackground FieldBackgroundHover\n"
-     "CheckBorder: PanelBackground CheckBackground\n"
-     "CheckMark: CheckBackgroundOn\n"
-     "ButtonBorder: PanelBackground AppBackground\n"
-     "SliderTrackFilled: PanelBackground\n"
-     "SliderThumb: PanelBackground\n"
-     "ProgressFill: PanelBackground\n"
-     "ScrollThumb: ScrollTrack\n"
-     "ScrollThumbHover: ScrollTrack\n"
-     "ScrollThumbDown: ScrollTrack\n"
-     "ListTwisty: ListBackground ListRowHover\n"
-     "HeaderSortArrow: HeaderBackground\n"
-     "DropTarget: ListBackground PanelBackground\n"},
-};
-
-const Demand kCanvas[] = {
-    {kReadable, "ArtboardLabel: Canvas\nRulerText: RulerBackground\n"},
-    {kVisible,
-     "SelectionHandleStroke: SelectionHandleFill Canvas\nPlayhead: TimelineBackground\n"
-     "RulerTick: RulerBackground\n"},
-};
-
-const Demand kFlat[] = {
-    {kReadable,
-     "Text: ApplicationBackground ContentBackground\n"
-     "TextSecondary: ApplicationBackground ContentBackground\n"
-     "ButtonText: ButtonBackground ButtonBackgroundHover ButtonBackgroundDown\n"
-     "FieldText: FieldBackground\n"
-     "FieldSelectionText: FieldSelection\n"
-     "ListTextSelected: ListRowSelected\n"
-     "Text: ListBackground ListRowHover\n"
-     "TabText: TabBackground\n"
-     "TabTextSelected: TabBackgroundSelected\n"
-     "MenuText: MenuBackground\n"},
-    {kVisible,
-     "TextDisabled: ContentBackground FieldBackgroundDisabled\n"
-     "Focus: ApplicationBackground ContentBackground FieldBackground\n"
-     "FieldBorder: ContentBackground FieldBackground\n"
-     "ScrollThumb: ScrollTrack\n"},
-};
-
-const Demand kBevelled[] = {
-    {kReadable,
-     "DefaultText: TreeBackground TreeSelectedRow TreeHoverRow TreeAlternateRow "
-     "TreeInactiveSelectedRow HeaderOuterGradientTop HeaderOuterGradientBottom "
-     "HeaderInnerGradientTop HeaderInnerGradientBottom WindowBackground AppBackground\n"
-     "DefaultTextSecondary: WindowBackground AppBackground\n"
-     "LinkText: WindowBackground\n"
-     "ErrorText: WindowBackground\n"
-     "ButtonText: ButtonFillTop ButtonFillBottom\n"
-     "ButtonTextHover: ButtonFillTopHover ButtonFillBottomHover\n"
-     "ButtonTextDown: ButtonFillTopDown ButtonFillBottomDown\n"
-     "DefaultButtonText: DefaultButtonFillTop\n"
-     "DefaultButtonTextHover: DefaultButtonFillTopHover\n"
-     "DefaultButtonTextDown: DefaultButtonFillTopDown\n"
-     "EditText: EditFill\n"
-     "EditTextHover: EditFillHover\n"
-     "EditSelectionText: EditSelection\n"
-     "PopupText: PopupFillTop PopupFillBottom\n"
-     "ListBoxText: ListBoxFill ListBoxRowSelected ListBoxRowHover\n"
-     "MenuText: MenuFill\n"
-     "MenuTextHover: MenuFillHover\n"
-     "MenuTextDown: MenuFillDown\n"
-     "PanelTitleText: PanelTitle\n"
-     "PanelTitleTextActive: PanelTitleActive\n"
-     "TabText: TabFill\n"
-     "TabTextSelected: TabFillSelected\n"
-     "ToolTipText: ToolTipFill\n"
-     "KeyMapKeyText: KeyMapKeyFill\n"},
-    {kVisible,
-     "DefaultTextDisabled: WindowBackground TreeBackground\n"
-     "ButtonTextDisabled: ButtonFillTopDisabled ButtonFillBottomDisabled\n"
-     "EditTextDisabled: EditFillDisabled\n"
-     "EditStroke: EditFill WindowBackground\n"
-     "CheckBoxBoxStroke: CheckBoxInnerFill WindowBackground\n"
-     "CheckBoxMarkStroke: CheckBoxInnerFill\n"
-     "CheckBoxMarkStrokeHover: CheckBoxInnerFillHover\n"
-     "RadioButtonDotFill: RadioButtonInnerCircleFill\n"
-     "Focus: WindowBackground AppBackground EditFill TreeBackground\n"
-     "TreeTwisty: TreeBackground TreeSelectedRow\n"
-     "TreeInsertionFeedback: TreeBackground\n"
-     "TreeDropBoxStroke: TreeBackground\n"
-     "HeaderSortArrow: HeaderOuterGradientTop HeaderOuterGradientBottom\n"
-     "ScrollBarThumbFill: ScrollBarTrack\n"},
-};
-
-TEST_F(ThemeColors, AreReadAtEachPosition) {
-  const auto walk = [&](const char* inDocument, const auto& inDemands) {
-    Load(inDocument);
-    for (const float position : kPositions) {
-      Theme::SetBrightness(position);
-      for (const Demand& demand : inDemands) {
-        std::istringstream lines(demand.pairs);
-        for (std::string line; std::getline(lines, line);) {
-          const std::size_t colon = line.find(':');
-          std::istringstream grounds(line.substr(colon + 1));
-          for (std::string ground; grounds >> ground;) {
-            EXPECT_GE(Contrast(line.substr(0, colon), ground), demand.atLeast)
-                << inDocument << " at " << position << ": " << line.substr(0, colon) << " on "
-                << ground;
-          }
-        }
+std::map<std::string, std::vector<Demand>> ReadContrasts() {
+  std::ifstream file(VEK_THEME_CONTRASTS);
+  std::map<std::string, std::vector<Demand>> demands;
+  std::vector<std::string> documents;
+  double atLeast = 0;
+  for (std::string line, first; std::getline(file, line);) {
+    std::istringstream words(line);
+    if (!(words >> first) || first == "#") continue;
+    if (first == "documents") documents.clear();
+    if (first == "atleast") words >> atLeast;
+    for (std::string word; words >> word;) {
+      if (first == "documents") documents.push_back(word);
+      for (const auto& name : documents) {
+        if (first.back() == ':')
+          demands[name].push_back({atLeast, first.substr(0, first.size() - 1), word});
       }
     }
-  };
-  walk("LUMColorThemesV2", kBevelled);
-  walk("LUMColorThemesV4", kFlat);
-  walk("LUMColorThemesV5", kPresent);
-  walk("DesignAppColorThemesV5", kPresent);
-  walk("DesignAppColorThemesV5", kCanvas);
-  Theme::Initialize(new KeyframeThemeEditor(385, 3, 1));
-  walk("HighContrastColorThemeV5", kPresent);
+  }
+  return demands;
+}
+
+TEST_F(ThemeColors, AreReadAtEachPosition) {
+  const auto demands = ReadContrasts();
+  EXPECT_EQ(demands.size(), 5U);
+  for (const auto& [name, pairs] : demands) {
+    Theme::Initialize(new KeyframeThemeEditor(385, 3, 1));
+    Load(name.c_str());
+    for (const float position : kPositions) {
+      Theme::SetBrightness(position);
+      for (const Demand& pair : pairs) {
+        EXPECT_GE(Contrast(pair.key, pair.ground), pair.atLeast)
+            << name << " at " << position << ": " << pair.key << " on " << pair.ground;
+      }
+    }
+  }
 }
 
 TEST_F(ThemeColors, JumpBetweenTheFamiliesAndKeepTheFontsTable) {

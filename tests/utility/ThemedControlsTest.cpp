@@ -16,15 +16,10 @@
 #include <memory>
 #include <string>
 
-#include "lumcore/utility/StringUtils.h"
-#include "lumcore/xml/Parser.h"
 #include "lumui/ui/Application.h"
-#include "lumui/ui/KeyframeThemeEditor.h"
-#include "lumui/ui/KeyframeThemeParser.h"
 #include "lumui/ui/Theme.h"
 #include "lumui/ui/ThemeColors.h"
-#include "lumui/utility/ResourceManager.h"
-#include "vek/utility/VekResources.h"
+#include "support/ThemeDocuments.h"
 
 namespace {
 
@@ -33,14 +28,7 @@ using lumui::ui::Theme;
 using namespace lumui::ui::themev5;
 
 void Load(const char* inName) {
-  const auto bytes = vek::utility::GetResourceManager()->GetRequiredBinary(
-      lumcore::utility::ToUTF16(inName), "xml");
-  const auto theme = Theme::Get();
-  std::auto_ptr<lumcore::xml::AbstractParseHandler> handler(
-      new lumui::ui::KeyframeThemeParser(static_cast<KeyframeThemeEditor&>(*theme)));
-  lumcore::xml::GetParser(handler)->Parse(
-      lumcore::utility::ToUTF8(std::string(bytes.begin(), bytes.end())),
-      lumcore::utility::ToUTF16(inName));
+  vek::test::LoadTheme(inName);
   Theme::NotifyThemeChanged();
 }
 
