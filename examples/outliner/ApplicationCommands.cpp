@@ -15,6 +15,7 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/OS_Window.h"
+#include "lumui/ui/Theme.h"
 
 namespace outliner {
 
@@ -38,14 +39,33 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   const auto always = [] { return true; };
   const auto hasDocument = [this] { return mApp.GetOutline() != nullptr; };
   const auto hasSeveral = [this] { return mApp.GetOutlines().size() > 1; };
-  mEntries[kCommandNew] = {always, [this] { mApp.NewOutline(); }};
-  mEntries[kCommandOpen] = {always, [this] { AskForFile(); }};
-  mEntries[kCommandClose] = {hasDocument, [this] { mApp.CloseOutline(*mApp.GetOutline()); }};
-  mEntries[kCommandCloseAll] = {hasDocument, [this] { mApp.CloseAllOutlines(); }};
-  mEntries[kCommandQuit] = {always, [this] { mApp.EndEventLoop(); }};
-  mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }};
-  mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }};
-  mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }};
+  mEntries[kCommandNew] = {always, [this] { mApp.NewOutline(); }, nullptr};
+  mEntries[kCommandOpen] = {always, [this] { AskForFile(); }, nullptr};
+  mEntries[kCommandClose] = {hasDocument, [this] { mApp.CloseOutline(*mApp.GetOutline()); },
+                             nullptr};
+  mEntries[kCommandCloseAll] = {hasDocument, [this] { mApp.CloseAllOutlines(); }, nullptr};
+  mEntries[kCommandQuit] = {always, [this] { mApp.EndEventLoop(); }, nullptr};
+  mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }, nullptr};
+  mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }, nullptr};
+  mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};
+  AddBrightness();
+}
+
+// The positions that theme documents have: between the middle two the colours jump.
+void ApplicationCommands::AddBrightness() {
+  const struct {
+    int command;
+    float brightness;
+  } kPositions[] = {{kCommandDarkest, 0.0f},
+                    {kCommandDark, 0.5f},
+                    {kCommandLight, 0.5001f},
+                    {kCommandLightest, 1.0f}};
+  for (const auto& position : kPositions) {
+    const float brightness = position.brightness;
+    mEntries[position.command] = {
+        [] { return true; }, [this, brightness] { mApp.SetBrightness(brightness); },
+        [brightness] { return lumui::ui::Theme::GetBrightness() == brightness; }};
+  }
 }
 
 bool ApplicationCommands::DoUnifiedDispatch(int inCommand, CommandEnableQuery* ioQuery) {
@@ -60,6 +80,7 @@ bool ApplicationCommands::DoUnifiedDispatch(int inCommand, CommandEnableQuery* i
   const Entry& entry = found->second;
   if (ioQuery) {
     *ioQuery->enabled = entry.isEnabled();
+    if (entry.isChecked) *ioQuery->checked = entry.isChecked();
   } else if (entry.isEnabled()) {
     // What was typed is part of its outline before anything else happens to that.
     if (mApp.GetOutline()) mApp.GetOutline()->GetEditor().Commit();

@@ -24,7 +24,10 @@ class ApplicationCommands final : public vek::uisupport::UnifiedDispatchCmdAttac
   struct Entry {
     std::function<bool()> isEnabled;
     std::function<void()> execute;
+    std::function<bool()> isChecked;  // none where the command has no mark
   };
+
+  void AddBrightness();
 
   void AskForFile();
   void Step(int inDistance);

@@ -131,12 +131,12 @@ void DocumentFrame::ShowState() {
 
 void DocumentFrame::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   const auto& area = UI_GetLocalRectF();
-  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::kStrip);
+  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::Strip());
   if (mCurrent) return;
   const auto font = inDrawbot->GetSupplier()->NewFont(nullptr, kHintSize);
   inDrawbot->DrawStringInRect(
       Localized("$$$/outliner/Frame/Empty=Ctrl+N begins an outline, Ctrl+O opens one"), font,
-      palette::kFaintInk, {0, kHintTop, area.width, 2 * kHintSize},
+      palette::FaintInk(), {0, kHintTop, area.width, 2 * kHintSize},
       lumui::drawbot::TextAlignment::kCenter);
 }
 

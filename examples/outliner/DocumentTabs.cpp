@@ -39,8 +39,8 @@ float DocumentTabs::GetTabWidth() const {
 
 void DocumentTabs::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   const auto& area = UI_GetLocalRectF();
-  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::kStrip);
-  inDrawbot->FillRect({0, area.height - 1, area.width, 1}, palette::kLine);
+  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::Strip());
+  inDrawbot->FillRect({0, area.height - 1, area.width, 1}, palette::Line());
   for (std::size_t tab = 0; tab < mTitles.size(); ++tab)
     DrawTab(*inDrawbot, tab);
 }
@@ -51,18 +51,18 @@ void DocumentTabs::DrawTab(lumui::drawbot::Drawbot& ioDrawbot, std::size_t inTab
   const float height = UI_GetLocalRectF().height;
   const bool isCurrent = inTab == mCurrent;
   if (isCurrent) {
-    ioDrawbot.FillRect({left, 0, width, height}, palette::kPaper);
-    ioDrawbot.FillRect({left, 0, width, kMark}, palette::kAccent);
+    ioDrawbot.FillRect({left, 0, width, height}, palette::Paper());
+    ioDrawbot.FillRect({left, 0, width, kMark}, palette::Accent());
   }
-  ioDrawbot.FillRect({left + width - 1, 0, 1, height}, palette::kLine);
+  ioDrawbot.FillRect({left + width - 1, 0, 1, height}, palette::Line());
   const auto font = ioDrawbot.GetSupplier()->NewFont(nullptr, kTextSize);
-  ioDrawbot.DrawStringInRect(mTitles[inTab], font, isCurrent ? palette::kInk : palette::kFaintInk,
+  ioDrawbot.DrawStringInRect(mTitles[inTab], font, isCurrent ? palette::Ink() : palette::FaintInk(),
                              {left + kMargin, 0, width - kMargin - kCrossRoom, height},
                              lumui::drawbot::TextAlignment::kLeft,
                              lumui::drawbot::TextTruncation::kMiddle);
   const float x = left + width - kCrossRoom / 2 - kCrossSize / 2;
   const float y = (height - kCrossSize) / 2;
-  const lumui::drawbot::Pen pen(palette::kFaintInk, 1);
+  const lumui::drawbot::Pen pen(palette::FaintInk(), 1);
   ioDrawbot.StrokeLine({x, y}, {x + kCrossSize, y + kCrossSize}, pen);
   ioDrawbot.StrokeLine({x, y + kCrossSize}, {x + kCrossSize, y}, pen);
 }

@@ -82,14 +82,14 @@ void OutlineView::EditorChanged() {
 
 void OutlineView::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   const Rect clip = inDrawbot->GetClipBounds();
-  inDrawbot->FillRect(clip, palette::kPaper);
+  inDrawbot->FillRect(clip, palette::Paper());
   if (!mDocument || clip.IsEmpty()) return;
   const auto& lines = mDocument->GetTree().GetLines();
   if (lines.empty()) {
     const auto font = inDrawbot->GetSupplier()->NewFont(nullptr, kHintSize);
     const auto hint = lumcore::config::Localizer::Get()->GetLocalizedString(
         "$$$/outliner/View/Empty=Type the first row of your outline");
-    inDrawbot->DrawStringInRect(hint, font, palette::kFaintInk,
+    inDrawbot->DrawStringInRect(hint, font, palette::FaintInk(),
                                 Rect(0, kMargin, UI_GetLocalRectF().width, 4 * kMargin),
                                 lumui::drawbot::TextAlignment::kCenter);
     return;

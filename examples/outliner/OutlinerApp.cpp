@@ -5,7 +5,6 @@
 
 #include "DocumentFrame.h"
 #include "OutlineDocument.h"
-#include "OutlineWindow.h"
 #include "OutlinerCommands.h"
 #include "OutlinerMenus.h"
 #include "Reports.h"
@@ -17,8 +16,11 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumcore/xml/ParserFactory.h"
 #include "lumui/ui/ModuleHandle.h"
+#include "lumui/ui/Theme.h"
+#include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/uisupport/ReportError.h"
+#include "vek/workspace/Workspace.h"
 
 // The application's life cycle. Its documents are in OutlinerDocuments.cpp.
 namespace outliner {
@@ -32,6 +34,7 @@ constexpr int kWidth = 900;
 constexpr int kHeight = 640;
 constexpr int kMenuBar = 1;
 constexpr int kRecentFiles = 10;
+constexpr const char* kBrightnessKey = "brightness";
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -88,12 +91,6 @@ std::auto_ptr<lumcore::xml::DocParserFactory> OutlinerApp::InitXMLParserFactory(
   return std::auto_ptr<lumcore::xml::DocParserFactory>(new lumcore::xml::DocParserFactory);
 }
 
-lumworkspace::workspace::Workspace* OutlinerApp::InitWorkspace(vek::app::AppInitArgs&) {
-  return new OutlineWorkspace;
-}
-
-void OutlinerApp::LoadDefaultTheme(vek::app::AppInitArgs&) {}
-
 UTF16String OutlinerApp::GetClientName() {
   return ToUTF16("outliner");
 }
@@ -127,6 +124,9 @@ void OutlinerApp::RegisterApplicationCommands() {
 bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
   mCommandSystem->LoadKeys();
   if (!mOptions.keys.empty()) mCommandSystem->LoadUserKeys(File(mOptions.keys));
+  if (const float* const brightness = GetAppSettings().Find<float>(kBrightnessKey)) {
+    SetBrightness(*brightness);
+  }
   if (!MultiDocApplication::InitApplication(inArgs)) return false;
   BuildFrame();
   return true;
@@ -140,11 +140,17 @@ void OutlinerApp::BuildFrame() {
     mMenus->OpenRowMenu(*FindMainWindow(), inPlace);
   };
   mFrame.reset(new DocumentFrame(functions));
-  auto& window = static_cast<OutlineWindow&>(*FindMainWindow());
-  window.SetContent(mFrame);
+  auto& window = *GetWorkspace()->GetMainTopLevelWindow();
+  window.SetCentralNode(mFrame);
   window.UI_SetSize(kWidth, kHeight);
   mFrame->ShowState();
   window.UI_Activate();
+}
+
+void OutlinerApp::SetBrightness(float inBrightness) {
+  GetAppSettings().Set(kBrightnessKey, inBrightness);
+  lumui::ui::Theme::SetBrightness(inBrightness);
+  lumui::ui::Theme::NotifyThemeChanged();
 }
 
 // The framework has written the settings before, without the recent files of this session.

@@ -62,7 +62,10 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
 
   OutlineDocument* GetOutline() const;  // the current one, or null
   std::vector<OutlineDocument*> GetOutlines() const;
-  std::vector<lumcore::UTF16String> GetRecentFiles() const;      // most recent first
+  std::vector<lumcore::UTF16String> GetRecentFiles() const;  // most recent first
+  // From 0, the darkest, to 1; kept in the settings.
+  void SetBrightness(float inBrightness);
+
   CommandSystem& GetCommandSystem() { return *mCommandSystem; }  // from Start to End
   lumui::ui::OS_Window* FindMainWindow() const;                  // null while there is none
 
@@ -70,8 +73,6 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   lumcore::config::ErrorManager* InitErrorManager(vek::app::AppInitArgs&) override;
   lumcore::config::Localizer* InitLocalizer(vek::app::AppInitArgs&) override;
   std::auto_ptr<lumcore::xml::DocParserFactory> InitXMLParserFactory() override;
-  lumworkspace::workspace::Workspace* InitWorkspace(vek::app::AppInitArgs&) override;
-  void LoadDefaultTheme(vek::app::AppInitArgs&) override;
   lumcore::UTF16String GetClientName() override;
   lumcore::UTF16String GetClientVersion() override;
   lumcore::UTF16String GetClientInternalVersion() override;

@@ -33,6 +33,10 @@ enum Command : int {
   kCommandNextDocument,
   kCommandPreviousDocument,
   kCommandAbout,
+  kCommandDarkest,
+  kCommandDark,
+  kCommandLight,
+  kCommandLightest,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files and the open documents, in the

@@ -24,6 +24,7 @@ namespace {
 constexpr int kSeparator = 0;
 constexpr int kRecentFilesHere = -1;
 constexpr int kDocumentsHere = -2;
+constexpr int kBrightnessHere = -3;
 
 // Nobody answers for it, so that it is disabled: the line of an empty list.
 constexpr unsigned kNothing = kRecentFilesEnd;
@@ -53,7 +54,8 @@ const Items& RowItems() {
 }
 
 const Items& ViewItems() {
-  static const Items sItems = {kCommandNextDocument, kCommandPreviousDocument, kDocumentsHere};
+  static const Items sItems = {kBrightnessHere, kSeparator, kCommandNextDocument,
+                               kCommandPreviousDocument, kDocumentsHere};
   return sItems;
 }
 
@@ -128,6 +130,12 @@ OutlinerMenus::~OutlinerMenus() {
   DestroyPlatformMenu(mRowMenu);
 }
 
+void OutlinerMenus::AddBrightness(HMENU inMenu) {
+  const HMENU menu = AppendSubMenu(inMenu, Localized("$$$/outliner/Menu/Brightness=Brightness"), 0);
+  for (int command = kCommandDarkest; command <= kCommandLightest; ++command)
+    AppendItem(menu, NameOf(command), static_cast<unsigned>(command), true);
+}
+
 void OutlinerMenus::Build(HMENU inBar) {
   const struct {
     UTF16String title;
@@ -145,6 +153,8 @@ void OutlinerMenus::Build(HMENU inBar) {
         mRecentFiles = AppendSubMenu(menu, Localized("$$$/outliner/Menu/Recent=Open Recent"), 0);
       } else if (item == kDocumentsHere) {
         mDocuments = AppendSubMenu(menu, Localized("$$$/outliner/Menu/Documents=Documents"), 0);
+      } else if (item == kBrightnessHere) {
+        AddBrightness(menu);
       } else {
         AppendItem(menu, NameOf(item), static_cast<unsigned>(item), false);
       }

@@ -38,6 +38,8 @@ class OutlinerMenus {
   void OpenRowMenu(lumui::ui::OS_Window& inWindow, const lumcore::geom::PointT<int>& inPlace) const;
 
  private:
+  static void AddBrightness(HMENU inMenu);
+
   HMENU mRowMenu;  // owned
   HMENU mRecentFiles = nullptr;
   HMENU mDocuments = nullptr;

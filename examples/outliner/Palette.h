@@ -4,27 +4,58 @@
 #pragma once
 
 #include "lumui/drawbot/Color.h"
+#include "lumui/ui/Theme.h"
+#include "lumui/ui/ThemeColors.h"
 
+// The theme's colours, by what the outliner paints with them. Asked anew at each paint, since the
+// user may have changed the brightness.
 namespace outliner::palette {
 
-using lumui::drawbot::ColorRGBA;
-
-constexpr ColorRGBA FromBytes(int inRed, int inGreen, int inBlue) {
-  return ColorRGBA(static_cast<float>(inRed) / 255, static_cast<float>(inGreen) / 255,
-                   static_cast<float>(inBlue) / 255);
+inline lumui::drawbot::ColorRGBA Of(lumui::ui::themev5::Color inColor) {
+  return lumui::ui::Theme::Get()->GetColor(inColor);
 }
 
-// Paper and ink, with one accent.
-constexpr ColorRGBA kPaper = FromBytes(253, 252, 249);
-constexpr ColorRGBA kStrip = FromBytes(244, 241, 234);
-constexpr ColorRGBA kLine = FromBytes(226, 221, 210);
-constexpr ColorRGBA kGuide = FromBytes(235, 231, 222);
-constexpr ColorRGBA kInk = FromBytes(43, 47, 54);
-constexpr ColorRGBA kFaintInk = FromBytes(140, 142, 146);
-constexpr ColorRGBA kAccent = FromBytes(46, 110, 150);
-constexpr ColorRGBA kLeafBullet = FromBytes(176, 178, 178);
-constexpr ColorRGBA kSelection = FromBytes(215, 230, 240);
-constexpr ColorRGBA kIdleSelection = FromBytes(233, 232, 226);
-constexpr ColorRGBA kEditField = FromBytes(255, 255, 255);
+inline auto Paper() {
+  return Of(lumui::ui::themev5::kColor_ListBackground);
+}
+inline auto Strip() {
+  return Of(lumui::ui::themev5::kColor_PanelBackground);
+}
+inline auto Line() {
+  return Of(lumui::ui::themev5::kColor_Divider);
+}
+inline auto Guide() {
+  return Of(lumui::ui::themev5::kColor_ListRowSeparator);
+}
+inline auto Ink() {
+  return Of(lumui::ui::themev5::kColor_Text);
+}
+inline auto RowInk() {
+  return Of(lumui::ui::themev5::kColor_ListText);
+}
+inline auto FaintInk() {
+  return Of(lumui::ui::themev5::kColor_TextSecondary);
+}
+inline auto Accent() {
+  return Of(lumui::ui::themev5::kColor_LinkText);
+}
+inline auto LeafBullet() {
+  return Of(lumui::ui::themev5::kColor_ListTwisty);
+}
+inline auto Selection() {
+  return Of(lumui::ui::themev5::kColor_ListRowSelected);
+}
+inline auto SelectionInk() {
+  return Of(lumui::ui::themev5::kColor_ListTextSelected);
+}
+inline auto IdleSelection() {
+  return Of(lumui::ui::themev5::kColor_ListRowSelectedInactive);
+}
+inline auto EditField() {
+  return Of(lumui::ui::themev5::kColor_FieldBackground);
+}
+inline auto EditInk() {
+  return Of(lumui::ui::themev5::kColor_FieldText);
+}
 
 }  // namespace outliner::palette

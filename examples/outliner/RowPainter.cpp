@@ -58,6 +58,11 @@ UTF16String FirstLine(const UTF16String& inText) {
   return inText.substr(0, inText.find('\n'));
 }
 
+// On the band of a selection with the keyboard there is one ink for all.
+lumui::drawbot::ColorRGBA InkOn(const RowLook& inLook, const lumui::drawbot::ColorRGBA& inColor) {
+  return inLook.isSelected && inLook.isFocused ? palette::SelectionInk() : inColor;
+}
+
 }  // namespace
 
 RowPainter::RowPainter() {
@@ -70,7 +75,7 @@ RowPainter::RowPainter() {
 
 void RowPainter::Draw(Drawbot& inDrawbot, const Rect& inRow, const RowLook& inLook) const {
   if (inLook.isSelected) {
-    const auto& fill = inLook.isFocused ? palette::kSelection : palette::kIdleSelection;
+    const auto fill = inLook.isFocused ? palette::Selection() : palette::IdleSelection();
     const Rect band(inRow.x + kSelectionInset, inRow.y, inRow.width - 2 * kSelectionInset,
                     inRow.height);
     inDrawbot.FillPath(RoundedRect(band, kSelectionRadius), fill);
@@ -122,7 +127,7 @@ const FontP& RowPainter::FontOf(const RowLook& inLook) const {
 }
 
 void RowPainter::DrawGuides(Drawbot& inDrawbot, const Rect& inRow, const RowLook& inLook) const {
-  const Pen pen(palette::kGuide);
+  const Pen pen(palette::Guide());
   for (float x = BulletX(inLook, inRow) - kIndent; x >= inRow.x + kLeftMargin; x -= kIndent) {
     const float line = std::floor(x) + 0.5f;
     inDrawbot.StrokeLine({line, inRow.y}, {line, inRow.Bottom()}, pen);
@@ -132,11 +137,9 @@ void RowPainter::DrawGuides(Drawbot& inDrawbot, const Rect& inRow, const RowLook
 void RowPainter::DrawBullet(Drawbot& inDrawbot, const Rect& inRow, const RowLook& inLook) const {
   const float x = BulletX(inLook, inRow) + 0.5f;
   const float y = inRow.y + inRow.height / 2;
-  if (inLook.hasChildren) {
-    inDrawbot.FillPath(Circle(x, y, kBranchRadius), palette::kAccent);
-  } else {
-    inDrawbot.FillPath(Circle(x, y, kLeafRadius), palette::kLeafBullet);
-  }
+  const float radius = inLook.hasChildren ? kBranchRadius : kLeafRadius;
+  const auto color = inLook.hasChildren ? palette::Accent() : palette::LeafBullet();
+  inDrawbot.FillPath(Circle(x, y, radius), InkOn(inLook, color));
 }
 
 void RowPainter::DrawTexts(Drawbot& inDrawbot, const Rect& inRow, const RowLook& inLook) const {
@@ -144,14 +147,15 @@ void RowPainter::DrawTexts(Drawbot& inDrawbot, const Rect& inRow, const RowLook&
   const float right = inRow.Right() - kRightMargin;
   const float baseline = Baseline(inRow);
   const auto& font = FontOf(inLook);
-  const auto& ink = inLook.isComment ? palette::kFaintInk : palette::kInk;
+  const auto ink = InkOn(inLook, inLook.isComment ? palette::FaintInk() : palette::RowInk());
   inDrawbot.DrawString(*inLook.text, font, ink, {left, baseline},
                        lumui::drawbot::TextTruncation::kEnd, right - left);
   if (!inLook.note) return;
   const float noteLeft = left + font->MeasureWidth(*inLook.text) + kNoteGap;
   if (noteLeft + kIndent > right) return;
-  inDrawbot.DrawString(FirstLine(*inLook.note), mSmall, palette::kFaintInk, {noteLeft, baseline},
-                       lumui::drawbot::TextTruncation::kEnd, right - noteLeft);
+  inDrawbot.DrawString(FirstLine(*inLook.note), mSmall, InkOn(inLook, palette::FaintInk()),
+                       {noteLeft, baseline}, lumui::drawbot::TextTruncation::kEnd,
+                       right - noteLeft);
 }
 
 // How far the edited text is moved to the left, so that the caret is to be seen.
@@ -167,18 +171,18 @@ void RowPainter::DrawEdit(Drawbot& inDrawbot, const Rect& inRow, const RowLook& 
   const float width = inRow.Right() - kRightMargin - left;
   const Rect field(left - kFieldPadding + 0.5f, inRow.y + 1.5f, width + kFieldPadding,
                    inRow.height - 3);
-  inDrawbot.FillPath(RoundedRect(field, kFieldRadius), palette::kEditField);
-  inDrawbot.StrokePath(RoundedRect(field, kFieldRadius), Pen(palette::kAccent));
+  inDrawbot.FillPath(RoundedRect(field, kFieldRadius), palette::EditField());
+  inDrawbot.StrokePath(RoundedRect(field, kFieldRadius), Pen(palette::Accent()));
 
   const lumui::drawbot::StDrawbotState state(inDrawbot, field);
   const float scroll = EditScroll(inLook, width);
-  inDrawbot.DrawString(edit.GetText(), font, palette::kInk, {left - scroll, Baseline(inRow)});
+  inDrawbot.DrawString(edit.GetText(), font, palette::EditInk(), {left - scroll, Baseline(inRow)});
   const float caretX =
       std::floor(left - scroll +
                  font->MeasureWidthOnce(edit.GetText().substr(0, edit.GetCaret()))) +
       0.5f;
   inDrawbot.StrokeLine({caretX, inRow.y + 5}, {caretX, inRow.Bottom() - 5},
-                       Pen(palette::kAccent, 1.5f));
+                       Pen(palette::Accent(), 1.5f));
 }
 
 }  // namespace outliner

@@ -29,8 +29,8 @@ void StatusLine::SetTexts(const lumcore::UTF16String& inCounts, const lumcore::U
 
 void StatusLine::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   const auto& area = UI_GetLocalRectF();
-  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::kStrip);
-  inDrawbot->FillRect({0, 0, area.width, 1}, palette::kLine);
+  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::Strip());
+  inDrawbot->FillRect({0, 0, area.width, 1}, palette::Line());
 
   const auto font = inDrawbot->GetSupplier()->NewFont(nullptr, kTextSize);
   float left = kMargin;
@@ -41,13 +41,13 @@ void StatusLine::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
     inDrawbot->DrawStringInRect(inText, font, inColor, {left, 1, right - left, area.height - 1});
     left += font->MeasureWidth(inText) + kMargin;
   };
-  put(mCounts, palette::kInk);
-  put(mNews, palette::kAccent);
+  put(mCounts, palette::Ink());
+  put(mNews, palette::Accent());
   // Hints are the first to go where there is little room.
   const float hints = font->MeasureWidth(mHints) + 1;
   if (hints > right - left) return;
   left = right - hints;
-  put(mHints, palette::kFaintInk);
+  put(mHints, palette::FaintInk());
 }
 
 }  // namespace outliner

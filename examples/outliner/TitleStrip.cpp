@@ -30,8 +30,8 @@ void TitleStrip::SetTexts(const lumcore::UTF16String& inTitle,
 
 void TitleStrip::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   const auto& area = UI_GetLocalRectF();
-  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::kStrip);
-  inDrawbot->FillRect({0, area.height - 1, area.width, 1}, palette::kLine);
+  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::Strip());
+  inDrawbot->FillRect({0, area.height - 1, area.width, 1}, palette::Line());
 
   const auto* supplier = inDrawbot->GetSupplier();
   const auto bold = supplier->NewFont(nullptr, kTitleSize, lumui::drawbot::FontStyle::kBold);
@@ -39,9 +39,9 @@ void TitleStrip::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   const float room = std::max(0.0f, area.width - 2 * kMargin);
   const float placeWidth = std::min(small->MeasureWidth(mPlace) + 1, room * kLargestPlaceShare);
   inDrawbot->DrawStringInRect(
-      mPlace, small, palette::kFaintInk, {kMargin + room - placeWidth, 0, placeWidth, area.height},
+      mPlace, small, palette::FaintInk(), {kMargin + room - placeWidth, 0, placeWidth, area.height},
       lumui::drawbot::TextAlignment::kRight, lumui::drawbot::TextTruncation::kMiddle);
-  inDrawbot->DrawStringInRect(mTitle, bold, palette::kInk,
+  inDrawbot->DrawStringInRect(mTitle, bold, palette::Ink(),
                               {kMargin, 0, room - placeWidth - kMargin, area.height});
 }
 

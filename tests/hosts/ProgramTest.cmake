@@ -25,7 +25,7 @@ expect(1 "\\|.*outliner: ${WORK_DIR}/bad.xml:2:1: [^\n]* own keys are used"
 expect(1 "^o.opml [^\n]*\n\\|.*${WORK_DIR}/s.js:3: [^\n]*none/o.opml"
   --script ${WORK_DIR}/s.js ${WORK_DIR}/o.opml)
 expect(1 "\\|.*outliner: [^\n]*none.js" --script ${WORK_DIR}/none.js ${WORK_DIR}/o.opml)
-expect(2 "\\|.*--script" --script "" ${WORK_DIR}/o.opml)
+expect(2 "\\|.*--script" ${WORK_DIR}/o.opml --script)
 expect(2 "\\|.*--list-commands" --check --new ${WORK_DIR}/o.opml)
 expect(0 "1016  outliner.app.quit  +Quit  +Ctrl.Q\n" --list-commands)
 expect(0 "" --list-commands=markdown)

@@ -3,6 +3,7 @@
 
 #include "vek/workspace/TopLevelWindowT.h"
 
+#include "lumcore/utility/ScopedValue.h"
 #include "lumui/controls/UI_TextEdit.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "vek/uisupport/KeyCommandManager.h"
@@ -86,7 +87,17 @@ bool TopLevelWindowT<Base>::UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode,
                                                const lumui::ui::KeyboardEvent& inEvent) {
   if (Base::UI_DoKeyboardEvent(inNode, inEvent)) return true;
   if (IsWithinTextEdit(*inNode)) return false;
-  const bool routed = uisupport::KeyCommandManager::Get().RouteKeyEvent(inEvent);
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  bool routed = false;
+  try {
+    // Keyboards of other scripts have our letters only as a second reading of their keys.
+    routed = lumui::ui::OfferReadings(inEvent, [](const auto& inReading) {
+      return uisupport::KeyCommandManager::Get().RouteKeyEvent(inReading);
+    });
+  } catch (...) {  // a key whose command fails has meant the command all the same
+    lumui::ui::FlushPostActionKeyEvents(inEvent);
+    throw;
+  }
   if (routed) lumui::ui::FlushPostActionKeyEvents(inEvent);
   return routed;
 }

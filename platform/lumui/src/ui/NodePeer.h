@@ -90,6 +90,8 @@ class LUMUI_API NodePeer {
   // Of the widget's overrides.
   bool HandleEvent(QEvent& inEvent);  // true if Qt's class shall not see it
   void Paint();
+  // On behalf of a widget on the way of a key to the window. False leaves it to the walk.
+  bool MoveFocusFromWidget(bool inForward);
   bool MoveFocus(bool inForward);
   bool WantsInputMethod();
 
@@ -158,7 +160,7 @@ class NodeWidgetT : public Base, public NodeWidgetLink {
     }
   }
   bool focusNextPrevChild(bool inNext) override {
-    if (mPeer && this->isWindow()) return mPeer->MoveFocus(inNext);
+    if (mPeer && this->isWindow()) return mPeer->MoveFocusFromWidget(inNext);
     return Base::focusNextPrevChild(inNext);
   }
 };

@@ -223,6 +223,15 @@ void NodePeer::Paint() {
   });
 }
 
+// The widgets of docks and bars that lie between a node and its window want to move the focus before
+// the window has been asked. Controls of the window system keep Tab for themselves.
+bool NodePeer::MoveFocusFromWidget(bool inForward) {
+  const UI_Node* const focus = NodeOf(mWidget->focusWidget());
+  const bool walks = IsTabPress(EventGate::Get()->GetCurrentKey());
+  if (walks && focus && focus->GetPeer()->IsDrawn()) return false;
+  return MoveFocus(inForward);
+}
+
 bool NodePeer::MoveFocus(bool inForward) {
   // Qt asks for the next focus also when the one that has it is hidden; then nobody shall have it.
   if (!IsTabPress(EventGate::Get()->GetCurrentKey())) {

@@ -12,25 +12,6 @@
 
 namespace lumui::ui {
 
-namespace {
-
-// Holds the nodes below the bar, and passes keys on as they are: a plain widget would take Tab to
-// move the focus before the window has been asked.
-class Container : public QWidget {
- public:
-  using QWidget::QWidget;
-
- protected:
-  bool event(QEvent* inEvent) override {
-    const bool isKey = inEvent->type() == QEvent::KeyPress || inEvent->type() == QEvent::KeyRelease;
-    if (!isKey) return QWidget::event(inEvent);
-    inEvent->ignore();
-    return false;
-  }
-};
-
-}  // namespace
-
 class WindowPeer::Bar : public QMenuBar {
  public:
   Bar(WindowPeer& inPeer, QWidget* inParent) : QMenuBar(inParent), mPeer(&inPeer) {
@@ -77,7 +58,7 @@ QWidget* WindowPeer::DoGetContainer() {
 
 void WindowPeer::MakeContainer() {
   if (mContainer) return;
-  auto* const container = new Container(GetWidget());
+  auto* const container = new QWidget(GetWidget());
   container->setMouseTracking(true);
   auto* const layout = new QVBoxLayout(GetWidget());
   layout->setContentsMargins(0, 0, 0, 0);
