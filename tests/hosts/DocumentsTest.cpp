@@ -159,12 +159,14 @@ TEST(Menus, TheRightButtonSelectsTheRowAndOpensItsMenu) {
 
 constexpr const char* kSettings = "settings/AppPrefs.xml";
 
-TEST(Settings, KeepTheRecentFilesOfTheSession) {
+TEST(Settings, KeepTheRecentFilesAndTheBrightnessOfTheSession) {
   TemporaryFolder folder;
   {
     RunningOutliner host(folder);
     host.GetApp().OpenOutline(host.MakeFile("a.opml", "a"));
     host.GetApp().OpenOutline(host.MakeFile("b.opml", "b"));
+    lumui::testing::ChooseMenuItem(host.GetWindow(),
+                                   {ToUTF16("View"), ToUTF16("Brightness"), ToUTF16("Dark")});
     // As the system does that ends the process without a further word.
     EXPECT_TRUE(lumui::testing::EndSession());
     EXPECT_NE(folder.GetFile(kSettings).ReadAll().size(), 0u);
