@@ -1,0 +1,235 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumui/controls/UI_Popup.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOptionComboBox>
+#include <memory>
+#include <utility>
+
+#include "controls/ControlPeer.h"
+#include "controls/EditWidget.h"
+#include "drawbot/QtConvert.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/controls/UI_Popup_Combo.h"
+
+namespace lumui::controls {
+
+namespace {
+
+class ComboBox : public EditWidgetT<QComboBox> {
+ public:
+  using EditWidgetT::EditWidgetT;
+
+  bool mBelow = false;
+  bool mDivider = false;
+  std::function<void(const QString&)> mOnTyped;
+  std::function<void()> mOnTypingEnded;
+
+  void MakeEditable(bool inEditable) {
+    if (isEditable() == inEditable) return;
+    setEditable(inEditable);
+    if (!inEditable) return;
+    setInsertPolicy(QComboBox::NoInsert);
+    // What is typed is taken as it is.
+    setCompleter(nullptr);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& inText) {
+      if (!signalsBlocked()) mOnTyped(inText);
+    });
+    connect(lineEdit(), &QLineEdit::editingFinished, this, [this] {
+      // A widget without signals has lost its node; its field still has them.
+      if (!signalsBlocked()) mOnTypingEnded();
+    });
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* inEvent) override {
+    QComboBox::paintEvent(inEvent);
+    if (!mDivider) return;
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect arrow =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawLine(arrow.left(), 4, arrow.left(), height() - 5);
+  }
+  void keyPressEvent(QKeyEvent* inEvent) override {
+    isEditable() ? EditWidgetT::keyPressEvent(inEvent) : QComboBox::keyPressEvent(inEvent);
+  }
+};
+
+// Opens the list below the control whatever the system's style does.
+class BelowStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint inHint, const QStyleOption* inOption, const QWidget* inWidget,
+                QStyleHintReturn* outData) const override {
+    if (inHint == SH_ComboBox_Popup) return 0;
+    return QProxyStyle::styleHint(inHint, inOption, inWidget, outData);
+  }
+};
+
+}  // namespace
+
+class PopupPeer : public ControlPeer {
+  UI_Popup& Popup() const { return static_cast<UI_Popup&>(GetControl()); }
+
+  QWidget* DoMakeControl(QWidget* inParent) override {
+    auto* const combo = new ControlWidgetT<ComboBox, QStyleOptionComboBox>(*this, inParent);
+    combo->mOnTyped = [this](const QString& inText) {
+      ByUser([&] { Popup().HandleTyped(drawbot::FromQt(inText)); });
+    };
+    combo->mOnTypingEnded = [this] { ByUser([&] { Popup().HandleTypingEnded(); }); };
+    combo->mOnEnter = [this] {
+      ByUser([&] { Popup().HandleTypingEnded(); });
+      return !IsInDialog();
+    };
+    QObject::connect(combo, &QComboBox::activated, combo,
+                     [this](int inIndex) { ByUser([&] { Popup().HandleChosen(inIndex); }); });
+    return combo;
+  }
+};
+
+UI_Popup::UI_Popup() : UI_Popup(false) {
+  UI_SetNodeID("UI_Popup");
+}
+
+UI_Popup::UI_Popup(bool inEditable)
+    : UI_InteractiveControlView(std::make_unique<PopupPeer>()), mEditable(inEditable) {}
+
+UI_Popup::~UI_Popup() = default;
+
+UI_Popup_Combo::UI_Popup_Combo() : UI_Popup(true) {
+  UI_SetNodeID("UI_Popup_Combo");
+}
+
+UI_Popup_Combo::~UI_Popup_Combo() = default;
+
+int UI_Popup::AddItem(const lumcore::UTF16String& inText) {
+  mItems.push_back(inText);
+  ShowState();
+  return GetItemCount() - 1;
+}
+
+void UI_Popup::SetItems(const std::vector<lumcore::UTF16String>& inItems) {
+  mItems = inItems;
+  SetValue(-1);
+}
+
+lumcore::UTF16String UI_Popup::GetItemString(int inIndex) const {
+  const bool known = inIndex >= 0 && inIndex < GetItemCount();
+  return known ? mItems[static_cast<std::size_t>(inIndex)] : lumcore::UTF16String();
+}
+
+int UI_Popup::FindString(const lumcore::UTF16String& inText) const {
+  for (int i = 0; i < GetItemCount(); ++i) {
+    if (mItems[static_cast<std::size_t>(i)] == inText) return i;
+  }
+  return -1;
+}
+
+int UI_Popup::FindStringCaseInsensitive(const lumcore::UTF16String& inText) const {
+  using lumcore::utility::FoldCase;
+  const lumcore::UTF16String wanted = FoldCase(inText);
+  for (int i = 0; i < GetItemCount(); ++i) {
+    if (FoldCase(mItems[static_cast<std::size_t>(i)]) == wanted) return i;
+  }
+  return -1;
+}
+
+void UI_Popup::SetValue(int inIndex) {
+  mValue = inIndex >= 0 && inIndex < GetItemCount() ? inIndex : -1;
+  mText = GetItemString(mValue);
+  mTyping = false;
+  ShowState();
+}
+
+void UI_Popup::SetValueString(const lumcore::UTF16String& inText, bool inNotify) {
+  mValue = FindString(inText);
+  mText = inText;
+  mTyping = false;
+  ShowState();
+  if (inNotify) TellChanged(UI_InteractiveControlChangedMessage::kChanged, false);
+}
+
+void UI_Popup::SetPopupType(int inType) {
+  mType = inType;
+  ShowState();
+}
+
+void UI_Popup::SetDrawDivider(bool inDraw) {
+  mDrawDivider = inDraw;
+  ShowState();
+}
+
+void UI_Popup::SetFontSize(float inSize) {
+  mFontSize = inSize;
+  ShowState();
+}
+
+void UI_Popup::SetEditableState(bool inEditable) {
+  mEditable = inEditable;
+  ShowState();
+}
+
+void UI_Popup::HandleChosen(int inIndex) {
+  const bool same = inIndex == mValue && !mTyping;
+  mValue = inIndex;
+  mText = GetItemString(inIndex);
+  mTyping = false;
+  if (!same || mAlwaysNotify) TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+}
+
+void UI_Popup::HandleTyped(const lumcore::UTF16String& inText) {
+  mValue = -1;
+  mText = inText;
+  mTyping = true;
+  TellChanged(UI_InteractiveControlChangedMessage::kChanging, true);
+}
+
+void UI_Popup::HandleTypingEnded() {
+  if (!mTyping) return;
+  mTyping = false;
+  TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+}
+
+void UI_Popup::DoShowState() {
+  static BelowStyle* const sBelow = new BelowStyle;
+  auto* const combo = static_cast<ComboBox*>(GetPeer()->GetWidget());
+  combo->setFocusPolicy(UI_WantsKeyboardFocus() ? Qt::WheelFocus : Qt::NoFocus);
+  ApplyFontSize(*combo, mFontSize);
+  combo->MakeEditable(mEditable);
+  combo->mDivider = mDrawDivider;
+  if (combo->mBelow != (mType == kBelowItem)) {
+    combo->mBelow = !combo->mBelow;
+    combo->setStyle(combo->mBelow ? sBelow : nullptr);
+  }
+  QStringList items;
+  for (const lumcore::UTF16String& item : mItems)
+    items << drawbot::ToQt(item);
+  QStringList shown;
+  for (int i = 0; i < combo->count(); ++i)
+    shown << combo->itemText(i);
+  if (items != shown) {
+    combo->clear();
+    combo->addItems(items);
+  }
+  if (combo->currentIndex() != mValue) combo->setCurrentIndex(mValue);
+  const QString text = drawbot::ToQt(mText);
+  if (mEditable) {
+    if (combo->currentText() != text) combo->setEditText(text);
+    return;
+  }
+  // Qt means it for a hint; here it is a value like any other.
+  combo->setPlaceholderText(mValue < 0 ? text : QString());
+  combo->setAccessibleDescription(mValue < 0 ? text : QString());
+  QPalette palette = combo->palette();
+  palette.setBrush(QPalette::PlaceholderText, palette.buttonText());
+  combo->setPalette(palette);
+}
+
+}  // namespace lumui::controls
