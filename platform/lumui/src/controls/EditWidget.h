@@ -36,15 +36,21 @@ class EditWidgetT : public Base {
       Base::keyPressEvent(inEvent);
       if (!inEvent->isAccepted()) inEvent->setAccepted(IsEditingKey(*inEvent));
     }
-    if (inEvent->isAccepted()) mKept.insert(inEvent->key());
+    if (inEvent->isAccepted()) Keep(*inEvent);
   }
   void keyReleaseEvent(QKeyEvent* inEvent) override {
     Base::keyReleaseEvent(inEvent);
-    if (mKept.remove(inEvent->key())) inEvent->accept();
+    inEvent->setAccepted(mKept.remove(inEvent->key()));
   }
   void focusOutEvent(QFocusEvent* inEvent) override {
     mKept.clear();
     Base::focusOutEvent(inEvent);
+  }
+
+  // A press that the widget has taken in its own way.
+  void Keep(QKeyEvent& ioEvent) {
+    ioEvent.accept();
+    mKept.insert(ioEvent.key());
   }
 
  private:

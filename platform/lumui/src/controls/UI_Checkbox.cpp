@@ -14,7 +14,7 @@ namespace {
 
 class CheckboxPeer : public ButtonPeer {
   QWidget* DoMakeControl(QWidget* inParent) override {
-    return Connect(new ControlWidgetT<QCheckBox, QStyleOptionButton>(*this, inParent));
+    return Connect(new ButtonWidgetT<QCheckBox, QStyleOptionButton>(*this, inParent));
   }
 };
 

@@ -42,7 +42,7 @@ class ToolButton : public QToolButton {
 
 class PictureButtonPeer : public ButtonPeer {
   QWidget* DoMakeControl(QWidget* inParent) override {
-    auto* const button = new ControlWidgetT<ToolButton, QStyleOptionToolButton>(*this, inParent);
+    auto* const button = new ButtonWidgetT<ToolButton, QStyleOptionToolButton>(*this, inParent);
     button->setAutoRaise(true);
     return Connect(button);
   }

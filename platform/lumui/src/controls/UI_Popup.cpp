@@ -3,9 +3,11 @@
 
 #include "lumui/controls/UI_Popup.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOptionComboBox>
 #include <memory>
@@ -58,9 +60,41 @@ class ComboBox : public EditWidgetT<QComboBox> {
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawLine(arrow.left(), 4, arrow.left(), height() - 5);
   }
-  void keyPressEvent(QKeyEvent* inEvent) override {
-    isEditable() ? EditWidgetT::keyPressEvent(inEvent) : QComboBox::keyPressEvent(inEvent);
+  // Qt's list closes before the press comes, at the event that announces it, and then the press
+  // would go to the control and on to the dialog's button.
+  bool eventFilter(QObject* inObject, QEvent* inEvent) override {
+    if (inEvent->type() == QEvent::ShortcutOverride) {
+      mKeyInList = static_cast<QKeyEvent*>(inEvent)->key();
+    }
+    return EditWidgetT::eventFilter(inObject, inEvent);
   }
+  void showPopup() override {
+    mKeyInList = 0;
+    if (view() != mFiltered) {
+      mFiltered = view();
+      mFiltered->installEventFilter(this);
+    }
+    EditWidgetT::showPopup();
+  }
+  void keyPressEvent(QKeyEvent* inEvent) override {
+    const bool ofList = std::exchange(mKeyInList, 0) == inEvent->key();
+    const int key = inEvent->key();
+    if (ofList && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)) {
+      Keep(*inEvent);
+    } else if (isEditable()) {
+      EditWidgetT::keyPressEvent(inEvent);
+    } else {
+      QComboBox::keyPressEvent(inEvent);
+    }
+  }
+  void keyReleaseEvent(QKeyEvent* inEvent) override {
+    mKeyInList = 0;
+    EditWidgetT::keyReleaseEvent(inEvent);
+  }
+
+ private:
+  QPointer<QAbstractItemView> mFiltered;
+  int mKeyInList = 0;
 };
 
 // Opens the list below the control whatever the system's style does.

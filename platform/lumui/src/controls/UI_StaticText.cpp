@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QShortcutEvent>
 #include <QStylePainter>
+#include <QTextLayout>
+#include <algorithm>
 #include <memory>
 
 #include "controls/ControlPeer.h"
@@ -46,12 +48,31 @@ class Label : public QLabel {
     const int flags = int(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0) |
                       (underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
     const QString shown =
-        wordWrap() ? text()
+        wordWrap() ? WholeLines()
                    : fontMetrics().elidedText(text(), mElide, width(), Qt::TextShowMnemonic);
     painter.drawItemText(rect(), flags, palette(), isEnabled(), shown, foregroundRole());
   }
 
  private:
+  // Of a text that is too long for the height, what fits, with the last line shortened.
+  QString WholeLines() const {
+    const int most = std::max(1, height() / fontMetrics().lineSpacing());
+    QString all = text();
+    all.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(all, font());
+    layout.beginLayout();
+    int last = 0;
+    int count = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+      line.setLineWidth(width());
+      if (++count == most) last = line.textStart();
+    }
+    layout.endLayout();
+    if (count <= most || mElide == Qt::ElideNone) return text();
+    const QString rest = text().mid(last).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return text().left(last) + fontMetrics().elidedText(rest, Qt::ElideRight, width());
+  }
+
   void FocusNext() {
     const ui::UI_Node* const node = ui::NodePeer::NodeOf(this);
     const ui::UI_Node* const parent = node ? node->UI_GetParentNode() : nullptr;

@@ -55,7 +55,7 @@ class PushButton : public QPushButton {
 
 class TextButtonPeer : public ButtonPeer {
   QWidget* DoMakeControl(QWidget* inParent) override {
-    auto* const button = new ControlWidgetT<PushButton, QStyleOptionButton>(*this, inParent);
+    auto* const button = new ButtonWidgetT<PushButton, QStyleOptionButton>(*this, inParent);
     // Enter presses the one that has the keyboard.
     button->setAutoDefault(true);
     return Connect(button);

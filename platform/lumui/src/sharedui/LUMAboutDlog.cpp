@@ -44,7 +44,7 @@ LUMAboutDlog::LUMAboutDlog(const Content& inContent, ui::UI_Node* inParent)
   float top = kMargin;
   if (mContent.picture) {
     width = std::max(width, mContent.picture->GetWidth());
-    top += mContent.picture->GetHeight();
+    top += mContent.picture->GetHeight() + kMargin;
   }
   const auto addLine = [&](const lumcore::UTF16String& inText, float inFontSize) {
     mLines.push_back({inText, inFontSize, top});
@@ -85,8 +85,9 @@ void LUMAboutDlog::UI_Draw(drawbot::Drawbot* inDrawbot) const {
   const drawbot::SupplierInterface& supplier = *inDrawbot->GetSupplier();
   inDrawbot->FillRect(Rect(0, 0, width, height), supplier.NewBrush(ColorOf(QPalette::Base)));
   if (mContent.picture) {
-    const float left = (width - mContent.picture->GetWidth()) / 2;
-    inDrawbot->DrawImage(*mContent.picture, lumcore::geom::PointT<float>(left, 0));
+    // One as wide as the window is a banner; a smaller one is an icon over the texts.
+    const float inset = mContent.picture->GetWidth() < width ? kMargin : 0;
+    inDrawbot->DrawImage(*mContent.picture, lumcore::geom::PointT<float>(inset, inset));
   }
   const drawbot::ColorRGBA ink = ColorOf(QPalette::Text);
   for (const Line& line : mLines) {

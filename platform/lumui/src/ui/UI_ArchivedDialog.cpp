@@ -29,13 +29,12 @@ UI_ArchivedDialog::UI_ArchivedDialog(const drawbot::SupplierInterface* inSupplie
             "$$$/lumui/nodes/Error/Empty=@0: the archive is empty"),
         {inResource}));
   }
+  const lumcore::geom::RectT<float> size = mRoot->UI_GetLocalRectF();
+  GetContent().UI_AddChild(mRoot);
   if (const auto* const view = dynamic_cast<const UI_SubView*>(mRoot.get())) {
     SetMinimumSize(view->GetConstraints().minWidth, view->GetConstraints().minHeight);
   }
-  SetSize(mRoot->UI_GetLocalRectF().width, mRoot->UI_GetLocalRectF().height);
-  GetContent().UI_AddChild(mRoot);
-  UI_ArchivedDialog::UI_SizeChanged(
-      lumcore::geom::RectT<float>(0, 0, GetBounds().width, GetBounds().height));
+  SetSize(size.width, size.height);
 }
 
 UI_ArchivedDialog::~UI_ArchivedDialog() = default;

@@ -20,6 +20,7 @@
 #include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/DialogDriver.h"
+#include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/Application.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "ui/WindowPeer.h"
@@ -59,8 +60,10 @@ class UI_Dialog::Loop {
     if (inDriver) {
       QTimer::singleShot(0, &mLoop, [&] {
         try {
-          inDriver(ioDialog);
-          if (ioDialog.IsOpen() && Application::Get()->IsHeadless()) ioDialog.FailUnanswered();
+          // What showing the dialog has left: it comes to the front, and the keyboard to it.
+          Application::Get()->PumpPendingEvents();
+          if (ioDialog.IsOpen()) inDriver(ioDialog);
+          if (ioDialog.IsLeftOpen()) ioDialog.FailUnanswered();
         } catch (...) {
           mFailure = std::current_exception();
           mLoop.quit();
@@ -177,7 +180,12 @@ void UI_Dialog::EndDialog(int inResult) {
 void UI_Dialog::CloseWith(int inResult) {
   mOpen = false;
   mResult = inResult;
+  const bool wasActive = UI_IsActive();
   UI_Show(false);
+  // Without a display there is no window manager to bring the window behind it to the front.
+  if (wasActive && Application::Get()->IsHeadless()) {
+    testing::ActivateWindow(OS_Window::UI_GetWindow(mOwner));
+  }
   if (mLoop) mLoop->Quit();
   const boost::intrusive_ptr<UI_Dialog> self = std::move(mSelf);
   mSelf.reset();
@@ -250,6 +258,12 @@ void UI_Dialog::UI_DoClose() {
   } else {
     EndDialog(kCancel);
   }
+}
+
+// By a driver, where nobody else can close it.
+bool UI_Dialog::IsLeftOpen() const {
+  const Application& application = *Application::Get();
+  return mOpen && UI_GetHandle() && application.IsHeadless() && !application.IsQuitting();
 }
 
 void UI_Dialog::FailUnanswered() const {

@@ -22,9 +22,11 @@ class LUMUI_API UI_StaticText : public UI_ControlView {
   void SetAlignment(drawbot::TextAlignment inAlignment);
   drawbot::TextAlignment GetAlignment() const { return mAlignment; }
   // Breaks the text into lines, from the top; else it is one line, in the middle of the height.
+  // Lines that do not fit are left out.
   void SetMultiLine(bool inMultiLine);
   bool IsMultiLine() const { return mMultiLine; }
-  // What becomes of one line that is too wide. At the end, at start.
+  // What becomes of a line that is too wide, and of the last one that fits: shortened at its end,
+  // at start.
   void SetTruncation(drawbot::TextTruncation inTruncation);
   drawbot::TextTruncation GetTruncation() const { return mTruncation; }
   // In units; 0, as at start, for the size of the system's controls.

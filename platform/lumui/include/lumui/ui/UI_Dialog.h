@@ -77,6 +77,7 @@ class LUMUI_API UI_Dialog : public OS_Window {
   boost::shared_ptr<ChangedFunction> EndsWith(controls::UI_TextButton* inButton, int inResult);
   void Open(bool inModal);
   void CloseWith(int inResult);
+  bool IsLeftOpen() const;
   [[noreturn]] void FailUnanswered() const;
 
   boost::intrusive_ptr<UI_SubView> mContent;
