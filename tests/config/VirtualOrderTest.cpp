@@ -12,6 +12,7 @@
 #include <string>
 
 #include "lumcore/config/ErrorManager.h"
+#include "vek/app/MultiDocApplication.h"
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/document/FileBasedDocument.h"
 #include "vek/selection/Junction.h"
@@ -69,6 +70,38 @@ struct DocumentProbe : vek::document::FileBasedDocument {
   }
 };
 
+struct AppProbe : vek::app::MultiDocApplication {
+  static std::string Get() {
+    return Positions(
+        &AppProbe::RunEventLoop, &AppProbe::EndEventLoop, &AppProbe::ModalPumpEventQueue,
+        &AppProbe::RebuildMenuState, &AppProbe::InitErrorManager, &AppProbe::InitLocalizer,
+        &AppProbe::InitMemoryTracker, &AppProbe::InitXMLParserFactory, &AppProbe::InitWorkspace,
+        &AppProbe::TerminateWorkspace, &AppProbe::InitWorkspaceManagerMenu, &AppProbe::InitModules,
+        &AppProbe::InitPreferences, &AppProbe::InitDrawing, &AppProbe::TerminateDrawing,
+        &AppProbe::LoadDefaultTheme, &AppProbe::InitThemeEditor, &AppProbe::InitResourceManager,
+        &AppProbe::InitImageCache, &AppProbe::InitWorkspaceMenuHelper,
+        &AppProbe::InitWorkspaceManager, &AppProbe::InitWorkspaceProvider,
+        &AppProbe::GetNewSplashScreen, &AppProbe::OSInitialize, &AppProbe::OSTerminate,
+        &AppProbe::OSTerminateDrawing, &AppProbe::GetClientName, &AppProbe::GetClientVersion,
+        &AppProbe::GetClientInternalVersion, &AppProbe::GetCompanyName,
+        &AppProbe::GetClientBuildNumber, &AppProbe::InitApplication,
+        &AppProbe::TerminateApplication, &AppProbe::OnWorkspaceReady,
+        &AppProbe::ApplyDefaultWorkspace, &AppProbe::SaveDefaultWorkSpace,
+        &AppProbe::RegisterApplicationCommands, &AppProbe::DoAppCanQuit,
+        &AppProbe::DoAppActiveStateChanged, &AppProbe::MenubarCreateHook,
+        &AppProbe::LoadAppSettings, &AppProbe::SaveAppSettings, &AppProbe::UseCustomPrefsDir,
+        &AppProbe::GetAppPrefsDir, &AppProbe::DoIdle, &AppProbe::DoPreEventProcessing,
+        &AppProbe::DoPostEventProcessing, &AppProbe::GetAppSettingsFileName,
+        &AppProbe::GetDefaultWorkspaceName, &AppProbe::DoBeforeMenuPopup,
+        &AppProbe::EndEventLoopDuringSessionEnd, &AppProbe::MainWindowDefaultProc,
+        &AppProbe::GetCommandID);
+  }
+  static std::string GetOfDocuments() {
+    return Positions(&AppProbe::CloseAnyOpenDocuments, &AppProbe::SetDocument,
+                     &AppProbe::CloseDocument);
+  }
+};
+
 TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   using vek::selection::Junction;
   using vek::selection::Manager;
@@ -90,6 +123,11 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   EXPECT_EQ(Positions(&Type::ExtensionPushBack, &Type::ExtensionRemove, &Type::ExtensionBegin,
                       &Type::ExtensionEnd),
             "5 6 7 8 ");
+  std::string all;
+  for (int position = 2; position <= 54; ++position)
+    all += std::to_string(position) + " ";
+  EXPECT_EQ(AppProbe::Get(), all);
+  EXPECT_EQ(AppProbe::GetOfDocuments(), "55 56 57 ");
   // The destructor stands second.
   EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
 }

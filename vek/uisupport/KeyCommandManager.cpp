@@ -60,6 +60,11 @@ void DestroyAll(KeyCommandList& ioList) {
   ioList.clear();
 }
 
+CommandHandlerBase* FindChainStart() {
+  CommandHandlerBase* const current = CommandHandlerBase::GetCurrentCommandHandler();
+  return current ? current : CommandHandlerBase::GetDefaultCommandHandler();
+}
+
 }  // namespace
 
 KeyCommandManager::KeyCommandManager() = default;
@@ -175,8 +180,7 @@ bool KeyCommandManager::RouteKeyEvent(const KeyboardEvent& inEvent) {
   if (endedHold) return true;
   const bool repeat = inEvent.IsRepeat();
 
-  CommandHandlerBase* handler = CommandHandlerBase::GetCurrentCommandHandler();
-  if (!handler) handler = CommandHandlerBase::GetDefaultCommandHandler();
+  CommandHandlerBase* const handler = FindChainStart();
   if (!handler) return false;
   const KeyCommand* inContext = FindInContext(*handler, inEvent);
   if (inContext && RunIfKnown(inContext->GetCommandID(), repeat)) return true;
@@ -203,6 +207,13 @@ bool KeyCommandManager::RunIfKnown(int inCommand, bool inRepeat) {
     mHeldCommand = inCommand;
   }
   return true;
+}
+
+bool KeyCommandManager::HasMappingFor(const KeyboardEvent& inEvent) const {
+  if (!ManagerState::Get().mStarted || !inEvent.IsActionKeyDown()) return false;
+  CommandHandlerBase* const handler = FindChainStart();
+  if (!handler) return false;
+  return FindInContext(*handler, inEvent) || FindFirst(mGlobalMappings, inEvent);
 }
 
 void KeyCommandManager::RouteEndHoldCommand() {

@@ -74,6 +74,9 @@ class VEK_API KeyCommandManager {
   // default one, where none is current) goes before a global one. A command that is known and
   // disabled consumes its key; one that nobody in the chain knows leaves it to the next.
   bool RouteKeyEvent(const lumui::ui::KeyboardEvent& inEvent);
+  // Whether RouteKeyEvent would find a mapping for a key down, without asking the chain for its
+  // command. For who must tell beforehand whether a key is claimed.
+  bool HasMappingFor(const lumui::ui::KeyboardEvent& inEvent) const;
   void RouteEndHoldCommand();
   bool IsHandlingHoldCommand() const { return mHandlingHold; }
 

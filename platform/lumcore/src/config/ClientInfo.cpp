@@ -18,6 +18,7 @@ struct ClientInfo {
   UTF16String mClientInternalVersion;
   UTF16String mCompanyName;
   UTF16String mClientBuildNumber;
+  UTF16String mClientPrefsDir;
 };
 
 }  // namespace
@@ -46,6 +47,10 @@ void SetClientBuildNumber(const UTF16String& inNumber) {
   ClientInfo::Get().mClientBuildNumber = inNumber;
 }
 
+void SetClientPrefsDir(const UTF16String& inPath) {
+  ClientInfo::Get().mClientPrefsDir = inPath;
+}
+
 const UTF16String& GetClientName() {
   return ClientInfo::Get().mClientName;
 }
@@ -68,6 +73,10 @@ const UTF16String& GetCompanyName() {
 
 const UTF16String& GetClientBuildNumber() {
   return ClientInfo::Get().mClientBuildNumber;
+}
+
+const UTF16String& GetClientPrefsDir() {
+  return ClientInfo::Get().mClientPrefsDir;
 }
 
 }  // namespace lumcore::config

@@ -10,6 +10,7 @@
 #include "filesupport/Paths.h"
 #include "filesupport/SystemFile.h"
 #include "filesupport/ThrowFileError.h"
+#include "lumcore/config/ClientInfo.h"
 #include "lumcore/filesupport/File.h"
 #include "lumcore/utility/StringUtils.h"
 
@@ -65,6 +66,16 @@ Dir Dir::TempDir() {
 
 Dir Dir::AppDir() {
   return Dir(paths::Parent(system::ProgramPath()));
+}
+
+Dir Dir::PrefDir() {
+  const UTF16String& chosen = config::GetClientPrefsDir();
+  if (!chosen.empty()) return Dir(chosen);
+  Dir dir(system::SettingsPath());
+  for (const UTF16String* const part : {&config::GetCompanyName(), &config::GetClientName()}) {
+    if (!part->empty()) dir = Dir(dir, utility::ToStdString(*part));
+  }
+  return dir;
 }
 
 bool Dir::Exists() const {

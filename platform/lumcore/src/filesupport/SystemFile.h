@@ -43,7 +43,8 @@ std::intptr_t OpenForReading(const std::string& inPath);
 // An existing file is emptied, a new one has the permissions that the process gives.
 std::intptr_t OpenForWriting(const std::string& inPath);
 
-std::string ProgramPath();  // of this process's executable file
+std::string ProgramPath();   // of this process's executable file
+std::string SettingsPath();  // the folder for the settings of all of the user's programs
 bool FileExists(const std::string& inPath);
 bool FolderExists(const std::string& inPath);
 bool IsAbsent(const std::string& inPath);

@@ -3,6 +3,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <pwd.h>
 #include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
@@ -12,6 +13,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <memory>
@@ -337,6 +339,18 @@ std::string ProgramPath() {
                      kLink, code.value());
   }
   return paths::FromSystem(path);
+}
+
+std::string SettingsPath() {
+  // The desktop's rule: an absolute path, or the folder of that name in the user's home.
+  const char* const chosen = std::getenv("XDG_CONFIG_HOME");
+  if (chosen && *chosen == '/') return chosen;
+  const char* home = std::getenv("HOME");
+  if (!home || !*home) {
+    const passwd* const user = ::getpwuid(::geteuid());
+    home = user ? user->pw_dir : "/";
+  }
+  return paths::Join(home, ".config");
 }
 
 bool FileExists(const std::string& inPath) {

@@ -1,10 +1,12 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include "lumcore/xml/ParserFactory.h"
+
 #include <utility>
 
+#include "lumcore/utility/ScopedPtr.h"
 #include "lumcore/utility/StringUtils.h"
-#include "lumcore/xml/Parser.h"
 #include "xml/EventSource.h"
 #include "xml/UTF8Document.h"
 
@@ -31,10 +33,29 @@ class DocumentParser final : public Parser {
   const std::unique_ptr<AbstractParseHandler> mHandler;
 };
 
+// Never destroyed: objects that die when the process ends may still read a file.
+utility::ScopedPtr<DocParserFactory>& Factory() {
+  static auto* const sFactory = new utility::ScopedPtr<DocParserFactory>(new DocParserFactory);
+  return *sFactory;
+}
+
 }  // namespace
 
-std::auto_ptr<Parser> GetParser(std::auto_ptr<AbstractParseHandler> inHandler) {
+DocParserFactory::DocParserFactory() = default;
+
+DocParserFactory::~DocParserFactory() = default;
+
+std::auto_ptr<Parser> DocParserFactory::CreateParser(
+    std::auto_ptr<AbstractParseHandler> inHandler) {
   return std::auto_ptr<Parser>(new DocumentParser(inHandler));
+}
+
+void SetParserFactory(std::auto_ptr<DocParserFactory> inFactory) {
+  Factory().Reset(inFactory.get() ? inFactory.release() : new DocParserFactory);
+}
+
+std::auto_ptr<Parser> GetParser(std::auto_ptr<AbstractParseHandler> inHandler) {
+  return Factory()->CreateParser(inHandler);
 }
 
 }  // namespace lumcore::xml

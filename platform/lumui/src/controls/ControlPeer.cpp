@@ -3,8 +3,8 @@
 
 #include "controls/ControlPeer.h"
 
-#include <QFontInfo>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "lumcore/utility/RefCounted.h"
 #include "lumui/ui/UI_Dialog.h"
@@ -42,12 +42,8 @@ bool ControlPeer::IsInDialog() const {
 }
 
 void ApplyFontSize(QWidget& ioWidget, float inSize) {
-  QFont font = ioWidget.font();
-  if (inSize > 0) {
-    font.setPixelSize(std::max(1, qRound(inSize)));
-  } else {
-    font.setPixelSize(QFontInfo(QApplication::font(&ioWidget)).pixelSize());
-  }
+  QFont font;
+  if (inSize > 0) font.setPixelSize(std::max(1, qRound(inSize)));
   ioWidget.setFont(font);
 }
 

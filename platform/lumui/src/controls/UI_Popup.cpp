@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
-#include <QProxyStyle>
+#include <QScreen>
 #include <QStyleOptionComboBox>
 #include <memory>
 #include <utility>
@@ -29,6 +29,7 @@ class ComboBox : public EditWidgetT<QComboBox> {
 
   bool mBelow = false;
   bool mDivider = false;
+  QString mTextOfNone;  // while no item is chosen
   std::function<void(const QString&)> mOnTyped;
   std::function<void()> mOnTypingEnded;
 
@@ -49,6 +50,10 @@ class ComboBox : public EditWidgetT<QComboBox> {
   }
 
  protected:
+  void initStyleOption(QStyleOptionComboBox* outOption) const override {
+    EditWidgetT::initStyleOption(outOption);
+    if (currentIndex() < 0 && !isEditable()) outOption->currentText = mTextOfNone;
+  }
   void paintEvent(QPaintEvent* inEvent) override {
     QComboBox::paintEvent(inEvent);
     if (!mDivider) return;
@@ -75,6 +80,12 @@ class ComboBox : public EditWidgetT<QComboBox> {
       mFiltered->installEventFilter(this);
     }
     EditWidgetT::showPopup();
+    if (!mBelow) return;
+    // The style may have put it over the control.
+    QWidget* const list = mFiltered->window();
+    const QPoint below = mapToGlobal(QPoint(0, height()));
+    const bool fits = below.y() + list->height() <= screen()->availableGeometry().bottom();
+    if (fits) list->move(below);
   }
   void keyPressEvent(QKeyEvent* inEvent) override {
     const bool ofList = std::exchange(mKeyInList, 0) == inEvent->key();
@@ -95,16 +106,6 @@ class ComboBox : public EditWidgetT<QComboBox> {
  private:
   QPointer<QAbstractItemView> mFiltered;
   int mKeyInList = 0;
-};
-
-// Opens the list below the control whatever the system's style does.
-class BelowStyle : public QProxyStyle {
- public:
-  int styleHint(StyleHint inHint, const QStyleOption* inOption, const QWidget* inWidget,
-                QStyleHintReturn* outData) const override {
-    if (inHint == SH_ComboBox_Popup) return 0;
-    return QProxyStyle::styleHint(inHint, inOption, inWidget, outData);
-  }
 };
 
 }  // namespace
@@ -232,16 +233,12 @@ void UI_Popup::HandleTypingEnded() {
 }
 
 void UI_Popup::DoShowState() {
-  static BelowStyle* const sBelow = new BelowStyle;
   auto* const combo = static_cast<ComboBox*>(GetPeer()->GetWidget());
   combo->setFocusPolicy(UI_WantsKeyboardFocus() ? Qt::WheelFocus : Qt::NoFocus);
   ApplyFontSize(*combo, mFontSize);
   combo->MakeEditable(mEditable);
   combo->mDivider = mDrawDivider;
-  if (combo->mBelow != (mType == kBelowItem)) {
-    combo->mBelow = !combo->mBelow;
-    combo->setStyle(combo->mBelow ? sBelow : nullptr);
-  }
+  combo->mBelow = mType == kBelowItem;
   QStringList items;
   for (const lumcore::UTF16String& item : mItems)
     items << drawbot::ToQt(item);
@@ -258,12 +255,8 @@ void UI_Popup::DoShowState() {
     if (combo->currentText() != text) combo->setEditText(text);
     return;
   }
-  // Qt means it for a hint; here it is a value like any other.
-  combo->setPlaceholderText(mValue < 0 ? text : QString());
+  combo->mTextOfNone = text;
   combo->setAccessibleDescription(mValue < 0 ? text : QString());
-  QPalette palette = combo->palette();
-  palette.setBrush(QPalette::PlaceholderText, palette.buttonText());
-  combo->setPalette(palette);
 }
 
 }  // namespace lumui::controls

@@ -65,6 +65,10 @@ LUMAboutDlog::LUMAboutDlog(const Content& inContent, ui::UI_Node* inParent)
   SetSize(width, top + kMargin);
 }
 
+LUMAboutDlog::LUMAboutDlog(const lumcore::UTF16String& inName,
+                           const lumcore::UTF16String& inDetails)
+    : LUMAboutDlog(Content{nullptr, inName, lumcore::UTF16String(), inDetails}) {}
+
 LUMAboutDlog::~LUMAboutDlog() = default;
 
 void LUMAboutDlog::Show(bool inShow) {

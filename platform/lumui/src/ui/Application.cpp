@@ -80,6 +80,10 @@ void Application::SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inC
   mImpl->gate->mShortcutClaim = std::move(inClaim);
 }
 
+void Application::SetForeignPressHook(std::function<bool(const ForeignPress&)> inHook) {
+  mImpl->gate->mForeignPressHook = std::move(inHook);
+}
+
 int Application::Run() {
   LUM_INPUT_CONTRACT(!mImpl->running);
   const lumcore::utility::StScopedValue<bool> running(mImpl->running, true);

@@ -19,6 +19,7 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Menu.h"
 #include "ui/EventGate.h"
+#include "ui/FrameRegistry.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/WindowPeer.h"
 #include "ui/WindowRegistry.h"
@@ -34,12 +35,6 @@ constexpr unsigned kStyleDefault = 0xCF0000;  // caption, frame, and the caption
 std::vector<OS_Window*>& Windows() {
   static std::vector<OS_Window*> sWindows;
   return sWindows;
-}
-
-// Never used again, so that a handle kept too long finds no other window.
-HWND NewHandle() {
-  static std::uintptr_t sLast = 0;
-  return reinterpret_cast<HWND>(++sLast);
 }
 
 }  // namespace
@@ -99,8 +94,12 @@ void OS_Window::UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
         static_cast<float>(inRect->x), static_cast<float>(inRect->y),
         static_cast<float>(inRect->width), static_cast<float>(inRect->height)));
   }
+  OS_Frame::Description frame;
+  const bool framed = OS_Frame::GetDescription(mFrame, frame);
+  if (framed) ApplyFrame(frame);
   GetPeer()->PlaceIn(nullptr);
-  mHandle = NewHandle();
+  mHandle = framed && RemoveFrame(mFrame) ? mFrame : NewWindowHandle();
+  mFrame = nullptr;
   QWidget* const widget = GetPeer()->GetWidget();
   widget->winId();  // makes the native window, and so windowHandle()
   Windows().push_back(this);
@@ -112,7 +111,32 @@ void OS_Window::UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
   }
   UI_SetWindowStyleFlags(mStyleFlags);
   widget->setWindowTitle(drawbot::ToQt(mTitle));
+  // Its place stays the system's to choose.
+  if (framed && !inRect && frame.width > 0 && frame.height > 0) {
+    GetPeer()->ApplySize(frame.width, frame.height);
+  }
   GetPeer()->ApplyVisible();
+}
+
+bool OS_Window::UI_TakeFrame(HWND inFrame) {
+  OS_Frame::Description frame;
+  if (mHandle || !OS_Frame::GetDescription(inFrame, frame)) return false;
+  mFrame = inFrame;
+  return true;
+}
+
+void OS_Window::ApplyFrame(const OS_Frame::Description& inFrame) {
+  mTitle = inFrame.title;
+  mStyleFlags = inFrame.style;
+  if (inFrame.menuID != 0 && !UI_GetMenu()) mMenu = OS_Menu::Create(false);
+}
+
+void OS_Window::UI_Initialize(HINSTANCE) {
+  LUM_INPUT_CONTRACT(Application::Get() != nullptr);
+}
+
+void OS_Window::UI_Terminate() {
+  OS_Frame::ForgetAll();
 }
 
 void OS_Window::UI_DestroyWindow() {

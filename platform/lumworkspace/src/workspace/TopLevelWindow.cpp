@@ -14,7 +14,16 @@ TopLevelWindow::TopLevelWindow(Workspace* inWorkspace, bool inIsMain,
 
 TopLevelWindow::~TopLevelWindow() = default;
 
+bool TopLevelWindow::IsForTouch() const {
+  return false;
+}
+
+bool TopLevelWindow::CanMegaZoom() const {
+  return false;
+}
+
 void TopLevelWindow::ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
+  if (mIsMain) UI_TakeFrame(mWorkspace->mClientFrame);
   if (!inRect) {
     UI_ConstructWindow(nullptr);
     return;

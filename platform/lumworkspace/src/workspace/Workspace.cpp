@@ -7,6 +7,9 @@
 #include <utility>
 
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/ScopedValue.h"
+#include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/ui/OS_Frame.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 
 namespace lumworkspace::workspace {
@@ -56,6 +59,18 @@ TopLevelWindow* Workspace::GetMainTopLevelWindow() const {
   const auto main = std::find_if(mWindows.begin(), mWindows.end(),
                                  [](const auto& inWindow) { return inWindow->IsMain(); });
   return main == mWindows.end() ? nullptr : main->get();
+}
+
+lumui::drawbot::SupplierInterface* Workspace::UI_GetDrawSupplier() const {
+  return mSupplier ? mSupplier : lumui::drawbot::GetDefaultSupplier();
+}
+
+void OS_Workspace::AttachToClientApp(Workspace& ioWorkspace, HINSTANCE, HINSTANCE, HWND inWindow,
+                                     OSEventFunction inEventFunction, int) {
+  lumui::ui::OS_Frame::Description frame;
+  LUM_INPUT_CONTRACT(lumui::ui::OS_Frame::GetDescription(inWindow, frame));
+  const lumcore::utility::StScopedValue<HWND> attached(ioWorkspace.mClientFrame, inWindow);
+  ioWorkspace.CreateMainTopLevelWindow(inEventFunction);
 }
 
 }  // namespace lumworkspace::workspace

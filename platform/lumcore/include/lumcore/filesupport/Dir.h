@@ -23,7 +23,11 @@ class LUMCORE_API Dir {
   Dir(const Dir& inParent, std::string_view inName);
 
   static Dir TempDir();  // the system's folder for temporary files
-  static Dir AppDir();   // where the program of this process lies, links to it followed
+  // Where the user's settings of this application lie: the folder that config::SetClientPrefsDir
+  // has named, or else that of the company and the client within the system's folder for settings.
+  // It need not be there.
+  static Dir PrefDir();
+  static Dir AppDir();  // where the program of this process lies, links to it followed
 
   bool Exists() const;
   const std::string& GetPath() const { return mPath; }

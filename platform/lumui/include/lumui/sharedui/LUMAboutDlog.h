@@ -23,7 +23,9 @@ class LUMUI_API LUMAboutDlog : public ui::UI_Dialog {
     lumcore::UTF16String text;  // lines end with '\n'
   };
 
-  LUMAboutDlog(const Content& inContent, ui::UI_Node* inParent = nullptr);
+  explicit LUMAboutDlog(const Content& inContent, ui::UI_Node* inParent = nullptr);
+  // Texts alone.
+  LUMAboutDlog(const lumcore::UTF16String& inName, const lumcore::UTF16String& inDetails);
   ~LUMAboutDlog() override;
 
   // What it shows is on the screen when this returns: the start of an application has no loop yet.

@@ -7,12 +7,22 @@
 #include <functional>
 #include <memory>
 
+#include "lumcore/geom/Point.h"
 #include "lumui/Export.h"
+#include "lumui/ui/ModifierKeys.h"
 #include "lumui/ui/OS_Event.h"
 
 namespace lumui::ui {
 
 class KeyboardEvent;
+
+// A press of the left or right button in a window of this process that is none of ours, and no
+// popup, tool tip or picture of a drag.
+struct ForeignPress {
+  unsigned message = 0;  // kMessageLeftDown or kMessageRightDown
+  lumcore::geom::PointT<int> screenPosition;
+  ModifierKeys modifiers;
+};
 
 // The process's connection with the window system, its event loop and the one gate that every event
 // of our top-level windows passes: pre step, dispatch, post step. There is one at a time, made
@@ -46,6 +56,8 @@ class LUMUI_API Application {
   // True keeps a key press from opening a menu by its mnemonic: the press then comes as an event.
   // Asked with each reading of the key until it answers true.
   void SetShortcutClaim(std::function<bool(const KeyboardEvent&)> inClaim);
+  // Asked before the window gets the press; true keeps it from the window.
+  void SetForeignPressHook(std::function<bool(const ForeignPress&)> inHook);
 
   // Runs until Quit and returns its code. A Quit from before the call ends it at once. Not
   // re-entrant (a contract).

@@ -5,6 +5,7 @@
 
 #include "lumcore/Strings.h"
 #include "lumui/ui/OS_Event.h"
+#include "lumui/ui/OS_Frame.h"
 #include "lumui/ui/UI_Node.h"
 
 namespace lumui::ui {
@@ -23,6 +24,11 @@ class LUMUI_API OS_Window : public UI_Node {
   explicit OS_Window(OSEventFunction inEventFunction = nullptr, bool inConstructNow = true);
   ~OS_Window() override;
 
+  // Before the first window and after the last, of an application that works with window classes.
+  // There is an application object (a contract). The end forgets frames and classes.
+  static void UI_Initialize(HINSTANCE inApplication);
+  static void UI_Terminate();
+
   // The window of a handle; null for a handle that no window has, or has no more.
   static OS_Window* UI_GetWindow(HWND inHandle);
   // What a window does about a message that its event function leaves alone: it permits a close and
@@ -32,6 +38,10 @@ class LUMUI_API OS_Window : public UI_Node {
 
   // A null rectangle leaves place and size to the system. Does nothing if there is a native window.
   virtual void UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect);
+  // The native window to come has the frame's handle, title and style, its size unless a rectangle
+  // is given, and an empty menu in a bar where its class names one. False for what is no frame and
+  // where there is a native window already.
+  bool UI_TakeFrame(HWND inFrame);
   void UI_DestroyWindow();
   HWND UI_GetHandle() const { return mHandle; }  // null without a native window
 
@@ -74,9 +84,11 @@ class LUMUI_API OS_Window : public UI_Node {
  private:
   friend class NodePeer;
   WindowPeer& GetWindowPeer() const;
+  void ApplyFrame(const OS_Frame::Description& inFrame);
 
   OSEventFunction mEventFunction;
   HWND mHandle = nullptr;
+  HWND mFrame = nullptr;  // until there is a native window
   HMENU mMenu = nullptr;
   unsigned mStyleFlags;
   lumcore::UTF16String mTitle;

@@ -20,10 +20,14 @@ class LUMWORKSPACE_API TopLevelWindow : public lumui::ui::OS_Window {
   ~TopLevelWindow() override;
 
   bool IsMain() const { return mIsMain; }
+  virtual bool IsForTouch() const;  // false
+  // Whether its views may be magnified beyond their usual limit. False.
+  virtual bool CanMegaZoom() const;
   Workspace* GetWorkspace() const { return mWorkspace; }
 
   // In screen units, without the frame. A rectangle that lies on no present screen, or hardly, is
-  // moved onto the nearest one and cut to its size. Null leaves place and size to the system.
+  // moved onto the nearest one and cut to its size. Null leaves place and size to the system. The
+  // main window takes the frame of the client application, if one is attached.
   virtual void ConstructWindow(const lumcore::geom::RectT<int>* inRect);
 
   void UI_DoClose() override;

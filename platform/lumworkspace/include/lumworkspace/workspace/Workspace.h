@@ -26,7 +26,7 @@ class TopLevelWindow;
 // native parts when it goes.
 class LUMWORKSPACE_API Workspace {
  public:
-  // The supplier is borrowed and outlives the workspace.
+  // The supplier is borrowed and outlives the workspace. Null stands for the default one.
   explicit Workspace(lumui::drawbot::SupplierInterface* inSupplier);
   virtual ~Workspace();
   Workspace(const Workspace&) = delete;
@@ -47,10 +47,28 @@ class LUMWORKSPACE_API Workspace {
     return mWindows;
   }
   lumui::drawbot::SupplierInterface* GetDrawSupplier() const { return mSupplier; }
+  // The default one where the workspace was made with null.
+  lumui::drawbot::SupplierInterface* UI_GetDrawSupplier() const;
 
  private:
+  friend class OS_Workspace;
+  friend class TopLevelWindow;
+
   lumui::drawbot::SupplierInterface* mSupplier;
   std::vector<boost::intrusive_ptr<TopLevelWindow>> mWindows;
+  HWND mClientFrame = nullptr;  // while the main window for it is made
+};
+
+// What binds a workspace to the application that runs it.
+class LUMWORKSPACE_API OS_Workspace {
+ public:
+  OS_Workspace() = delete;
+
+  // Makes the main window of the workspace in the application's frame (see lumui::ui::OS_Frame),
+  // hidden, by CreateMainTopLevelWindow. The window is a frame (a contract). No flags are in use.
+  static void AttachToClientApp(Workspace& ioWorkspace, HINSTANCE inApplication,
+                                HINSTANCE inResources, HWND inWindow,
+                                lumui::ui::OSEventFunction inEventFunction, int inFlags);
 };
 
 }  // namespace lumworkspace::workspace

@@ -1,0 +1,302 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "vek/app/AppBase.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "lumcore/config/ClientInfo.h"
+#include "lumcore/config/ErrorManager.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/console/Console.h"
+#include "lumcore/debug/DebugDatabase.h"
+#include "lumcore/filesupport/Dir.h"
+#include "lumcore/filesupport/File.h"
+#include "lumcore/utility/MemoryTracker.h"
+#include "lumcore/xml/ParserFactory.h"
+#include "lumui/sharedui/LUMAboutDlog.h"
+#include "lumui/skins/core/SkinManager.h"
+#include "lumui/ui/KeyframeThemeEditor.h"
+#include "lumui/ui/OS_Event.h"
+#include "lumui/ui/UI_NodeManager.h"
+#include "lumui/utility/DrawbotImageResourceCache.h"
+#include "lumui/utility/ResourceManager.h"
+#include "lumworkspace/workspace/BuiltInWorkspaceProviderBase.h"
+#include "lumworkspace/workspace/ManagerBase.h"
+#include "lumworkspace/workspace/PlatformMenuHelperBase.h"
+#include "lumworkspace/workspace/TopLevelWindow.h"
+#include "lumworkspace/workspace/WorkspaceUIManager.h"
+#include "vek/app/App.h"
+#include "vek/app/src/MenuState.h"
+#include "vek/uisupport/DeferredActionManager.h"
+#include "vek/uisupport/KeyCommandManager.h"
+#include "vek/uisupport/MainWindowLookup.h"
+#include "vek/utility/VekResources.h"
+#include "vek/workspace/Workspace.h"
+
+namespace vek::app {
+
+using lumcore::UTF16String;
+using lumcore::filesupport::Dir;
+
+namespace {
+
+struct AutoDisable {
+  static AutoDisable& Get() {
+    static AutoDisable sAutoDisable;
+    return sAutoDisable;
+  }
+  bool mIsOn = false;
+  int mFirstCommand = 0;
+};
+
+// The old object goes before the new one is in place, as it may look itself up when it goes.
+template <class T>
+void Replace(T*& ioOwned, T* inNew) {
+  if (ioOwned == inNew) return;
+  delete std::exchange(ioOwned, nullptr);
+  ioOwned = inNew;
+}
+
+template <class T>
+void Delete(T*& ioOwned) {
+  delete std::exchange(ioOwned, nullptr);
+}
+
+// A defect in a file that only fault-finders write is told in the log and keeps nobody from
+// starting.
+void LoadDebugSwitches() {
+  try {
+    lumcore::debug::DebugDatabase::Instance().Load(
+        lumcore::filesupport::File(Dir::PrefDir(), "Debug.txt"));
+  } catch (const lumcore::config::Error& error) {
+    lumcore::console::ConsoleLogFile::WriteProblem(error.what());
+  }
+}
+
+}  // namespace
+
+// Before anything of an application that is there could be touched: a constructor that throws runs
+// no destructor.
+AppBase::AppBase()
+    : mUpdateMenuShortcuts(true),
+      mWorkspaceSaved(false),
+      mWorkspace(nullptr),
+      mErrorManager(nullptr),
+      mLocalizer(nullptr),
+      mWorkspaceUIManager(nullptr),
+      mResourceManager(nullptr),
+      mImageCache(nullptr),
+      mMemoryTracker(nullptr),
+      mMenuHelper(nullptr),
+      mWorkspaceManager(nullptr),
+      mWorkspaceProvider(nullptr),
+      mSaveRestoreLastWorkspace(true),
+      mLastStage(kStageNone) {
+  if (App::GetApp()) throw std::runtime_error("App object already initialized");
+}
+
+AppBase::~AppBase() {
+  uisupport::SetMainWindowLookup({});
+  lumcore::config::Localizer::Set(nullptr, Dir());
+  mSettings.Clear();
+  Delete(mMemoryTracker);
+  Delete(mImageCache);
+  Delete(mResourceManager);
+  Delete(mWorkspaceUIManager);
+  Delete(mLocalizer);
+  Delete(mErrorManager);
+}
+
+bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
+  StartServices(inArgs, inLocalizationDir);
+  StartLook(inArgs);
+
+  mLastStage = kStageSettings;
+  LoadAppSettings();
+  mLastStage = kStageSwitcher;
+  mSwitcherSerializer.Init();
+  mLastStage = kStageWorkspace;
+  Replace(mWorkspace, InitWorkspace(inArgs));
+  uisupport::SetMainWindowLookup([this]() -> lumui::ui::UI_Node* {
+    return mWorkspace ? mWorkspace->GetMainTopLevelWindow() : nullptr;
+  });
+  mLastStage = kStageSplashScreen;
+  const boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog> splashScreen = GetNewSplashScreen();
+  if (splashScreen) splashScreen->Show(true);
+
+  StartWorkspace(inArgs);
+  mLastStage = kStageApplication;
+  const bool started = InitApplication(inArgs);
+  if (started && mWorkspaceManager) {
+    mLastStage = kStageActivation;
+    using Function = boost::function<void(bool)>;
+    mActivationFunction.reset(
+        new Function([this](bool inActive) { HandleAppActiveStateChanged(inActive); }));
+    lumui::ui::UI_NodeManager::Get(false)->InstallApplicationActivationChangedFunction(
+        mActivationFunction);
+    mLastStage = kStageWorkspaceMenu;
+    InitWorkspaceManagerMenu();
+  }
+  mLastStage = kStageMnemonics;
+  lumui::ui::UI_NodeManager::Get(false)->EnableMnemonics();
+  mLastStage = kStageRunning;
+  return started;
+}
+
+// What everything else stands on: the platform, errors, texts, files.
+void AppBase::StartServices(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
+  mLastStage = kStagePlatform;
+  OSInitialize(inArgs);
+  mLastStage = kStageErrorManager;
+  Replace(mErrorManager, InitErrorManager(inArgs));
+  lumcore::config::ErrorManager::Set(mErrorManager);
+  mLastStage = kStageLocalizer;
+  Replace(mLocalizer, InitLocalizer(inArgs));
+  lumcore::config::Localizer::Set(mLocalizer, inLocalizationDir);
+  mLastStage = kStageClientInfo;
+  SetClientInfo();
+  mLastStage = kStagePrefsDir;
+  if (UseCustomPrefsDir()) lumcore::config::SetClientPrefsDir(GetAppPrefsDir());
+  mLastStage = kStageParserFactory;
+  lumcore::xml::SetParserFactory(InitXMLParserFactory());
+  mLastStage = kStageConsole;
+  LoadDebugSwitches();
+  if (lumcore::debug::DebugDatabase::Instance().GetBoolean("Show Windows Console", false)) {
+    lumcore::console::CreateStandardConsoleWindow();
+  }
+}
+
+void AppBase::SetClientInfo() {
+  lumcore::config::SetClientName(GetClientName());
+  lumcore::config::SetApplicationName(GetClientName());
+  lumcore::config::SetClientVersion(GetClientVersion());
+  lumcore::config::SetClientInternalVersion(GetClientInternalVersion());
+  lumcore::config::SetCompanyName(GetCompanyName());
+  lumcore::config::SetClientBuildNumber(GetClientBuildNumber());
+}
+
+// What is needed to draw anything.
+void AppBase::StartLook(AppInitArgs& inArgs) {
+  mLastStage = kStageSkins;
+  lumui::skins::core::SkinManager::Initialize("V5");
+  mLastStage = kStageWorkspaceUI;
+  Replace(mWorkspaceUIManager, new lumworkspace::workspace::WorkspaceUIManager);
+  mLastStage = kStageModules;
+  InitModules();
+  InitPreferences();
+  mLastStage = kStageResources;
+  Replace(mResourceManager, InitResourceManager(inArgs));
+  mLastStage = kStageDrawing;
+  InitDrawing();
+  mLastStage = kStageTheme;
+  lumui::ui::Theme::Initialize(InitThemeEditor(inArgs));
+  mLastStage = kStageDefaultTheme;
+  LoadDefaultTheme(inArgs);
+  mLastStage = kStageImageCache;
+  Replace(mImageCache, InitImageCache(inArgs));
+}
+
+void AppBase::StartWorkspace(AppInitArgs&) {
+  mLastStage = kStageWorkspaceProvider;
+  Replace(mWorkspaceProvider, InitWorkspaceProvider());
+  mLastStage = kStageWorkspaceManager;
+  Replace(mWorkspaceManager, InitWorkspaceManager());
+  mLastStage = kStageWorkspaceReady;
+  OnWorkspaceReady(mWorkspace);
+  mLastStage = kStageCommands;
+  RegisterApplicationCommands();
+  mLastStage = kStageKeyCommands;
+  uisupport::KeyCommandManager::Init();
+}
+
+void AppBase::Terminate() {
+  if (mActivationFunction) mActivationFunction->clear();
+  SaveAppSettings();
+  TerminateWorkspace();
+  TerminateApplication();
+  lumui::skins::core::SkinManager::Terminate();
+  Delete(mImageCache);
+  Delete(mResourceManager);
+  utility::DisposeVekResources();
+  EndWorkspaceManagement();
+  lumui::ui::Theme::Terminate();
+  Delete(mWorkspaceUIManager);
+  TerminateDrawing();
+  OSTerminateDrawing();
+  // Each takes itself out of its place when it goes.
+  Delete(mLocalizer);
+  Delete(mErrorManager);
+  lumcore::console::ConsoleLogFile::Terminate();
+  uisupport::DeferredActionManager::Terminate();
+  OSTerminate();
+}
+
+void AppBase::EndWorkspaceManagement() {
+  if (mMenuHelper) {
+    if (mWorkspaceManager) mWorkspaceManager->RemoveMenuHelper(mMenuHelper);
+    Delete(mMenuHelper);
+  }
+  Delete(mWorkspaceManager);
+  Delete(mWorkspaceProvider);
+}
+
+void AppBase::ResetWorkspaceManager() {
+  Delete(mWorkspaceManager);
+  mWorkspaceManager = InitWorkspaceManager();
+  InitWorkspaceManagerMenu();
+}
+
+bool AppBase::AppCanQuit() {
+  return DoAppCanQuit();
+}
+
+void AppBase::OnIdle() {
+  DoIdle();
+}
+
+bool AppBase::PreEventProcessing(const lumui::ui::OS_Event& inEvent) {
+  bool dispatch = true;
+  lumcore::config::ExecuteTopLevelFunction([&] { dispatch = DoPreEventProcessing(inEvent); });
+  return dispatch;
+}
+
+void AppBase::PostEventProcessing(const lumui::ui::OS_Event& inEvent) {
+  lumcore::config::ExecuteTopLevelFunction([&] { DoPostEventProcessing(inEvent); });
+}
+
+void AppBase::BeforeMenuPopup(HMENU inMenu) {
+  ReleaseInputCapture();
+  DoBeforeMenuPopup(inMenu);
+}
+
+HMENU AppBase::GetMainMenu() const {
+  const auto* const window = mWorkspace ? mWorkspace->GetMainTopLevelWindow() : nullptr;
+  return window ? window->UI_GetMenu() : nullptr;
+}
+
+void AppBase::HandleAppActiveStateChanged(bool inActive) {
+  DoAppActiveStateChanged(inActive);
+}
+
+void AppBase::AutoDisableUserCmds(int inFirstCommand) {
+  AutoDisable::Get().mIsOn = true;
+  AutoDisable::Get().mFirstCommand = inFirstCommand;
+}
+
+bool AppBase::IsAutoDisabling() {
+  return AutoDisable::Get().mIsOn;
+}
+
+int AppBase::GetAutoDisableThreshold() {
+  return AutoDisable::Get().mFirstCommand;
+}
+
+messaging::Broadcaster<const AppActivationMessage&>& AppBase::GetAppActivationNotifier() {
+  static auto* const sNotifier = new messaging::Broadcaster<const AppActivationMessage&>;
+  return *sNotifier;
+}
+
+}  // namespace vek::app
