@@ -187,16 +187,17 @@ TEST_F(Dialogs, FollowTheirArchiveInSize) {
 
 TEST_F(Dialogs, ModelessOnesHoldThemselves) {
   const auto window = MakeWindow();
-  ui::UI_Dialog* dialog = nullptr;
-  {
+  const auto open = [&] {
     const boost::intrusive_ptr<ExportDialog> made(new ExportDialog(window.get()));
-    dialog = made.get();
     made->RunModeless([this](int inResult) { Log(std::to_string(inResult)); });
-  }
-  const HWND handle = dialog->UI_GetHandle();
-  input::RequestClose(*dialog);
+    return made->UI_GetHandle();
+  };
+  const HWND closed = open();
+  input::RequestClose(*ui::OS_Window::UI_GetWindow(closed));
   EXPECT_EQ(TakeLog(), "2");
-  EXPECT_EQ(ui::OS_Window::UI_GetWindow(handle), nullptr);
+  EXPECT_EQ(ui::OS_Window::UI_GetWindow(closed), nullptr);
+  ui::OS_Window::UI_GetWindow(open())->UI_DestroyWindow();
+  EXPECT_EQ(TakeLog(), "2");
 }
 
 TEST_F(Dialogs, SplashScreensEndWithTheirReference) {

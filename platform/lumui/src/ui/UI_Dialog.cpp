@@ -81,6 +81,15 @@ class UI_Dialog::Loop {
   std::exception_ptr mFailure;
 };
 
+// Ends a dialog without a loop when its window goes.
+class UI_Dialog::WindowWatch : public QObject {
+ public:
+  explicit WindowWatch(UI_Dialog& inDialog) {
+    QObject::connect(inDialog.GetPeer()->GetWidget(), &QObject::destroyed, this,
+                     [&inDialog] { inDialog.CloseWith(kCancel); });
+  }
+};
+
 UI_Dialog::UI_Dialog(const lumcore::UTF16String& inTitle, UI_Node* inParent)
     : OS_Window(nullptr, false), mContent(new UI_SubView) {
   UI_SetTitle(inTitle);
@@ -152,6 +161,7 @@ void UI_Dialog::RunModeless(const boost::function<void(int)>& inEnded) {
   Open(false);
   mEnded = inEnded;
   mSelf.reset(this);
+  mWatch = std::make_unique<WindowWatch>(*this);
   const boost::intrusive_ptr<UI_Dialog> keepAlive(this);
   if (driver) driver(*this);
 }
@@ -180,7 +190,8 @@ void UI_Dialog::EndDialog(int inResult) {
 void UI_Dialog::CloseWith(int inResult) {
   mOpen = false;
   mResult = inResult;
-  const bool wasActive = UI_IsActive();
+  mWatch.reset();
+  const bool wasActive = GetPeer()->GetWidget() && UI_IsActive();
   UI_Show(false);
   // Without a display there is no window manager to bring the window behind it to the front.
   if (wasActive && Application::Get()->IsHeadless()) {

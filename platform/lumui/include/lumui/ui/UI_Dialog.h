@@ -6,6 +6,7 @@
 #include <boost/function.hpp>
 #include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
+#include <memory>
 
 #include "lumui/controls/UI_InteractiveControlView.h"
 #include "lumui/controls/UI_TextButton.h"
@@ -72,6 +73,7 @@ class LUMUI_API UI_Dialog : public OS_Window {
 
  private:
   class Loop;
+  class WindowWatch;
   using ChangedFunction = controls::UI_InteractiveControlView::ChangedFunction;
 
   boost::shared_ptr<ChangedFunction> EndsWith(controls::UI_TextButton* inButton, int inResult);
@@ -88,6 +90,7 @@ class LUMUI_API UI_Dialog : public OS_Window {
   boost::function<void(int)> mEnded;
   boost::intrusive_ptr<UI_Dialog> mSelf;  // while open without a loop
   HWND mOwner = nullptr;
+  std::unique_ptr<WindowWatch> mWatch;
   Loop* mLoop = nullptr;
   bool mOpen = false;
   bool mHasPlace = false;
