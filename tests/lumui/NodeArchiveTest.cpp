@@ -28,7 +28,8 @@ class NodeArchives : public UITest {
     ui::UI_NodeBuilder builder(ToUTF8(std::string_view(inArchive)), U16("some.xml"));
     const utility::ResourceManager resources = TestResources();
     builder.SetResources(&resources);
-    return builder.Build(nullptr, mNodes, inCustom);
+    mRoot = builder.Build(nullptr, mNodes, inCustom);
+    return mRoot;
   }
   std::string Write(const ui::UI_Node& inRoot) { return Text(ui::UI_NodeBuilder::Write(inRoot)); }
   template <class Class>
@@ -37,6 +38,7 @@ class NodeArchives : public UITest {
   }
 
   Nodes mNodes;
+  Node mRoot;  // the nodes of the map belong to it
 };
 
 std::string Replaced(std::string inText, const std::string& inOld, const std::string& inNew) {
