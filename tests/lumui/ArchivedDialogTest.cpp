@@ -197,6 +197,7 @@ TEST_F(Dialogs, ModelessOnesHoldThemselves) {
   EXPECT_EQ(TakeLog(), "2");
   EXPECT_EQ(ui::OS_Window::UI_GetWindow(closed), nullptr);
   ui::OS_Window::UI_GetWindow(open())->UI_DestroyWindow();
+  App().PumpPendingEvents();
   EXPECT_EQ(TakeLog(), "2");
 }
 

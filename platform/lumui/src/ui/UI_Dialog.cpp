@@ -81,12 +81,14 @@ class UI_Dialog::Loop {
   std::exception_ptr mFailure;
 };
 
-// Ends a dialog without a loop when its window goes.
+// Ends a dialog without a loop when its window goes: at the next turn, since whoever destroys the
+// window works on the dialog still.
 class UI_Dialog::WindowWatch : public QObject {
  public:
   explicit WindowWatch(UI_Dialog& inDialog) {
-    QObject::connect(inDialog.GetPeer()->GetWidget(), &QObject::destroyed, this,
-                     [&inDialog] { inDialog.CloseWith(kCancel); });
+    QObject::connect(
+        inDialog.GetPeer()->GetWidget(), &QObject::destroyed, this,
+        [&inDialog] { inDialog.CloseWith(kCancel); }, Qt::QueuedConnection);
   }
 };
 
