@@ -277,6 +277,13 @@ TEST_F(Controls, CombosTakeWhatIsTyped) {
   combo->SetEditable(false);
   combo->SetEditable(true);
   EXPECT_EQ(Shown(*combo), "1notes");
+  // A button that leaves the keyboard where it is ends the typing all the same.
+  const auto button = Add<UI_TextButton>("button", Rect(0, 30, 90, 20));
+  Listen(*button);
+  input::TypeText(*mWindow, U16("x"));
+  TakeLog();
+  button->Press();
+  EXPECT_EQ(TakeLog(), "combo=-1notesx combo*2 button=up button*2");
 }
 
 TEST_F(Controls, HaveNamesForScreenReadersAndAnOrderForTab) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "controls/ButtonPeer.h"
+#include "lumui/ui/OS_Window.h"
 
 namespace lumui::controls {
 
@@ -54,12 +55,21 @@ void UI_Button::Press() {
     return;
   }
   if (!mOptions.springLoaded) SetDownStateByUser(!GetDownState());
+  TellPressed();
+}
+
+// What is being typed counts first: whoever hears of the button reads it.
+void UI_Button::TellPressed() {
+  const ui::OS_Window* const window = UI_GetWindowNode();
+  ui::UI_Node* const focus = window ? window->UI_GetFocusNode() : nullptr;
+  auto* const control = dynamic_cast<UI_InteractiveControlView*>(focus);
+  if (control && control != this) control->Commit();
   TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
 }
 
 void UI_Button::HandlePressed() {
   if (!mOptions.springLoaded || !mOptions.notificationOnMouseDown) return;
-  TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+  TellPressed();
 }
 
 void UI_Button::HandleClicked() {
@@ -67,7 +77,7 @@ void UI_Button::HandleClicked() {
   if (!mOptions.springLoaded) {
     SetDownStateByUser(static_cast<QAbstractButton*>(GetPeer()->GetWidget())->isChecked());
   }
-  TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+  TellPressed();
 }
 
 }  // namespace lumui::controls

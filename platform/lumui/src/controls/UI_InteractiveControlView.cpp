@@ -35,6 +35,8 @@ void UI_InteractiveControlView::NotifyWhenChangedInteractively(
   mInteractiveListeners.Add(inFunction);
 }
 
+void UI_InteractiveControlView::Commit() {}
+
 void UI_InteractiveControlView::TellChanged(UI_InteractiveControlChangedMessage::Change inChange,
                                             bool inByUser) {
   const lumcore::utility::StKeepAlive keepAlive(*this);

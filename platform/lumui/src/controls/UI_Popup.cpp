@@ -118,9 +118,9 @@ class PopupPeer : public ControlPeer {
     combo->mOnTyped = [this](const QString& inText) {
       ByUser([&] { Popup().HandleTyped(drawbot::FromQt(inText)); });
     };
-    combo->mOnTypingEnded = [this] { ByUser([&] { Popup().HandleTypingEnded(); }); };
+    combo->mOnTypingEnded = [this] { ByUser([&] { Popup().Commit(); }); };
     combo->mOnEnter = [this] {
-      ByUser([&] { Popup().HandleTypingEnded(); });
+      ByUser([&] { Popup().Commit(); });
       return !IsInDialog();
     };
     QObject::connect(combo, &QComboBox::activated, combo,
@@ -226,7 +226,7 @@ void UI_Popup::HandleTyped(const lumcore::UTF16String& inText) {
   TellChanged(UI_InteractiveControlChangedMessage::kChanging, true);
 }
 
-void UI_Popup::HandleTypingEnded() {
+void UI_Popup::Commit() {
   if (!mTyping) return;
   mTyping = false;
   TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);

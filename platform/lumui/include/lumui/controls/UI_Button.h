@@ -41,6 +41,7 @@ class LUMUI_API UI_Button : public UI_InteractiveControlView {
 
  private:
   friend class ButtonPeer;
+  void TellPressed();
   void HandlePressed();
   void HandleClicked();
 

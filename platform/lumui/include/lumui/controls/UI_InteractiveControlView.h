@@ -27,6 +27,10 @@ class LUMUI_API UI_InteractiveControlView : public UI_ControlView {
   // After the user's changes only, and after the functions above.
   void NotifyWhenChangedInteractively(const boost::shared_ptr<ChangedFunction>& inFunction);
 
+  // Tells as complete what the user has begun and not been told as that yet. The base operation has
+  // nothing to tell.
+  virtual void Commit();
+
  protected:
   explicit UI_InteractiveControlView(std::unique_ptr<ui::NodePeer> inPeer);
 

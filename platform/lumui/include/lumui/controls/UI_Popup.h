@@ -52,6 +52,8 @@ class LUMUI_API UI_Popup : public UI_InteractiveControlView {
   void SetFontSize(float inSize);
   float GetFontSize() const { return mFontSize; }
 
+  void Commit() override;
+
  protected:
   // For a list with a field.
   explicit UI_Popup(bool inEditable);
@@ -63,7 +65,6 @@ class LUMUI_API UI_Popup : public UI_InteractiveControlView {
   friend class PopupPeer;
   void HandleChosen(int inIndex);
   void HandleTyped(const lumcore::UTF16String& inText);
-  void HandleTypingEnded();
 
   std::vector<lumcore::UTF16String> mItems;
   lumcore::UTF16String mText;

@@ -11,7 +11,8 @@
 namespace lumui::controls {
 
 // A field in which the user edits a text, of one line or of many. Each edit is told as kChanging;
-// kChanged is told once it is committed: by Enter in one line, or when the keyboard goes elsewhere.
+// kChanged is told once it is committed: by Enter in one line, when the keyboard goes elsewhere, or
+// when a button of the window is pressed.
 //
 // The keys that edit, move or commit are the field's, pressed and let go, whether they change
 // anything or not; the node's parents get only what it leaves (Ctrl+S). In a dialog it leaves
@@ -45,8 +46,7 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   std::size_t GetSelectionEnd() const { return mSelectionEnd; }
   void SelectAll() { SetSelection(0, mText.size()); }
 
-  // Tells an edit that was not told as complete yet. Does nothing if there is none.
-  void Commit();
+  void Commit() override;
 
  protected:
   void DoShowState() override;
