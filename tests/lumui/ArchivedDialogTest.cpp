@@ -8,6 +8,7 @@
 #include "lumui/controls/UI_TextEdit.h"
 #include "lumui/dialogs/DialogDriver.h"
 #include "lumui/dialogs/SimpleInputBox.h"
+#include "lumui/dialogs/TextDialog.h"
 #include "lumui/sharedui/LUMAboutDlog.h"
 #include "lumui/ui/Executor.h"
 
@@ -134,24 +135,22 @@ TEST_F(Dialogs, KeepOtherWindowsWaitingAndRunInside) {
   const int result = Run(*dialog, [&](UI_Dialog& inDialog) {
     input::ClickMouse(*window, Point(5, 5));
     lumcore::UTF16String name = U16("first");
-    dialogs::SetDialogDriver([&](UI_Dialog& inBox) {
-      input::TypeText(inBox, U16("second"));
-      Tap(inBox, KeyboardCode::kReturn);
+    dialogs::TextDialogResult answer = U16("second");
+    dialogs::SetTextDialogAnswerer([&](const dialogs::TextDialogArgs& inArgs) {
+      Log(lumcore::utility::ToStdString(inArgs.initial));
+      return std::optional<dialogs::TextDialogResult>(answer);
     });
     EXPECT_TRUE(dialogs::SimpleInputBox(U16("Name"), U16("&Name:"), name, &inDialog));
-    EXPECT_EQ(lumcore::utility::ToStdString(name), "second");
-    dialogs::SetDialogDriver([&](UI_Dialog& inBox) {
-      input::TypeText(inBox, U16("third"));
-      Tap(inBox, KeyboardCode::kEscape);
-    });
+    answer = std::nullopt;
     EXPECT_FALSE(dialogs::SimpleInputBox(U16("Name"), U16("&Name:"), name, &inDialog));
     EXPECT_EQ(lumcore::utility::ToStdString(name), "second");
+    dialogs::SetTextDialogAnswerer(nullptr);
     // The last reference but that of the loop.
     dialog->EndDialog(9);
     dialog.reset();
   });
   EXPECT_EQ(result, 9);
-  EXPECT_EQ(TakeLog(), "");
+  EXPECT_EQ(TakeLog(), "first second");
   input::ClickMouse(*window, Point(5, 5));
   EXPECT_EQ(TakeLog(), "behind:press@5,5 behind:release@5,5");
 }

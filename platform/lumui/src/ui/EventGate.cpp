@@ -163,8 +163,8 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
 
 bool EventGate::RouteForeign(QWindow& inNative, QEvent& inEvent) {
   const auto hook = mForeignPressHook;
-  if (hook && inEvent.spontaneous() && IsPress(inEvent.type()) && !IsPassing(inNative) &&
-      !FindWindowOf(inNative)) {
+  if (hook && inEvent.spontaneous() && inEvent.type() == QEvent::MouseButtonPress &&
+      !IsPassing(inNative) && !FindWindowOf(inNative)) {
     const auto& mouse = static_cast<const QMouseEvent&>(inEvent);
     const Qt::MouseButton button = mouse.button();
     if (button == Qt::LeftButton || button == Qt::RightButton) {
@@ -385,13 +385,15 @@ void EventGate::ReportError(const std::exception_ptr& inError) {
 }
 
 bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch) {
+  const OS_Event asItCame = ioEvent;
   const Application::PreEventStep pre = mPreStep;
   bool goOn = true;
   if (pre) RunGuarded([&] { goOn = pre(ioEvent); });
   if (!goOn) return false;
   inDispatch();
   const Application::PostEventStep post = mPostStep;
-  if (post) RunGuarded([&] { post(ioEvent); });
+  // As it came: whoever handled it may have written into it.
+  if (post) RunGuarded([&] { post(asItCame); });
   return true;
 }
 

@@ -9,13 +9,11 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <utility>
 
 #include "dialogs/AnnouncedModal.h"
-#include "lumcore/config/Localizer.h"
-#include "lumcore/config/ThrowError.h"
+#include "dialogs/AnsweredDialog.h"
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
@@ -63,7 +61,7 @@ class UI_Dialog::Loop {
           // What showing the dialog has left: it comes to the front, and the keyboard to it.
           Application::Get()->PumpPendingEvents();
           if (ioDialog.IsOpen()) inDriver(ioDialog);
-          if (ioDialog.IsLeftOpen()) ioDialog.FailUnanswered();
+          dialogs::RequireAnswer(!ioDialog.IsLeftOpen(), ioDialog.UI_GetTitle());
         } catch (...) {
           mFailure = std::current_exception();
           mLoop.quit();
@@ -148,7 +146,7 @@ boost::intrusive_ptr<UI_Node> UI_Dialog::GetNodeForID(const char* inID) const {
 
 int UI_Dialog::RunModal() {
   const dialogs::DialogDriver driver = dialogs::CurrentDriver();
-  if (!driver && Application::Get()->IsHeadless()) FailUnanswered();
+  dialogs::RequireAnswer(static_cast<bool>(driver), UI_GetTitle());
   const lumcore::utility::StKeepAlive keepAlive(*this);
   const dialogs::StAnnouncedModal announced;
   Open(true);
@@ -277,16 +275,6 @@ void UI_Dialog::UI_DoClose() {
 bool UI_Dialog::IsLeftOpen() const {
   const Application& application = *Application::Get();
   return mOpen && UI_GetHandle() && application.IsHeadless() && !application.IsQuitting();
-}
-
-void UI_Dialog::FailUnanswered() const {
-  const auto text = lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(
-          "$$$/lumui/dialogs/Error/UnansweredDialog=Nobody ends the dialog \"@0\" in a run without "
-          "a display"),
-      {UI_GetTitle()});
-  std::fprintf(stderr, "%s\n", lumcore::utility::ToStdString(text).c_str());
-  throw lumcore::config::Error(text);
 }
 
 }  // namespace lumui::ui

@@ -80,7 +80,6 @@ class LUMUI_API UI_Dialog : public OS_Window {
   void Open(bool inModal);
   void CloseWith(int inResult);
   bool IsLeftOpen() const;
-  [[noreturn]] void FailUnanswered() const;
 
   boost::intrusive_ptr<UI_SubView> mContent;
   boost::intrusive_ptr<controls::UI_TextButton> mOKButton;
