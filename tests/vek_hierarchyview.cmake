@@ -1,0 +1,5 @@
+vek_test(vek_hierarchyview_tests
+  SOURCES
+    hierarchyview/EntryTest.cpp
+    hierarchyview/GeometryTest.cpp
+  LIBRARIES vek)

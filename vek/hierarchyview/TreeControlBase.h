@@ -1,0 +1,36 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <boost/intrusive_ptr.hpp>
+
+#include "lumui/drawbot/Font.h"
+#include "vek/config/Export.h"
+
+namespace vek::hierarchyview {
+
+class HierarchyEntryBase;
+
+// What shows a tree, as far as its geometry asks it: the root, which it owns, and the font.
+class VEK_API TreeControlBase {
+ public:
+  virtual ~TreeControlBase();
+  TreeControlBase(const TreeControlBase&) = delete;
+  TreeControlBase& operator=(const TreeControlBase&) = delete;
+
+  HierarchyEntryBase* GetRootEntry() const { return mRootEntry.get(); }  // may be null
+  // Made on first use, from the interface's font.
+  lumui::drawbot::FontP GetFont();
+  void SetFont(lumui::drawbot::FontP const& inFont) { mFont = inFont; }
+
+ protected:
+  TreeControlBase();
+  void SetRootEntry(boost::intrusive_ptr<HierarchyEntryBase> const& inRoot);
+
+ private:
+  boost::intrusive_ptr<HierarchyEntryBase> mRootEntry;
+  lumui::drawbot::FontP mFont;
+};
+
+}  // namespace vek::hierarchyview
