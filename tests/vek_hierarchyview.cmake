@@ -2,4 +2,5 @@ vek_test(vek_hierarchyview_tests
   SOURCES
     hierarchyview/EntryTest.cpp
     hierarchyview/GeometryTest.cpp
+    hierarchyview/WalkFuzzTest.cpp
   LIBRARIES vek)

@@ -87,11 +87,19 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // Whether this entry draws the focus marquee.
   bool HasMarquee() const { return mHasMarquee; }
 
+  // The neighbours in the parent's list, null at its ends and for an entry that is not in it. One
+  // that stands there twice is looked for from the front for the next, from the back for the
+  // previous. Mostly the entry knows its place and nothing is looked for.
+  HierarchyEntryBase* GetNextSibling() const;
+  HierarchyEntryBase* GetPreviousSibling() const;
+
  protected:
   friend class TreeControlBase;
   // The first that is this entry; one that is no child changes nothing. It is never followed.
   void RemoveChild(HierarchyEntryBase const* inEntry);
   void RemoveAllChildren();
+  // What is done through these is not seen here: from the first call on, the places of this
+  // entry's children are looked for at each step.
   List::iterator child_begin();
   List::iterator child_end();
 
@@ -100,10 +108,22 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // By the list's links, so that places in it stay; also where the comparator throws.
   void SortList(TreeListComparator const& inComparator);
 
+  void EnterPosition(List::iterator inPlace);
+  void LeavePositions(List const& inLeaving);
+  void LearnPlaces();
+  bool KnowsPlace() const;
+
   ENodeState mState;
   HierarchyEntryBase* mParent;
   bool mHasMarquee = false;
   List mChildren;
+
+  // Where this entry stands in its parent's list, as long as no other position in any list holds
+  // it. Sorting moves list nodes and leaves this right.
+  List::iterator mPlace;
+  std::uint32_t mPositions = 0;  // too high for what was in a list that was handed out
+  bool mIsPlaced = false;        // mPlace is right, unless the parent's list was handed out
+  bool mHandedOut = false;       // mutable iterators of the own list may be about
 };
 
 }  // namespace vek::hierarchyview

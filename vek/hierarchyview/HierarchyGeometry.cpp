@@ -4,13 +4,35 @@
 #include "vek/hierarchyview/HierarchyGeometry.h"
 
 #include "vek/hierarchyview/HierarchyEntryBase.h"
-#include "vek/hierarchyview/PlainWalk.h"
+#include "vek/hierarchyview/TraverseSteps.h"
 #include "vek/hierarchyview/TreeControlBase.h"
 
 namespace vek::hierarchyview {
 
 using lumcore::geom::PointT;
 using lumcore::geom::RectT;
+
+namespace {
+
+// As in the plain walk, but for who finds the neighbours.
+struct HintedRules {
+  HierarchyEntryBase* GetRoot() const { return control->GetRootEntry(); }
+  float GetHeight(HierarchyEntryBase const* inEntry) const {
+    return geometry.EntryWidthHeight(inEntry).y;
+  }
+  int GetLevel(HierarchyEntryBase const* inEntry) const { return geometry.EntryLevel(inEntry); }
+  static HierarchyEntryBase* GetNext(HierarchyEntryBase const* inEntry) {
+    return inEntry->GetNextSibling();
+  }
+  static HierarchyEntryBase* GetPrevious(HierarchyEntryBase const* inEntry) {
+    return inEntry->GetPreviousSibling();
+  }
+
+  HierarchyGeometry const& geometry;
+  TreeControlBase* control;
+};
+
+}  // namespace
 
 HierarchyGeometry::TraverseEntry::TraverseEntry(HierarchyGeometry* inGeometry,
                                                 HierarchyEntryBase* inEntry, bool inDeep,
@@ -133,7 +155,10 @@ HierarchyGeometry::reverse_iterator HierarchyGeometry::rend() {
 }
 
 RectT<float> HierarchyGeometry::Area() {
-  return PlainWalk::Area(*this);
+  RectT<float> area;
+  for (iterator row = begin(); row != end(); ++row)
+    area = area.Join(EntryArea(row));
+  return area;
 }
 
 RectT<float> HierarchyGeometry::EntryArea(iterator const& inIterator) const {
@@ -147,7 +172,12 @@ RectT<float> HierarchyGeometry::GetRowRect(iterator const& inIterator) {
 }
 
 HierarchyGeometry::iterator HierarchyGeometry::FindEntry(PointT<float> const& inPoint) {
-  return PlainWalk::FindEntry(*this, inPoint);
+  iterator row = begin();
+  for (; row != end(); ++row) {
+    const float height = EntryWidthHeight(*row).y;
+    if (height > 0 && row.mTraverse->mCookie.y + height >= inPoint.y) return row;
+  }
+  return end();
 }
 
 PointT<float> HierarchyGeometry::GetTraverseCookie(iterator const& inIterator) {
@@ -155,11 +185,11 @@ PointT<float> HierarchyGeometry::GetTraverseCookie(iterator const& inIterator) {
 }
 
 void HierarchyGeometry::NextEntry(TraverseEntry* ioTraverse, bool inSkipChildren) const {
-  PlainWalk::NextEntry(*this, *ioTraverse, inSkipChildren);
+  StepForward(HintedRules{*this, mTreeControl}, *ioTraverse, mIndent, inSkipChildren);
 }
 
 void HierarchyGeometry::PreviousEntry(TraverseEntry* ioTraverse) const {
-  PlainWalk::PreviousEntry(*this, *ioTraverse);
+  StepBack(HintedRules{*this, mTreeControl}, *ioTraverse, mIndent);
 }
 
 }  // namespace vek::hierarchyview
