@@ -92,6 +92,10 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // previous. Mostly the entry knows its place and nothing is looked for.
   HierarchyEntryBase* GetNextSibling() const;
   HierarchyEntryBase* GetPreviousSibling() const;
+  // Whether this entry is inParent's and stands in its list, once, and in no other.
+  bool StandsOnlyUnder(HierarchyEntryBase const* inParent) const {
+    return mParent == inParent && KnowsPlace();
+  }
 
  protected:
   friend class TreeControlBase;

@@ -4,8 +4,10 @@
 #include "vek/hierarchyview/HierarchyGeometry.h"
 
 #include "vek/hierarchyview/HierarchyEntryBase.h"
+#include "vek/hierarchyview/RowWalk.h"
 #include "vek/hierarchyview/TraverseSteps.h"
 #include "vek/hierarchyview/TreeControlBase.h"
+#include "vek/hierarchyview/UniformRows.h"
 
 namespace vek::hierarchyview {
 
@@ -14,11 +16,15 @@ using lumcore::geom::RectT;
 
 namespace {
 
-// As in the plain walk, but for who finds the neighbours.
+// As in the plain walk, but an entry mostly knows its neighbours, and where all rows have one
+// height no text is measured for it.
 struct HintedRules {
+  explicit HintedRules(HierarchyGeometry const& inGeometry, TreeControlBase* inControl)
+      : geometry(inGeometry), control(inControl), rows(UniformRows::Of(inGeometry)) {}
+
   HierarchyEntryBase* GetRoot() const { return control->GetRootEntry(); }
   float GetHeight(HierarchyEntryBase const* inEntry) const {
-    return geometry.EntryWidthHeight(inEntry).y;
+    return rows ? rows->GetHeight(inEntry) : geometry.EntryWidthHeight(inEntry).y;
   }
   int GetLevel(HierarchyEntryBase const* inEntry) const { return geometry.EntryLevel(inEntry); }
   static HierarchyEntryBase* GetNext(HierarchyEntryBase const* inEntry) {
@@ -30,6 +36,7 @@ struct HintedRules {
 
   HierarchyGeometry const& geometry;
   TreeControlBase* control;
+  std::optional<UniformRows> rows;
 };
 
 }  // namespace
@@ -156,8 +163,8 @@ HierarchyGeometry::reverse_iterator HierarchyGeometry::rend() {
 
 RectT<float> HierarchyGeometry::Area() {
   RectT<float> area;
-  for (iterator row = begin(); row != end(); ++row)
-    area = area.Join(EntryArea(row));
+  for (RowWalk row(*this); !row.AtEnd(); row.Next())
+    area = area.Join(row.GetArea());
   return area;
 }
 
@@ -172,10 +179,9 @@ RectT<float> HierarchyGeometry::GetRowRect(iterator const& inIterator) {
 }
 
 HierarchyGeometry::iterator HierarchyGeometry::FindEntry(PointT<float> const& inPoint) {
-  iterator row = begin();
-  for (; row != end(); ++row) {
-    const float height = EntryWidthHeight(*row).y;
-    if (height > 0 && row.mTraverse->mCookie.y + height >= inPoint.y) return row;
+  for (RowWalk row(*this); !row.AtEnd(); row.Next()) {
+    const float height = row.GetHeight();
+    if (height > 0 && row.GetTop() + height >= inPoint.y) return row.GetIterator();
   }
   return end();
 }
@@ -184,12 +190,16 @@ PointT<float> HierarchyGeometry::GetTraverseCookie(iterator const& inIterator) {
   return inIterator.mTraverse->mCookie;
 }
 
+HierarchyGeometry::TraverseEntry const& HierarchyGeometry::GetTraverse(iterator const& inIterator) {
+  return *inIterator.mTraverse;
+}
+
 void HierarchyGeometry::NextEntry(TraverseEntry* ioTraverse, bool inSkipChildren) const {
-  StepForward(HintedRules{*this, mTreeControl}, *ioTraverse, mIndent, inSkipChildren);
+  StepForward(HintedRules(*this, mTreeControl), *ioTraverse, mIndent, inSkipChildren);
 }
 
 void HierarchyGeometry::PreviousEntry(TraverseEntry* ioTraverse) const {
-  StepBack(HintedRules{*this, mTreeControl}, *ioTraverse, mIndent);
+  StepBack(HintedRules(*this, mTreeControl), *ioTraverse, mIndent);
 }
 
 }  // namespace vek::hierarchyview

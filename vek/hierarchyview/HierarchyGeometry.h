@@ -127,6 +127,7 @@ class VEK_API HierarchyGeometry {
 
  protected:
   friend class PlainWalk;
+  friend class RowWalk;
 
   lumcore::geom::PointT<float> GetTraverseCookie(iterator const& inIterator);
   void NextEntry(TraverseEntry* ioTraverse, bool inSkipChildren) const;
@@ -138,6 +139,8 @@ class VEK_API HierarchyGeometry {
   float GetIndent() const { return mIndent; }
 
  private:
+  static TraverseEntry const& GetTraverse(iterator const& inIterator);
+
   TreeControlBase* mTreeControl;
   float mIndent;
 };

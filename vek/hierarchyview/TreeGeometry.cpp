@@ -5,6 +5,7 @@
 
 #include "vek/hierarchyview/HierarchyEntryBase.h"
 #include "vek/hierarchyview/TreeControlBase.h"
+#include "vek/hierarchyview/UniformRows.h"
 
 namespace vek::hierarchyview {
 
@@ -24,6 +25,10 @@ PointT<float> TreeGeometry::EntryWidthHeight(HierarchyEntryBase const* inEntry) 
   lumcore::UTF16String text;
   inEntry->GetCellText(0, text);
   return PointT<float>(GetTreeControl()->GetFont()->MeasureWidth(text), mRowHeight);
+}
+
+UniformRows TreeGeometry::GetUniformRows() const {
+  return UniformRows{mRowHeight, mHideRoot, nullptr};
 }
 
 }  // namespace vek::hierarchyview

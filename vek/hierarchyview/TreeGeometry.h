@@ -7,6 +7,8 @@
 
 namespace vek::hierarchyview {
 
+struct UniformRows;
+
 // The rows of a tree: all of one height, each as wide as its text in the control's font, without
 // icon, twisty and indent. A hidden root is a row of no size, and its children are of level 1.
 class VEK_API TreeGeometry : public HierarchyGeometry {
@@ -16,6 +18,7 @@ class VEK_API TreeGeometry : public HierarchyGeometry {
 
   unsigned short EntryLevel(HierarchyEntryBase const* inEntry) const override;
   lumcore::geom::PointT<float> EntryWidthHeight(HierarchyEntryBase const* inEntry) const override;
+  UniformRows GetUniformRows() const;
 
  private:
   bool mHideRoot;

@@ -5,6 +5,7 @@
 
 #include "vek/hierarchyview/HierarchyEntryBase.h"
 #include "vek/hierarchyview/TreeListControlBase.h"
+#include "vek/hierarchyview/UniformRows.h"
 
 namespace vek::hierarchyview {
 
@@ -29,6 +30,10 @@ PointT<float> TreeListGeometry::EntryWidthHeight(HierarchyEntryBase const* inEnt
   const int indent = EntryLevel(inEntry) * kIndent - kIndent;
   return PointT<float>(mTreeListControl->GetTotalColumnWidth() - static_cast<float>(indent),
                        kRowHeight);
+}
+
+UniformRows TreeListGeometry::GetUniformRows() const {
+  return UniformRows{kRowHeight, mHideRoot, mTreeListControl};
 }
 
 }  // namespace vek::hierarchyview

@@ -8,6 +8,7 @@
 namespace vek::hierarchyview {
 
 class TreeListControlBase;
+struct UniformRows;
 
 // The rows of a tree list: each as wide as the columns together, less its indent. Indent and row
 // height are fixed. Its control is a TreeListControlBase.
@@ -23,6 +24,7 @@ class VEK_API TreeListGeometry : public HierarchyGeometry {
   unsigned short EntryLevel(HierarchyEntryBase const* inEntry) const override;
   lumcore::geom::PointT<float> EntryWidthHeight(HierarchyEntryBase const* inEntry) const override;
   int GetFirstColumnOffset() { return 0; }
+  UniformRows GetUniformRows() const;
 
  private:
   bool mHideRoot;
