@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
 #include "support/TestTree.h"
 #include "vek/hierarchyview/TreeGeometry.h"
 #include "vek/hierarchyview/TreeListGeometry.h"
@@ -13,7 +11,6 @@ namespace {
 
 using namespace test_support;
 using lumcore::geom::PointT;
-using lumcore::geom::RectT;
 using vek::hierarchyview::TreeGeometry;
 using vek::hierarchyview::TreeListGeometry;
 using Iterator = HierarchyGeometry::iterator;
@@ -32,12 +29,6 @@ class UnequalGeometry : public HierarchyGeometry {
   float TopOf(const Iterator& inRow) { return GetTraverseCookie(inRow).y; }
   float mBase = 10;
 };
-
-std::string TextOf(const RectT<float>& inRect) {
-  std::ostringstream text;
-  text << inRect.x << "," << inRect.y << " " << inRect.width << "x" << inRect.height;
-  return text.str();
-}
 
 std::string RowsOf(HierarchyGeometry& ioGeometry, bool inDeep = false) {
   std::string text;

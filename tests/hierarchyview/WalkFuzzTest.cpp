@@ -17,7 +17,6 @@ namespace {
 
 using namespace test_support;
 using lumcore::geom::PointT;
-using lumcore::geom::RectT;
 using vek::hierarchyview::PlainWalk;
 using vek::hierarchyview::TreeGeometry;
 using vek::hierarchyview::TreeListGeometry;
@@ -184,14 +183,9 @@ class RandomTree {
   int mNext = 0;
 };
 
-std::string TextOf(const Traverse& inRow) {
+std::string PlaceOf(const Traverse& inRow) {
   return NameOf(inRow.mEntry) + " " + std::to_string(inRow.mCookie.x) + "," +
          std::to_string(inRow.mCookie.y);
-}
-
-std::string TextOf(const RectT<float>& inRect) {
-  return std::to_string(inRect.x) + "," + std::to_string(inRect.y) + " " +
-         std::to_string(inRect.width) + "x" + std::to_string(inRect.height);
 }
 
 // All rows, and from each of them a step back and a step over its children. A child that stands
@@ -200,13 +194,13 @@ std::string WalkText(HierarchyGeometry& ioGeometry, bool inDeep, bool inPlainly)
   Traverse row = PlainWalk::Begin(ioGeometry, inDeep);
   Traverse end = row;
   Walker::Next(end, true, inPlainly);
-  std::string text = "end " + TextOf(end) + "\n";
+  std::string text = "end " + PlaceOf(end) + "\n";
   int rows = 0;
   for (; row.mEntry != end.mEntry && ++rows < 150; Walker::Next(row, false, inPlainly)) {
     Traverse back = row, over = row;
     Walker::Previous(back, inPlainly);
     Walker::Next(over, true, inPlainly);
-    text += TextOf(row) + " < " + TextOf(back) + " > " + TextOf(over) + "\n";
+    text += PlaceOf(row) + " < " + PlaceOf(back) + " > " + PlaceOf(over) + "\n";
   }
   if (inDeep || rows >= 150) return text;
   text += TextOf(inPlainly ? PlainWalk::Area(ioGeometry) : ioGeometry.Area()) + "\n";

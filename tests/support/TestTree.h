@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cctype>
+#include <sstream>
 #include <string>
 
 #include "lumui/drawbot/Image.h"
@@ -61,7 +62,14 @@ inline std::string ShapeOf(const HierarchyEntryBase& inEntry) {
   return NameOf(&inEntry) + (text.empty() ? text : text + "]");
 }
 
-// Reads such a text. Names are single letters, and capitals make closed entries.
+// "x,y widthxheight"
+inline std::string TextOf(const lumcore::geom::RectT<float>& inRect) {
+  std::ostringstream text;
+  text << inRect.x << "," << inRect.y << " " << inRect.width << "x" << inRect.height;
+  return text.str();
+}
+
+// Reads the text of a shape. Names are single letters, and capitals make closed entries.
 inline EntryP ReadTree(const std::string& inText) {
   EntryP root;
   HierarchyEntryBase* parent = nullptr;

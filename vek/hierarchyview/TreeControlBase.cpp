@@ -21,6 +21,11 @@ lumui::drawbot::FontP TreeControlBase::GetFont() {
   return mFont;
 }
 
+void TreeControlBase::SetCustomTextColor(lumui::drawbot::ColorRGBA const& inColor) {
+  mCustomTextColor = inColor;
+  mHasCustomTextColor = true;
+}
+
 void TreeControlBase::SetRootEntry(boost::intrusive_ptr<HierarchyEntryBase> const& inRoot) {
   mRootEntry = inRoot;
 }

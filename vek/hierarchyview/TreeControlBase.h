@@ -5,6 +5,7 @@
 
 #include <boost/intrusive_ptr.hpp>
 
+#include "lumui/drawbot/Color.h"
 #include "lumui/drawbot/Font.h"
 #include "vek/config/Export.h"
 
@@ -12,7 +13,7 @@ namespace vek::hierarchyview {
 
 class HierarchyEntryBase;
 
-// What shows a tree, as far as its geometry asks it: the root, which it owns, and the font.
+// What shows a tree, as far as its rows ask it: the root, which it owns, the font and the colour.
 class VEK_API TreeControlBase {
  public:
   virtual ~TreeControlBase();
@@ -24,6 +25,11 @@ class VEK_API TreeControlBase {
   lumui::drawbot::FontP GetFont();
   void SetFont(lumui::drawbot::FontP const& inFont) { mFont = inFont; }
 
+  // In place of the theme's.
+  virtual void SetCustomTextColor(lumui::drawbot::ColorRGBA const& inColor);
+  bool HasCustomTextColor() const { return mHasCustomTextColor; }
+  lumui::drawbot::ColorRGBA const& GetCustomTextColor() const { return mCustomTextColor; }
+
  protected:
   TreeControlBase();
   void SetRootEntry(boost::intrusive_ptr<HierarchyEntryBase> const& inRoot);
@@ -31,6 +37,8 @@ class VEK_API TreeControlBase {
  private:
   boost::intrusive_ptr<HierarchyEntryBase> mRootEntry;
   lumui::drawbot::FontP mFont;
+  bool mHasCustomTextColor = false;
+  lumui::drawbot::ColorRGBA mCustomTextColor = lumui::drawbot::ColorRGBA(0, 0, 0, 1);
 };
 
 }  // namespace vek::hierarchyview
