@@ -92,8 +92,11 @@ class RandomTree {
         if (Below(4) == 0) Sort(*parent);
         break;
       case 5:
-        if (Below(12) == 0 && isBelow && !parent->GetChildren().empty())
+        if (Below(12) == 0 && isBelow && !parent->GetChildren().empty()) {
           *parent->child_begin() = child.entry;
+          if (Below(2) == 0) parent->RemoveChild(child.entry.get());
+          if (child.entry->GetParent()) child.entry->GetParent()->AddChild(child.entry, false);
+        }
         break;
       case 6:
         Copy(first);
@@ -152,6 +155,8 @@ class RandomTree {
     for (const EntryP& child : copy->GetChildren()) {
       if (Below(2) == 0) child->SetParent(copy);
     }
+    if (Below(4) == 0 && !copy->GetChildren().empty())
+      copy->AddChild(copy->GetChildren().front(), false);
   }
 
   double RankOf(const HierarchyEntryBase* inEntry) const {
