@@ -3,13 +3,17 @@
 
 #include <malloc.h>
 
+#include <cstdint>
 #include <memory>
+#include <string>
 
 #include "lumui/drawbot/Image.h"
+#include "lumui/ui/Application.h"
 #include "support/Pair.h"
 #include "vek/hierarchyview/HierarchyEntry.h"
 #include "vek/hierarchyview/PlainWalk.h"
 #include "vek/hierarchyview/RowWalk.h"
+#include "vek/hierarchyview/TreeGeometry.h"
 #include "vek/hierarchyview/TreeListControlBase.h"
 #include "vek/hierarchyview/TreeListGeometry.h"
 
@@ -27,7 +31,13 @@ class Line : public HierarchyEntry {
  public:
   explicit Line(HierarchyEntryBase* inParent) : HierarchyEntry(kNodeExpanded, inParent) {}
   boost::intrusive_ptr<lumui::drawbot::ImageInterface> GetNodeIcon() override { return nullptr; }
-  void GetCellText(unsigned int const&, lumcore::UTF16String&) const override {}
+  // Another for each row.
+  void GetCellText(unsigned int const&, lumcore::UTF16String& outText) const override {
+    static const std::string kText = "a row of twenty and ";
+    outText.assign(kText.begin(), kText.end());
+    for (auto rest = reinterpret_cast<std::uintptr_t>(this); rest != 0; rest /= 16)
+      outText += static_cast<unsigned short>('a' + rest % 16);
+  }
   bool CanExpand() const override { return true; }
   bool CanCollapse() const override { return true; }
 };
@@ -41,7 +51,7 @@ EntryP NewLine(HierarchyEntryBase* inParent) {
 // A root with groups of equal size, or with nothing but lines.
 class Tree : public TreeListControlBase {
  public:
-  explicit Tree(int inGroups) : mGeometry(this, 0, false) {
+  explicit Tree(int inGroups) : mGeometry(this, 0, false), mTreeGeometry(this, 10, false, 19) {
     const std::size_t before = mallinfo2().uordblks;
     const EntryP root = NewLine(nullptr);
     SetRootEntry(root);
@@ -56,6 +66,7 @@ class Tree : public TreeListControlBase {
   }
 
   TreeListGeometry mGeometry;
+  TreeGeometry mTreeGeometry;
   double mBytesPerRow = 0;
 };
 
@@ -123,23 +134,41 @@ bench::Body StepPlainly(Tree& ioTree) {
   };
 }
 
+// Around all rows of a tree, which are as wide as their texts.
+bench::Body JoinRows(Tree& ioTree, lumcore::geom::RectT<float> (*inJoin)(HierarchyGeometry&)) {
+  return [&ioTree, inJoin](benchmark::State& ioState) {
+    lumcore::geom::RectT<float> area;
+    for (auto _ : ioState)
+      area = inJoin(ioTree.mTreeGeometry);
+    if (area.width < 100 || area.height != 19.0f * kRows) ioState.SkipWithError("rows are missing");
+  };
+}
+
+lumcore::geom::RectT<float> AreaOf(HierarchyGeometry& ioGeometry) {
+  return ioGeometry.Area();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  lumui::ui::Application application(argc, argv);  // fonts need it
   Tree grouped(1000), flat(0);
-  return bench::Run("hierarchy", argc, argv,
-                    {
-                        {"a row of 200000 grouped, iterators, beside the plain walk", "ns",
-                         std::nullopt, Iterate(grouped), WalkPlainly(grouped)},
-                        {"a row of 200000 grouped, RowWalk, beside the plain walk", "ns",
-                         bench::RatioAtMost(0.25), WalkRows(grouped), WalkPlainly(grouped)},
-                        {"a row of 200000 flat, iterators, beside the plain walk", "ns",
-                         std::nullopt, Iterate(flat), StepPlainly(flat)},
-                        {"a row of 200000 flat, RowWalk, beside the plain walk", "ns",
-                         bench::RatioAtMost(0.01), WalkRows(flat), StepPlainly(flat)},
-                    },
-                    {
-                        {"memory of a row, without its text", "bytes", std::nullopt,
-                         grouped.mBytesPerRow, std::nullopt},
-                    });
+  return bench::Run(
+      "hierarchy", argc, argv,
+      {
+          {"a row of 200000 grouped, iterators, beside the plain walk", "ns", std::nullopt,
+           Iterate(grouped), WalkPlainly(grouped)},
+          {"a row of 200000 grouped, RowWalk, beside the plain walk", "ns",
+           bench::RatioAtMost(0.25), WalkRows(grouped), WalkPlainly(grouped)},
+          {"a row of 200000 flat, iterators, beside the plain walk", "ns", std::nullopt,
+           Iterate(flat), StepPlainly(flat)},
+          {"a row of 200000 flat, RowWalk, beside the plain walk", "ns", bench::RatioAtMost(0.01),
+           WalkRows(flat), StepPlainly(flat)},
+          {"area of 200000 rows as wide as their texts, beside the plain walk", "ms",
+           bench::RatioAtMost(0.5), JoinRows(grouped, AreaOf), JoinRows(grouped, PlainWalk::Area)},
+      },
+      {
+          {"memory of a row, without its text", "bytes", std::nullopt, grouped.mBytesPerRow,
+           std::nullopt},
+      });
 }

@@ -90,6 +90,18 @@ TEST(Rows, HaveTheSizesOfTheirKind) {
   EXPECT_EQ(RowsOf(hidingList), "b 0,0 110.5x19|c 0,19 100.5x19|");
 }
 
+// A remembered width is that of one font and one text.
+TEST(Rows, AreMeasuredAnewInAnotherFont) {
+  struct WideFont : FixedFont {
+    float MeasureWidthOnce(const lumcore::UTF16String&) const override { return 40; }
+  };
+  TestControl control(ReadTree("a [b]"));
+  TreeGeometry tree(&control, 10, false, 20);
+  EXPECT_EQ(TextOf(tree.Area()), "0,0 17x40");
+  control.SetFont(lumui::drawbot::FontP(new WideFont));
+  EXPECT_EQ(TextOf(tree.Area()), "0,0 50x40");
+}
+
 TEST(Rows, AreFoundByTheirLowerEdge) {
   TestControl control(ReadTree("a [b [c] D]"));
   TreeGeometry shown(&control, 12, false, 20), hiding(&control, 12, true, 20);

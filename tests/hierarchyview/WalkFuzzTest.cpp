@@ -218,7 +218,7 @@ std::string WalkText(HierarchyGeometry& ioGeometry, bool inDeep, bool inPlainly)
 }
 
 TEST(Walks, AnswerAsThePlainOneInAnyTree) {
-  for (unsigned int seed = 1; seed <= 150; ++seed) {
+  for (unsigned int seed = 1; seed <= 60; ++seed) {
     RandomTree tree(seed);
     HostGeometry host(&tree.GetControl());
     TreeGeometry shown(&tree.GetControl(), 8, false, 19), hiding(&tree.GetControl(), 8, true, 7);

@@ -5,6 +5,7 @@
 
 #include <iterator>
 
+#include "vek/hierarchyview/TextWidths.h"
 #include "vek/hierarchyview/TreeControlBase.h"
 #include "vek/hierarchyview/TreeListControlBase.h"
 
@@ -78,14 +79,13 @@ float RowWalk::GetHeight() const {
 PointT<float> RowWalk::GetSize() const {
   if (!mRows) return mGeometry.EntryWidthHeight(mRow.mEntry);
   if (mRows->IsHidden(mRow.mEntry)) return PointT<float>();
-  if (mRows->columns) {
+  if (!mRows->widths) {
     const int indent = (GetLevel() - 1) * static_cast<int>(mGeometry.GetIndent());
     return PointT<float>(mColumnWidth - static_cast<float>(indent), mRows->rowHeight);
   }
   lumcore::UTF16String text;
   mRow.mEntry->GetCellText(0, text);
-  // Not remembered: the texts of all rows would push out those that are on the screen.
-  const float width = mGeometry.GetTreeControl()->GetFont()->MeasureWidthOnce(text);
+  const float width = mRows->widths->Get(mGeometry.GetTreeControl()->GetFont(), text);
   return PointT<float>(width, mRows->rowHeight);
 }
 

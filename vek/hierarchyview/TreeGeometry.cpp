@@ -28,7 +28,7 @@ PointT<float> TreeGeometry::EntryWidthHeight(HierarchyEntryBase const* inEntry) 
 }
 
 UniformRows TreeGeometry::GetUniformRows() const {
-  return UniformRows{mRowHeight, mHideRoot, nullptr};
+  return UniformRows{mRowHeight, mHideRoot, nullptr, &mWidths};
 }
 
 }  // namespace vek::hierarchyview

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "vek/hierarchyview/HierarchyGeometry.h"
+#include "vek/hierarchyview/TextWidths.h"
 
 namespace vek::hierarchyview {
 
@@ -23,6 +24,7 @@ class VEK_API TreeGeometry : public HierarchyGeometry {
  private:
   bool mHideRoot;
   float mRowHeight;
+  mutable TextWidths mWidths;
 };
 
 }  // namespace vek::hierarchyview

@@ -33,7 +33,7 @@ PointT<float> TreeListGeometry::EntryWidthHeight(HierarchyEntryBase const* inEnt
 }
 
 UniformRows TreeListGeometry::GetUniformRows() const {
-  return UniformRows{kRowHeight, mHideRoot, mTreeListControl};
+  return UniformRows{kRowHeight, mHideRoot, mTreeListControl, nullptr};
 }
 
 }  // namespace vek::hierarchyview

@@ -10,6 +10,7 @@
 
 namespace vek::hierarchyview {
 
+class TextWidths;
 class TreeListControlBase;
 
 // What is known of every row beforehand where a geometry is one of the library's own: rows of one
@@ -33,6 +34,7 @@ struct UniformRows {
   bool hideRoot;
   // Rows are as wide as its columns less their indent, or, where it is null, as their texts.
   TreeListControlBase const* columns;
+  TextWidths* widths;  // null where there are columns
 };
 
 }  // namespace vek::hierarchyview
