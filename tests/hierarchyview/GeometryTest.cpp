@@ -77,7 +77,8 @@ TEST(Rows, OfASubtreeEndAtWhateverFollowsIt) {
 // In a tree the text makes the width, in a list the columns less the indent; a hidden root has no
 // size and its children no indent.
 TEST(Rows, HaveTheSizesOfTheirKind) {
-  TestControl control(ReadTree("a [b [c]]"));
+  const EntryP all = ReadTree("a [b [c]]");
+  TestControl control(all);
   TreeGeometry tree(&control, 12, false, 20), hiding(&control, 12, true, 20);
   TreeListGeometry list(&control, 12, false), hidingList(&control, 12, true);
   EXPECT_EQ(RowsOf(tree), "a 0,0 7x20|b 12,20 7x20|c 24,40 7x20|");
@@ -86,7 +87,7 @@ TEST(Rows, HaveTheSizesOfTheirKind) {
   EXPECT_EQ(RowsOf(hidingList), "a 0,0 0x0|b 0,0 100.5x19|c 10,19 90.5x19|");
   EXPECT_EQ(TextOf(hiding.Area()), "0,0 19x40");
   // A subtree's root has a parent and shows, and lies on level 0: wider than the columns.
-  control.SetRootEntry(Find(control.GetRootEntry(), 'b'));
+  control.SetRootEntry(Find(all, 'b'));
   EXPECT_EQ(RowsOf(hidingList), "b 0,0 110.5x19|c 0,19 100.5x19|");
 }
 
