@@ -105,8 +105,7 @@ HierarchyEntryBase::List::iterator HierarchyEntryBase::child_end() {
 
 void HierarchyEntryBase::SortList(TreeListComparator const& inComparator) {
   // By reference: a merge would copy the comparator, and with it a counted pointer, many times.
-  const TreeListComparator comparator(inComparator);
-  mChildren.sort(std::cref(comparator));
+  mChildren.sort(std::cref(inComparator));
 }
 
 void HierarchyEntryBase::EnterPosition(List::iterator inPlace) {
