@@ -76,7 +76,9 @@ class LUMUI_API NodePeer {
   void ApplySize(int inWidth, int inHeight);
   void ApplyVisible();
   void ApplyDisabled();
-  void ApplyToolTip();
+  virtual void ApplyToolTip();
+  // After UI_SetWantsKeyboardFocus; a drawn node is asked when it matters.
+  virtual void ApplyWantsFocus() {}
 
   // Added to positions in the widget, for the content of a scroll view.
   void SetContentOrigin(const lumcore::geom::PointT<double>& inOrigin) {
@@ -93,6 +95,8 @@ class LUMUI_API NodePeer {
   // On behalf of a widget on the way of a key to the window. False leaves it to the walk.
   bool MoveFocusFromWidget(bool inForward);
   bool MoveFocus(bool inForward);
+  // Of a window: gives the keyboard to the first node that wants it, if nobody has it.
+  void FocusFirst();
   bool WantsInputMethod();
 
  protected:
