@@ -74,13 +74,13 @@ RowPainter::RowPainter() {
 }
 
 void RowPainter::Draw(Drawbot& inDrawbot, const Rect& inRow, const RowLook& inLook) const {
+  DrawGuides(inDrawbot, inRow, inLook);
   if (inLook.isSelected) {
     const auto fill = inLook.isFocused ? palette::Selection() : palette::IdleSelection();
     const Rect band(inRow.x + kSelectionInset, inRow.y, inRow.width - 2 * kSelectionInset,
                     inRow.height);
     inDrawbot.FillPath(RoundedRect(band, kSelectionRadius), fill);
   }
-  DrawGuides(inDrawbot, inRow, inLook);
   DrawBullet(inDrawbot, inRow, inLook);
   if (inLook.edit) {
     DrawEdit(inDrawbot, inRow, inLook);

@@ -13,6 +13,7 @@
 #include "outliner/OutlineEdits.h"
 #include "outliner/OutlinerCommands.h"
 #include "vek/uisupport/CommandHandlerBase.h"
+#include "vek/uisupport/KeyCommandManager.h"
 
 namespace {
 
@@ -170,6 +171,17 @@ TEST(OutlinerGestures, LosingTheKeyboardKeepsWhatWasTyped) {
   host.Type("xy");
   lumui::testing::ActivateWindow(nullptr);
   EXPECT_EQ(host.Show(), "axy* b");
+}
+
+TEST(OutlinerGestures, AHoldEndsWithTheKeyboard) {
+  RunningOutliner host("a b c");
+  const lumui::ui::KeyboardCode down(lumui::ui::KeyboardCode::kDownArrow);
+  for (const bool repeats : {false, true})
+    lumui::testing::PressKey(host.GetWindow(), down, lumui::ui::ModifierKeys(), repeats);
+  const auto& keys = vek::uisupport::KeyCommandManager::Get();
+  EXPECT_TRUE(keys.IsHandlingHoldCommand());
+  lumui::testing::ActivateWindow(nullptr);
+  EXPECT_FALSE(keys.IsHandlingHoldCommand());
 }
 
 TEST(OutlinerGestures, TextOfARowThatIsTakenAwayMeanwhileGetsARowOfItsOwn) {

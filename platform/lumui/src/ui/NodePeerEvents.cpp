@@ -223,8 +223,8 @@ void NodePeer::Paint() {
   });
 }
 
-// The widgets of docks and bars that lie between a node and its window want to move the focus before
-// the window has been asked. Controls of the window system keep Tab for themselves.
+// The widgets of docks and bars that lie between a node and its window want to move the focus
+// before the window has been asked. Controls of the window system keep Tab for themselves.
 bool NodePeer::MoveFocusFromWidget(bool inForward) {
   const UI_Node* const focus = NodeOf(mWidget->focusWidget());
   const bool walks = IsTabPress(EventGate::Get()->GetCurrentKey());
