@@ -132,7 +132,10 @@ void OutlineDocument::SaveToFile(const File& inFile) {
 
 void OutlineDocument::Save() {
   mEditor->Commit();
+  const File file = GetProjectFile();
   FileBasedDocument::Save();
+  // SaveAs has told of a new one.
+  if (!file.GetPath().empty() && mFileTaken) mFileTaken(file);
 }
 
 // A second request while the question stands is answered by the first.

@@ -67,7 +67,8 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
 
   // Called after each change of what is typed, of the file and of the dirty mark, but by a deed.
   void SetChangedFunction(std::function<void()> inChanged) { mChanged = std::move(inChanged); }
-  // Called before another file becomes the document's, and refuses it by a throw; and after.
+  // The first is called before another file becomes the document's, and refuses it by a throw; the
+  // second after each save to the document's own file.
   void SetFileFunctions(std::function<void(const File&)> inCheck,
                         std::function<void(const File&)> inTaken);
 
