@@ -1,0 +1,178 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/drawbot/Surface.h"
+#include "lumui/ui/KeyboardEvent.h"
+#include "lumui/ui/UI_SubView.h"
+#include "support/ScriptedOverlay.h"
+
+namespace {
+
+using namespace vek::trackview;
+using test_support::ScriptedOverlay;
+using test_support::ScriptedTracker;
+
+class Overlays : public ::testing::Test {
+ protected:
+  ScriptedOverlay* Add(const char* inName, int inState = 0, int inLayer = 1, bool inOnTop = false) {
+    return ScriptedOverlay::Install(View(), new ScriptedOverlay(inName, mLog, inState, inLayer),
+                                    inOnTop);
+  }
+  TrackView& View() { return *mPlatform.GetTrackView(); }
+  std::string Names() {
+    std::string names;
+    for (Overlay* overlay : View().GetOverlays())
+      names += static_cast<ScriptedOverlay*>(overlay)->Name();
+    return names;
+  }
+  std::string Draw() {
+    const auto surface = lumui::drawbot::GetDefaultSupplier()->NewSurface(1, 1);
+    View().ImageRect(Rect(1, 2, 3, 4), surface->GetDrawbot(), nullptr);
+    return mLog.Take();
+  }
+  std::string Key() {
+    mLog.Add(View().KeyEvent(lumui::ui::KeyboardEvent()) ? "taken" : "-");
+    return mLog.Take();
+  }
+
+  test_support::EventLog mLog;
+  test_support::RecordingPlatformView mPlatform{mLog, Point(100, 100)};
+  TrackView& mFirst = mPlatform.Show(false, 1, 1);
+};
+
+TEST_F(Overlays, AreSortedByLayerAndPlacedAheadOrBehindOnTheirOwn) {
+  Add("a", 0, 5);
+  Add("b", 0, 5);
+  Add("c", 0, 5, true);
+  Add("d", 0, -2, true);
+  Add("e", 0, 7);
+  Add("f", 0, 7, true);
+  Add("g", 0, 6, true);
+  EXPECT_EQ(Names(), "dcabgfe");
+}
+
+TEST_F(Overlays, TakePartAsTheirStateSays) {
+  Add("all", 0);
+  Add("quiet", 1);  // not drawn
+  Add("deaf", 2);   // no events
+  ScriptedOverlay* const off = Add("off", 3);
+  const boost::intrusive_ptr<lumui::ui::UI_SubView> node(new lumui::ui::UI_SubView);
+  const Point point(3, 4);
+  const unsigned timer = View().StartTimerForOverlay(off, 2);
+  mLog.Take();
+  const struct {
+    std::function<void()> call;
+    const char* what;
+  } kCases[] = {
+      {[&] { View().AcquireTracker(point, false, nullptr); }, "acquire@3,4"},
+      {[&] { View().AcquireTracker(point, true, nullptr); }, "acquire?@3,4"},
+      {[&] { View().DoubleClick(Modifiers(), point); }, "double@3,4"},
+      {[&] { View().ContextMenu(point, *node); }, "menu@3,4"},
+      {[&] { View().KeyEvent(lumui::ui::KeyboardEvent()); }, "key"},
+      {[&] { View().WantsDragDropEvents(); }, "drops"},
+      {[&] { View().GainedKeyFocus(); }, "focus"},
+      {[&] { View().LostKeyFocus(); }, "blur"},
+      {[&] { View().ViewActivation(); }, "active"},
+      {[&] { View().ViewPortResized(); }, "port"},
+      {[&] { View().MouseExitEvent(); }, "exit"},
+  };
+  for (const auto& row : kCases) {
+    row.call();
+    const std::string what = row.what;
+    EXPECT_EQ(mLog.Take(), "all:" + what + " quiet:" + what);
+  }
+  // From the farthest to the nearest.
+  EXPECT_EQ(Draw(), "deaf:draw@1,2,3,4 all:draw@1,2,3,4");
+  EXPECT_TRUE(View().TimerEvent(timer));
+  EXPECT_EQ(mLog.Take(), "off:timer");
+}
+
+TEST_F(Overlays, FirstThatTakesAnEventEndsTheWalk) {
+  Add("a");
+  ScriptedOverlay* const b = Add("b");
+  ScriptedOverlay* const c = Add("c");
+  b->mTakes = true;
+  EXPECT_EQ(Key(), "a:key b:key taken");
+  View().MouseExitEvent();
+  EXPECT_EQ(mLog.Take(), "a:exit b:exit c:exit");
+  ScriptedTracker::Script script;
+  c->mMakeTracker = [&] { return new ScriptedTracker(&View(), mLog, script); };
+  Add("d");
+  EXPECT_NE(View().AcquireTracker(Point(1, 1), false, nullptr).get(), nullptr);
+  EXPECT_EQ(mLog.Take(), "a:acquire@1,1 b:acquire@1,1 c:acquire@1,1 ~tracker");
+}
+
+TEST_F(Overlays, MayBeRemovedAndInstalledInAnyOfTheirCalls) {
+  ScriptedOverlay* const a = Add("a");
+  ScriptedOverlay* b = Add("b");
+  ScriptedOverlay* const c = Add("c");
+  Add("d");
+  // Before it, itself and behind it; a nested walk sees the rest, and it lives until it returns.
+  b->mOn["key"] = [&] {
+    for (Overlay* gone :
+         {static_cast<Overlay*>(a), static_cast<Overlay*>(b), static_cast<Overlay*>(c)}) {
+      View().RemoveOverlay(gone);
+      View().RemoveOverlay(gone);
+    }
+    Add("e");
+    View().MouseExitEvent();
+    throw std::runtime_error("key");
+  };
+  EXPECT_THROW(Key(), std::runtime_error);
+  EXPECT_EQ(mLog.Take(), "a:key b:key ~a ~c d:exit e:exit ~b");
+  EXPECT_EQ(Names(), "de");
+
+  b = Add("b");
+  const auto leave = [&] { View().RemoveOverlay(b); };
+  b->mOn = {{"draw", leave}};
+  EXPECT_EQ(Draw(), "b:draw@1,2,3,4 ~b e:draw@1,2,3,4 d:draw@1,2,3,4");
+  // In a call inside its own call.
+  b = Add("b", 0, 1, true);
+  b->mOn = {{"key",
+             [&] {
+               View().MouseExitEvent();
+               mLog.Add(".");
+             }},
+            {"exit", leave}};
+  EXPECT_EQ(Key(), "b:key b:exit d:exit e:exit . ~b d:key e:key -");
+  // The whole view goes.
+  b = Add("b", 0, 1, true);
+  b->mOn = {{"key", [&] { mPlatform.Show(false, 1, 1); }}};
+  EXPECT_EQ(Key(), "b:key ~d ~e ~b -");
+}
+
+TEST_F(Overlays, TimersAreTheirsAndGoWithThem) {
+  ScriptedOverlay* const a = Add("a");
+  ScriptedOverlay* const b = Add("b");
+  const unsigned first = View().StartTimerForOverlay(a, 0.95f);
+  const unsigned second = View().StartTimerForOverlay(b, 2);
+  const unsigned third = View().StartTimerForOverlay(a, 3);
+  EXPECT_THROW(View().StartTimerForOverlay(a, 0), std::runtime_error);
+  EXPECT_FALSE(View().TimerEvent(third + 1));
+  View().StopTimerForOverlay(b, first);  // another one's
+  View().StopTimerForOverlay(a, third + 7);
+  EXPECT_EQ(mLog.Take(), "start0:0.95 start1:2 start2:3 start3:0");
+  // Another view goes on counting.
+  test_support::RecordingPlatformView other(mLog, Point(1, 1));
+  other.Show(false, 1, 1);
+  EXPECT_EQ(other.GetTrackView()->StartTimerForOverlay(b, 1), third + 2);
+  mLog.Take();
+
+  View().StopTimerForOverlay(b, second);
+  EXPECT_FALSE(View().TimerEvent(second));
+  a->mOn["timer"] = [&] { View().RemoveOverlay(a); };
+  EXPECT_TRUE(View().TimerEvent(first));
+  EXPECT_FALSE(View().TimerEvent(third));
+  EXPECT_EQ(mLog.Take(), "stop1 a:timer stop0 stop2 ~a");
+  // Those that live when the view dies are not stopped one by one.
+  View().StartTimerForOverlay(b, 1);
+  mPlatform.Show(false, 1, 1);
+  EXPECT_EQ(mLog.Take(), "start5:1 ~b");
+}
+
+}  // namespace

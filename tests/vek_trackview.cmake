@@ -1,0 +1,7 @@
+vek_test(vek_trackview_tests
+  SOURCES
+    trackview/CoordinatesTest.cpp
+    trackview/OverlaysTest.cpp
+    support/UIApplication.cpp
+  LIBRARIES vek)
+set_tests_properties(vek_trackview_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
