@@ -89,7 +89,7 @@ class LUMUI_API NodePeer {
 
   // Of the widget's overrides.
   bool HandleEvent(QEvent& inEvent);  // true if Qt's class shall not see it
-  void Paint();
+  void Paint(const QRect& inDamage);
   bool MoveFocus(bool inForward);
   bool WantsInputMethod();
 
@@ -152,7 +152,7 @@ class NodeWidgetT : public Base, public NodeWidgetLink {
   }
   void paintEvent(QPaintEvent* inEvent) override {
     if (mPeer && mPeer->IsDrawn()) {
-      mPeer->Paint();
+      mPeer->Paint(inEvent->rect());
     } else {
       Base::paintEvent(inEvent);
     }
