@@ -3,6 +3,7 @@ vek_test(vek_trackview_tests
     trackview/CoordinatesTest.cpp
     trackview/GesturesTest.cpp
     trackview/OverlaysTest.cpp
+    trackview/PlatformViewTest.cpp
     lumui/UITest.cpp
     support/UIApplication.cpp
   LIBRARIES vek)

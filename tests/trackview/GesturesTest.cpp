@@ -3,99 +3,26 @@
 
 #include <stdexcept>
 
-#include "lumui/UITest.h"
+#include "lumui/datatransfer/OS_SendData.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/Executor.h"
-#include "lumui/ui/InputCapture.h"
-#include "support/ScriptedOverlay.h"
-#include "vek/messaging/Listener.h"
-#include "vek/trackview/PlatformScrollView.h"
+#include "trackview/RealView.h"
 
 namespace {
 
 using namespace vek::trackview;
 using lumui::ui::PointerEvent;
-using test_support::AsText;
-using test_support::Joined;
-using test_support::ScriptedOverlay;
-using test_support::ScriptedTracker;
+using test_support::RealView;
 namespace input = lumui::testing;
 
-constexpr auto kLeft = PointerEvent::kLeftButton;
 constexpr auto kMiddle = PointerEvent::kMiddleButton;
 constexpr auto kRight = PointerEvent::kRightButton;
-const Point kNoAnchor(-1, -1);
 
-// A scroll view of 180 by 80 at (10, 20) of a window of 200 by 100, over data of 300 by 400 at
-// scale 2, scrolled so that the data point (50, 60) is at its corner. An overlay "v" makes
-// trackers.
-class RealView : public lumui::test::UITest,
-                 private vek::messaging::Listener<TrackerChangeMessage> {
- protected:
-  RealView() { Build(); }
-  ~RealView() override { Manager().EndInputCapture(true); }
-
-  void Build() {
-    if (mScroll) mWindow->UI_RemoveChild(mScroll.get());
-    mScroll = PlatformScrollView::Create();
-    mView = &mScroll->GetPlatformView();
-    mScroll->UI_SetLocalRectF(Rect(10, 20, 180, 80));
-    mWindow->UI_AddChild(mScroll);
-    Track().SetCoordScaleRange(0.25f, 4);
-    Track().ResizeDataSize(Point(300, 400), true);
-    Track().SetCoordScale(2, true, kNoAnchor);
-    View().DataPos(Point(50, 60), true);
-    mOverlay = ScriptedOverlay::Install(Track(), new ScriptedOverlay("v", mLog));
-    mOverlay->mMakeTracker = [this] { return new ScriptedTracker(&Track(), mLog, mScript); };
-    mOverlay->SetState(Overlay::kStateNoDraw);
-    Track().GetTrackerBroadcaster()->AddListener(this);
-    View().UI_SetKeyboardFocus(0);
-    App().PumpPendingEvents();
-    mLog.Take();
-  }
-  LUMPlatformView& View() { return *mView; }
-  TrackView& Track() { return *View().GetTrackView(); }
-  // The window's position of a data point, of the view as it is scrolled at the start.
-  static Point At(float inX, float inY) { return Point((inX - 50) * 2 + 10, (inY - 60) * 2 + 20); }
-  // Qt makes a move of its own before a press elsewhere, and before a release.
-  void Park() {
-    Move(60, 70);
-    mLog.Take();
-  }
-  void Press(float inX, float inY, PointerEvent::Button inButton = kLeft) {
-    input::PressMouse(*mWindow, At(inX, inY), inButton);
-  }
-  void Move(float inX, float inY) { input::MoveMouse(*mWindow, At(inX, inY)); }
-  void Release(float inX, float inY, PointerEvent::Button inButton = kLeft) {
-    input::ReleaseMouse(*mWindow, At(inX, inY), inButton);
-  }
-  void OpenBox() {
-    lumui::dialogs::MessageDialogArgs args;
-    args.owner = mWindow.get();
-    lumui::dialogs::RunMessageDialog(args);
-  }
-  // What happened, and behind it, if anything is left of a gesture, what that is.
-  std::string Take() {
-    if (View().IsTracking()) mLog.Add("TRACKING");
-    if (Manager().GetInputCapture()) mLog.Add("CAPTURE");
-    if (View().GetCurrentMouseEvent()) mLog.Add("EVENT");
-    return mLog.Take();
-  }
-
-  test_support::EventLog mLog;
-  ScriptedTracker::Script mScript;
-  boost::intrusive_ptr<lumui::ui::OS_Window> mWindow = MakeWindow();
-  boost::intrusive_ptr<PlatformScrollView> mScroll;
-  LUMPlatformView* mView = nullptr;
-  ScriptedOverlay* mOverlay = nullptr;
-
- private:
-  // "news2", with a mark if the tracker has gone before the news of its end.
-  void ListenToMessage(TrackerChangeMessage inMessage) override {
-    mLog.Add("news" + std::to_string(inMessage.GetTrackState()) +
-             (View().IsTracking() ? "" : "(late)"));
-  }
-};
+void OpenBox(lumui::ui::OS_Window& inOwner) {
+  lumui::dialogs::MessageDialogArgs args;
+  args.owner = &inOwner;
+  lumui::dialogs::RunMessageDialog(args);
+}
 
 TEST_F(RealView, WalksThroughEveryStateOfAGesture) {
   const auto noTracker = [&] { mOverlay->mMakeTracker = nullptr; };
@@ -239,23 +166,36 @@ TEST_F(RealView, EndsAtOnceWhenABoxHasHadTheRelease) {
   mScript["begin"] = [&] {
     // In the box's own loop, where the window is blocked.
     Manager().GetExecutor()->Post([&] { Release(60, 70, kRight); });
-    OpenBox();
+    OpenBox(*mWindow);
   };
   Park();
   Press(60, 70, kRight);
   EXPECT_EQ(Take(), "v:acquire@60,70 begin@60,70 begin. news0 end@60,70 news2 ~tracker");
   // With the button still down it goes on.
   Park();
-  mScript["begin"] = [&] { OpenBox(); };
+  mScript["begin"] = [&] { OpenBox(*mWindow); };
   Press(60, 70);
   EXPECT_EQ(Take(), "v:acquire@60,70 begin@60,70 begin. news0 TRACKING CAPTURE");
   // A box in a move takes the capture; the tracker lives until the move returns, and has no news.
-  mScript["continue"] = [&] { OpenBox(); };
+  mScript["continue"] = [&] { OpenBox(*mWindow); };
   Move(61, 70);
   EXPECT_EQ(Take(), "continue@61,70 end@61,70 news2 continue. ~tracker");
   Release(61, 70);
   EXPECT_EQ(Take(), "");
   lumui::dialogs::SetDialogAnswerer(nullptr);
+}
+
+TEST_F(RealView, DragsBeginWithTheMessageOfThePress) {
+  const auto message = [&] {
+    const auto data = View().GetSendData();
+    return dynamic_cast<lumui::datatransfer::OS_SendData&>(*data).GetOSEvent().message;
+  };
+  unsigned inPress = 0;
+  mScript["begin"] = [&] { inPress = message(); };
+  Press(60, 70);
+  Release(60, 70);
+  EXPECT_EQ(inPress, lumui::ui::kMessageLeftDown);
+  EXPECT_EQ(message(), 0u);
 }
 
 TEST_F(RealView, OnlyOneThatTracksIsToldMovesAndEnd) {

@@ -1,0 +1,170 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumcore/config/ThrowError.h"
+#include "lumui/controls/UI_ScrollBar.h"
+#include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/testing/VirtualClock.h"
+#include "lumui/ui/Fonts.h"
+#include "trackview/RealView.h"
+
+namespace {
+
+using namespace vek::trackview;
+using test_support::AsText;
+using test_support::Joined;
+using test_support::RealView;
+using test_support::ScriptedOverlay;
+namespace input = lumui::testing;
+
+using OnMove = boost::function<void(PlatformView*)>;
+
+class PlatformViews : public RealView {
+ protected:
+  // The bars are as thick as the style makes them.
+  float Thick() { return mScroll->GetScrollBarY()->GetThickness(); }
+  std::string Position() { return AsText(View().DataPos()); }
+  void Rescale(float inScale, const Point& inSize) {
+    Track().SetCoordScale(inScale, true, Point(-1, -1));
+    Track().ResizeDataSize(inSize, true);
+    View().DataPos(Point(0, 0), true);
+  }
+};
+
+// The corner of the view is the data point (50, 60), local (100, 120), window (10, 20).
+TEST_F(PlatformViews, ConvertWithTheScrollAndRoundHalvesUpward) {
+  const struct {
+    Point local, global, back;
+  } kCases[] = {
+      {Point(100, 120), Point(10, 20), Point(100, 120)},
+      {Point(-0.5f, -1.5f), Point(-90, -101), Point(0, -1)},
+      {Point(0.49999997f, 7.5f), Point(-90, -92), Point(0, 8)},
+  };
+  for (const auto& row : kCases) {
+    Point point = row.local;
+    View().LocalToGlobal(point);
+    EXPECT_EQ(point, row.global) << AsText(row.local);
+    point.x += 0.25f;
+    View().GlobalToLocal(point);
+    EXPECT_EQ(point, row.back) << AsText(row.local);
+  }
+  EXPECT_EQ(View().DataSize(), Point((180 - Thick()) / 2, (80 - Thick()) / 2));
+  EXPECT_EQ(View().LocalArea(), Rect(100, 120, 180 - Thick(), 80 - Thick()));
+}
+
+TEST_F(PlatformViews, GoWhereTheyAreToldWithinTheContent) {
+  View().DataPos(Point(10.2f, 20.3f), true);  // local 20.4 and 40.6
+  EXPECT_EQ(Position(), "10,20.5");
+  View().DataPos(Point(-5, 1e6f), false);
+  EXPECT_EQ(View().DataPos(), Point(0, 400 - View().DataSize().y));
+  // Content exactly as wide as the view stays, though the other bar lies over a part of it.
+  Rescale(1, Point(180, 300));
+  View().DataPos(Point(5, 6), true);
+  EXPECT_EQ(Position(), "0,6");
+  // Content exactly as high does not.
+  Rescale(1, Point(300, 80));
+  View().DataPos(Point(5, 6), true);
+  EXPECT_EQ(Position(), "5,6");
+
+  // An outside owner decides about a manual view.
+  const boost::intrusive_ptr<LUMPlatformView> view(new LUMPlatformView);
+  std::auto_ptr<TrackView> trackView(new TrackView(*view, false, 1, 1));
+  view->SetTrackView(trackView);
+  const boost::intrusive_ptr<lumui::controls::UI_ScrollView> manual(
+      new lumui::controls::UI_ManualScrollView(lumcore::utility::Flags<unsigned int>(), view));
+  manual->UI_SetLocalRectF(Rect(0, 0, 100, 100));
+  view->DataPos(Point(-30, 20), false);
+  EXPECT_EQ(AsText(view->DataPos()), "-30,20");
+  // Without a scroll view it stays.
+  manual->UI_RemoveChild(view.get());
+  view->DataPos(Point(7, 8), true);
+  EXPECT_EQ(AsText(view->DataPos()) + " " + AsText(view->LocalArea()), "0,0 0,0,100,100");
+}
+
+TEST_F(PlatformViews, TellWhenTheyMove) {
+  const boost::shared_ptr<OnMove> listener(
+      new OnMove([&](PlatformView* inView) { mLog.Add(AsText(inView->DataPos())); }));
+  View().NotifyWhenDataPosChanged(listener);
+  View().DataPos(Point(0, 10), true);
+  mScroll->SetLineStep(4);
+  input::TurnWheel(*mWindow, At(60, 70), Point(0, 1));  // three lines of 2 data units
+  const auto other = PlatformScrollView::Create();
+  mScroll->SetOffset(lumcore::geom::PointT<double>(0, 0));  // by the program
+  View().DependantDataPosChanged(&other->GetPlatformView(), true, true);
+  EXPECT_EQ(mLog.Take(), "0,10 0,16 0,0");
+}
+
+TEST_F(PlatformViews, DrawWhatIsDamagedAndFollowTheirSize) {
+  mOverlay->SetState(Overlay::kStateActive);
+  View().UI_InvalidateAll();
+  App().PumpPendingEvents();
+  EXPECT_EQ(mLog.Take(), "v:draw@50,60,90,40");
+  // Local 101.5 to 102.5 lies in two columns, and in two rows.
+  View().InvalidateDataRect(Rect(50.75f, 60.75f, 0.5f, 0.5f));
+  App().PumpPendingEvents();
+  EXPECT_EQ(mLog.Take(), "v:draw@50.5,60.5,1,1");
+  View().InvalidateDataRect(Rect(0, 0, 40, 50));  // not in view
+  App().PumpPendingEvents();
+  mOverlay->SetState(Overlay::kStateNoDraw);
+  mScroll->UI_SetLocalRectF(Rect(10, 20, 180, 70));
+  EXPECT_EQ(mLog.Take(), "v:port");
+  Track().SetCentering(true);
+  Rescale(0.25f, Point(300, 80));  // 75 by 20
+  mScroll->UI_SetLocalRectF(Rect(10, 20, 180, 60));
+  EXPECT_EQ(AsText(Track().GetCoordOffset()) + " " + mLog.Take(), "52.5,20 v:port");
+}
+
+TEST_F(PlatformViews, PassKeysButNotTheSystems) {
+  const auto key = lumui::ui::KeyboardCode::CreateFromKeyboardChar('A', false);
+  input::TapKey(*mWindow, key);
+  EXPECT_EQ(mLog.Take(), "v:key v:key v:key");  // down, character, up
+  input::PressKey(*mWindow, key, lumui::ui::ModifierKeys(lumui::ui::kModAlt));
+  EXPECT_EQ(mLog.Take(), "");
+}
+
+TEST_F(PlatformViews, TimersEndWithTheTrackViewTheyAreOf) {
+  input::VirtualClock clock;
+  const unsigned timer = Track().StartTimerForOverlay(mOverlay, 1);
+  clock.Advance(2.5);
+  EXPECT_EQ(mLog.Take(), "v:timer v:timer");
+  std::auto_ptr<TrackView> next(new TrackView(View(), false, 1, 1));
+  View().SetTrackView(next);
+  clock.Advance(1);
+  EXPECT_EQ(mLog.Take(), "~v");
+  EXPECT_THROW(View().UI_RemoveTimer(timer, true), lumcore::config::Error);
+  // A timer of the node's own is left to its owner.
+  View().UI_InstallTimer(1, timer);
+  clock.Advance(1);
+  View().UI_RemoveTimer(timer, true);
+}
+
+TEST_F(PlatformViews, ShowAgainWhatAPressWouldDo) {
+  Park();
+  View().DoNonMouseTrack(true);
+  EXPECT_EQ(Take(), "v:acquire?@60,70 hover@60,70 ~tracker");
+  Press(60, 70);
+  mLog.Take();
+  View().DoNonMouseTrack(false);
+  EXPECT_EQ(Take(), "TRACKING CAPTURE");
+  Release(60, 70);
+  mLog.Take();
+  // The content has moved away under the pointer.
+  View().DataPos(Point(50, 71), true);
+  View().DoNonMouseTrack(true);
+  EXPECT_EQ(Take(), "");
+  View().DoNonMouseTrack(false);
+  EXPECT_EQ(Take(), "v:acquire?@60,70 hover@60,70 ~tracker");
+}
+
+TEST_F(PlatformViews, MeasureTextsAsTheyAreDrawn) {
+  const auto text = lumui::test::U16("Wide and wider");
+  const auto name = lumui::test::U16(lumui::ui::GetFontName(0));
+  const auto font = View().GetDrawSupplier()->NewFont(nullptr, 24);
+  EXPECT_EQ(View().MeasureStringWidth(text.c_str(), 4, name.c_str(), 24),
+            font->MeasureWidth(lumui::test::U16("Wide")));
+  EXPECT_EQ(View().MeasureStringWidth(text.c_str(), 14, nullptr, -1),
+            View().MeasureStringWidth(text.c_str(), 14, name.c_str(), lumui::ui::GetFontSize(0)));
+  EXPECT_THROW(View().MeasureStringWidth(nullptr, 1, nullptr, -1), lumcore::config::Error);
+}
+
+}  // namespace
