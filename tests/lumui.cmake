@@ -3,6 +3,7 @@ vek_test(lumui_tests
   SOURCES
     lumui/EventGateTest.cpp
     lumui/EventLoopTest.cpp
+    lumui/FrameTest.cpp
     lumui/InputCaptureTest.cpp
     lumui/KeyboardCodeTest.cpp
     lumui/MenusTest.cpp

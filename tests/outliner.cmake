@@ -1,7 +1,6 @@
 vek_test(outliner_tests
   SOURCES
     hosts/CommandFilesTest.cpp
-    hosts/EditScriptTest.cpp
     hosts/FileCheckTest.cpp
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
@@ -9,6 +8,7 @@ vek_test(outliner_tests
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
     hosts/RunningOutliner.cpp
+    hosts/ScriptRunTest.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
 

@@ -3,9 +3,14 @@ vek_test(vek_resources_tests
     support/UIApplication.cpp
     utility/EmbeddingTest.cpp
     utility/ResourcesTest.cpp
+    utility/ThemeDocumentsTest.cpp
+    utility/ThemedControlsTest.cpp
     utility/VekResourcesTest.cpp
-  LIBRARIES vek)
-target_compile_definitions(vek_resources_tests PRIVATE "VEK_EMBED=\"$<TARGET_FILE:vek_embed>\"")
+  LIBRARIES vek Qt6::Widgets)
+target_compile_definitions(vek_resources_tests PRIVATE
+  "VEK_EMBED=\"$<TARGET_FILE:vek_embed>\""
+  "VEK_THEME_COLORS=\"${PROJECT_SOURCE_DIR}/platform/lumui/include/lumui/ui/ThemeColors.h\""
+  "VEK_THEME_CONTRASTS=\"${PROJECT_SOURCE_DIR}/vek/resources/themes/contrasts.txt\"")
 add_dependencies(vek_resources_tests vek_embed)
 # One of the names stands in vek too, with another picture.
 vek_embed_resources(vek_resources_tests

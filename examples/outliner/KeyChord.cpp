@@ -4,7 +4,9 @@
 #include "KeyChord.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
+#include <string>
 
 namespace outliner {
 
@@ -25,8 +27,11 @@ constexpr Modifier kModifiers[] = {
 
 struct NamedKey {
   std::string_view name;
-  unsigned short code;
+  std::uint32_t code;
 };
+
+constexpr std::uint32_t kPad = KeyboardCode::kExtendedBit;
+constexpr std::uint32_t kPadCharacter = KeyboardCode::kCharacterBit | kPad;
 
 constexpr NamedKey kNamedKeys[] = {
     {"Return", KeyboardCode::kReturn},     {"Enter", KeyboardCode::kEnter},
@@ -36,8 +41,23 @@ constexpr NamedKey kNamedKeys[] = {
     {"Down", KeyboardCode::kDownArrow},    {"Left", KeyboardCode::kLeftArrow},
     {"Right", KeyboardCode::kRightArrow},  {"Home", KeyboardCode::kHome},
     {"End", KeyboardCode::kEnd},           {"PageUp", KeyboardCode::kPageUp},
-    {"PageDown", KeyboardCode::kPageDown}, {"F1", KeyboardCode::kF1},
-    {"F2", KeyboardCode::kF1 + 1},
+    {"PageDown", KeyboardCode::kPageDown}, {"Insert", KeyboardCode::kInsert},
+    {"Pause", KeyboardCode::kPause},       {"NumLock", KeyboardCode::kNumLock | kPad},
+    {"NumStar", kPadCharacter | '*'},      {"NumPlus", kPadCharacter | '+'},
+    {"NumMinus", kPadCharacter | '-'},     {"NumDot", kPadCharacter | '.'},
+    {"NumSlash", kPadCharacter | '/'},     {"NumEquals", kPadCharacter | '='},
+};
+
+struct NumberedKeys {
+  const char* prefix;
+  std::uint32_t first;
+  std::uint32_t last;
+  std::uint32_t code;  // of the first
+};
+
+constexpr NumberedKeys kNumberedKeys[] = {
+    {"F", 1, 24, KeyboardCode::kF1},
+    {"Num", 0, 9, kPadCharacter | '0'},
 };
 
 const Modifier* FindModifier(std::string_view inName) {
@@ -49,7 +69,14 @@ const Modifier* FindModifier(std::string_view inName) {
 
 KeyboardCode FindCode(std::string_view inName) {
   for (const NamedKey& key : kNamedKeys) {
-    if (key.name == inName) return KeyboardCode::CreateFromControlCode(key.code, false);
+    if (key.name == inName) return KeyboardCode(key.code);
+  }
+  for (const NumberedKeys& keys : kNumberedKeys) {
+    for (std::uint32_t number = keys.first; number <= keys.last; ++number) {
+      if (keys.prefix + std::to_string(number) == inName) {
+        return KeyboardCode(keys.code + number - keys.first);
+      }
+    }
   }
   const bool isCharacter = inName.size() == 1 && inName[0] > ' ' && inName[0] < 0x7F;
   if (!isCharacter) return KeyboardCode();

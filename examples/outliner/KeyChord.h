@@ -16,7 +16,8 @@ struct KeyChord {
   lumui::ui::ModifierKeys modifiers;
 };
 
-// Reads "Ctrl+Shift+Z", "Return" or "F2". False for what names no key.
+// Reads "Ctrl+Shift+Z", "Return", "F12" or "Num7": the names that the framework shows for keys, in
+// English and in one word. False for what names no key.
 bool ParseKeyChord(std::string_view inName, KeyChord& outChord);
 
 }  // namespace outliner

@@ -44,7 +44,7 @@ bool IsComplete(const Options& inOptions) {
 bool ReadOptions(int inCount, char** inArguments, Options& outOptions) {
   for (int argument = 1; argument < inCount; ++argument) {
     const std::string text = inArguments[argument];
-    const bool hasNext = argument + 1 < inCount;
+    const bool hasNext = argument + 1 < inCount && *inArguments[argument + 1] != '\0';
     if (text == "--new") {
       outOptions.isNew = true;
     } else if (text == "--script" && hasNext) {

@@ -156,7 +156,6 @@ void OutlineWindow::SaveAs(const lumcore::filesupport::File& inFile) {
   mEditor->Commit();
   mDocument->SaveAs(inFile);
   ShowState();
-  if (mSaved) mSaved();
 }
 
 bool OutlineWindow::MayClose() {
@@ -221,12 +220,11 @@ void OutlineWindow::ShowSelection(std::size_t inMostRows) {
 }
 
 void OutlineWindow::ShowState() {
-  const bool isDirty = mEditor->IsModified() || mDocument->IsDirty();
   const UTF16String name = mDocument->GetFile().GetName();
-  UI_SetTitle(
-      ReplaceInString(Localized(isDirty ? "$$$/outliner/Window/DirtyTitle=*@0 \xE2\x80\x94 outliner"
-                                        : "$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"),
-                      {name}));
+  UI_SetTitle(ReplaceInString(
+      Localized(IsDirty() ? "$$$/outliner/Window/DirtyTitle=*@0 \xE2\x80\x94 outliner"
+                          : "$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"),
+      {name}));
   const UTF16String& title = mDocument->GetTree().GetEnvelope().title;
   mTitleStrip->SetTexts(title.empty() ? name : title, ToUTF16(mDocument->GetFile().GetPath()));
   mStatusLine->SetTexts(

@@ -48,11 +48,13 @@ class OutlineWindow final
   OutlineDocument& GetDocument() { return *mDocument; }
   RowEditor& GetEditor() { return *mEditor; }
 
+  // Whether there is anything to save, what is being typed included.
+  bool IsDirty() const { return mEditor->IsModified() || mDocument->IsDirty(); }
+
   // Gives the keyboard to the rows.
   void FocusRows();
 
-  // Called after each save, and once when the window has closed.
-  void SetSavedFunction(Function inSaved) { mSaved = std::move(inSaved); }
+  // Called once when the window has closed.
   void SetClosedFunction(Function inClosed) { mClosed = std::move(inClosed); }
 
   // Commit what is being typed and write the file; both throw what OutlineDocument::SaveAs throws.
@@ -96,7 +98,6 @@ class OutlineWindow final
   boost::intrusive_ptr<OutlineView> mView;
   boost::intrusive_ptr<lumui::controls::UI_ScrollView> mScrollView;
   boost::intrusive_ptr<StatusLine> mStatusLine;
-  Function mSaved;
   Function mClosed;
   std::size_t mSelectedCount = 0;
   bool mIsAsking = false;

@@ -7,37 +7,20 @@
 #include <ostream>
 #include <utility>
 
-#include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
+#include "vek/uisupport/PlatformErrors.h"
 #include "vek/uisupport/ReportError.h"
 
 namespace outliner {
 
-namespace {
-
-bool InterpretPlatformError(const std::exception& inError, lumcore::UTF16String& outMessage) {
-  const auto* error = dynamic_cast<const lumcore::config::Error*>(&inError);
-  if (error) outMessage = error->GetText();
-  return error != nullptr;
-}
-
-}  // namespace
-
 void RegisterErrorTexts() {
   static const bool sIsRegistered =
-      (vek::uisupport::RegisterErrorInterpreter(&InterpretPlatformError), true);
+      (vek::uisupport::RegisterErrorInterpreter(&vek::uisupport::InterpretPlatformError), true);
   static_cast<void>(sIsRegistered);
 }
 
 void ReportFailure(const std::exception_ptr& inError) {
-  try {
-    std::rethrow_exception(inError);
-  } catch (const std::exception& error) {
-    vek::uisupport::ReportError(error, false);
-  } catch (...) {
-    // Whatever it is, the user must hear that something went wrong.
-    vek::uisupport::ReportError(false);
-  }
+  vek::uisupport::ReportCaughtError(inError, false);
 }
 
 StReportsToStream::StReportsToStream(std::ostream& outStream) {

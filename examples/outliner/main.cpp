@@ -9,12 +9,13 @@
 
 #include "CommandList.h"
 #include "CommandSystem.h"
-#include "EditScript.h"
 #include "FileCheck.h"
 #include "Options.h"
 #include "OutlinerApp.h"
 #include "ProgramTexts.h"
 #include "Reports.h"
+#include "ScriptRun.h"
+#include "StopSignals.h"
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
@@ -29,12 +30,14 @@ using outliner::OutlineDocument;
 
 constexpr int kExitFailure = 1;
 constexpr int kExitUsage = 2;
+// As shells tell that a program was ended by a signal.
+constexpr int kExitBySignal = 128;
 
 constexpr const char* kUsage =
     "$$$/outliner/Main/Usage="
     "outliner FILE                       edit an outline\n"
     "outliner --new FILE                 begin one; FILE is written when it is saved\n"
-    "outliner --script SCRIPT FILE       replay keys and clicks on it, without a display\n"
+    "outliner --script SCRIPT.js FILE    run a script on it; that needs no display\n"
     "  --keys MAP                        with one of these: use the keys of this key map\n"
     "outliner --list-commands            print all commands with their keys\n"
     "outliner --list-commands=markdown   print them as a page\n"
@@ -59,16 +62,13 @@ std::unique_ptr<OutlineDocument> OpenDocument(const Options& inOptions) {
   return std::make_unique<OutlineDocument>(std::make_unique<outliner::OutlineTree>(), file);
 }
 
-int RunScript(outliner::OutlinerApp& ioApp, const Options& inOptions) {
+int RunScript(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
+              const Options& inOptions) {
   outliner::OutlineWindow& window = ioApp.Show(OpenDocument(inOptions));
-  outliner::EditScript(window, std::cout).Run(File(inOptions.script));
-  if (window.GetDocument().IsDirty()) {
-    const auto text = lumcore::utility::ReplaceInString(
-        Localized("$$$/outliner/Main/NotSaved=@0 has changes that are not saved"),
-        {lumcore::utility::ToUTF16(window.GetDocument().GetFile().GetPath())});
-    std::cout << lumcore::utility::ToStdString(text) << "\n";
-  }
-  return 0;
+  outliner::ScriptRun run(window, std::cout, std::cerr);
+  const outliner::StStopSignals signals(
+      [&ioApplication](int inSignal) { ioApplication.Quit(kExitBySignal + inSignal); });
+  return run.Run(File(inOptions.script));
 }
 
 int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
@@ -88,9 +88,12 @@ int RunEditor(lumui::ui::Application& ioApplication, const Options& inOptions,
   if (!inOptions.keys.empty()) commands.LoadUserKeys(File(inOptions.keys));
   // A script is not replayed with keys that it was not written for.
   if (inReports && inReports->HasReported()) return kExitFailure;
-  outliner::OutlinerApp app([&ioApplication] { ioApplication.Quit(); });
+  // A script goes on when it has closed the window.
+  outliner::OutlinerApp app([&] {
+    if (inOptions.script.empty()) ioApplication.Quit();
+  });
   return inOptions.script.empty() ? RunWindow(app, ioApplication, inOptions)
-                                  : RunScript(app, inOptions);
+                                  : RunScript(app, ioApplication, inOptions);
 }
 
 int ListCommands(const Options& inOptions) {

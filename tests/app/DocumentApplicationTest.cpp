@@ -60,6 +60,7 @@ class Documents : public ::testing::Test, public vek::messaging::Listener<const 
     }
   }
   ~Documents() override {
+    mWhenTold = nullptr;
     mApp.CloseAnyOpenDocuments();
     mApp.Terminate();
   }
@@ -70,12 +71,15 @@ class Documents : public ::testing::Test, public vek::messaging::Listener<const 
                          : inMessage.BecomesActive() ? "on:"
                                                      : "off:") +
              name);
+    const auto whenTold = mWhenTold;  // it may put another in its place
+    if (whenTold) whenTold(inMessage);
   }
 
   TemporaryFolder mFolder;
   test_support::RecordingApp mApp;
   EventLog mLog;
   std::map<char, Page*> mPages;
+  std::function<void(const DocStatusMessage&)> mWhenTold;
 };
 
 TEST_F(Documents, TheCurrentOneIsToldAndAnswersCommands) {
@@ -107,6 +111,25 @@ TEST_F(Documents, ANeighbourThatGoesInTheCloseIsNotMadeCurrent) {
   mLog.Take();
   mApp.CloseDocument(mPages['a']);
   EXPECT_EQ(mLog.Take(), "off:a closing:a closing:b ~b on:c ~a");
+}
+
+TEST_F(Documents, WhoMakesTheClosedOneCurrentAgainLeavesNothingOfItBehind) {
+  mApp.SetDocument(mPages['a']);
+  mWhenTold = [this](const DocStatusMessage& inMessage) {
+    if (inMessage.IsClosing()) mApp.SetDocument(inMessage.GetDocument());
+  };
+  mApp.CloseDocument(mPages['a']);
+  mWhenTold = [this](const DocStatusMessage& inMessage) {
+    if (inMessage.BecomesActive()) return;
+    mWhenTold = nullptr;
+    mApp.SetDocument(mPages['c']);
+  };
+  mApp.SetDocument(nullptr);
+  EXPECT_EQ(mApp.GetDocument(), nullptr);
+  mApp.CloseDocument(mPages['c']);
+  mLog.Take();
+  vek::uisupport::CommandHandlerBase::CallCommandChain(7);
+  EXPECT_EQ(mLog.Take(), "command:b");
 }
 
 TEST_F(Documents, StrangersAndDoublesFailTheirContracts) {

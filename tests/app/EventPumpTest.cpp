@@ -24,7 +24,6 @@ class EventPump : public ::testing::Test {
     mApp.mHasManager = false;
     mApp.Start();
     lumui::testing::ProcessEvents();
-    TakeQuit();  // of another application's end
     mApp.mLog.Take();
   }
   ~EventPump() override { mApp.Terminate(); }

@@ -126,4 +126,25 @@ TEST_F(LifeCycle, AStartThatFailsKeepsItsStagesAndCanBeEnded) {
   app.Terminate();
 }
 
+TEST_F(LifeCycle, AnEndThatFailsInOneStepTakesAllTheOthers) {
+  mFolder.GetFile("file").ReplaceContents("");
+  RecordingApp app(mFolder.GetPath("file"));
+  ASSERT_TRUE(app.Start());
+  app.mLog.Take();
+  EXPECT_THROW(app.Terminate(), lumcore::config::Error) << "settings cannot lie in a file";
+  EXPECT_EQ(app.mLog.Take(),
+            "SaveAppSettings TerminateWorkspace TerminateApplication ~MenuHelper ~Manager "
+            "TerminateDrawing OSTerminateDrawing OSTerminate");
+}
+
+TEST_F(LifeCycle, AStartMayBeTriedAgain) {
+  RecordingApp app(mFolder.GetPath("prefs"));
+  app.mWhenManagerIsMade = [] { throw std::runtime_error("no layouts"); };
+  EXPECT_THROW(app.Start(), std::runtime_error);
+  app.mWhenManagerIsMade = nullptr;
+  EXPECT_TRUE(app.Start());
+  EXPECT_NE(vek::uisupport::FindMainWindow(), nullptr);
+  app.Terminate();
+}
+
 }  // namespace

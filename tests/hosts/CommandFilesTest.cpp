@@ -8,6 +8,7 @@
 #include "hosts/RunningOutliner.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/testing/SyntheticInput.h"
 #include "outliner/CommandList.h"
 #include "outliner/OutlinerCommands.h"
 #include "vek/uisupport/CommandHandlerBase.h"
@@ -90,14 +91,19 @@ TEST(UserKeys, ReplaceTheHostsOwnAndLeaveTextsAlone) {
   RunningOutliner host("a b c");
   const File map(host.GetPath("k.xml"));
   map.ReplaceContents("<keymap>" + Entry("row.delete", "<uchar>x</uchar>") +
-                      Entry("file.save", "<key>1</key>") + Entry("text.edit", "<key>8</key>") +
-                      "</keymap>");
+                      Entry("row.delete", "<uchar>@</uchar>") + Entry("file.save", "<key>1</key>") +
+                      Entry("text.edit", "<key>8</key>") + "</keymap>");
   host.GetCommands().LoadUserKeys(map);
   host.Click(1);
   host.Keys("Delete X");
   EXPECT_EQ(host.Show(), "a c*");
   host.Type("yx z");
-  EXPECT_EQ(host.Show(), "a c* / cyx z|");
+  // As a German keyboard types it, with AltGr.
+  lumui::testing::PressTypingKey(
+      host.GetWindow(), lumui::ui::KeyboardCode(0x80000051),
+      lumui::ui::ModifierKeys(lumui::ui::kModCommand | lumui::ui::kModAlt),
+      lumcore::utility::ToUTF16("@"));
+  EXPECT_EQ(host.Show(), "a c* / cyx z@|");
   // The file knows nothing of contexts, as no saved map does.
   host.Keys("Escape F2");
   EXPECT_EQ(host.Show(), "a c* / c|");

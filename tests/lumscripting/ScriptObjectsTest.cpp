@@ -29,7 +29,9 @@ class Bell : public lumscripting::ScriptObject {
                  {{ToUTF16("who"), ScriptType::kString},
                   {ToUTF16("times"), ScriptType::kInteger},
                   {ToUTF16("pitch"), ScriptType::kNumber},
-                  {ToUTF16("loud"), ScriptType::kBoolean}},
+                  {ToUTF16("loud"), ScriptType::kBoolean, ToUTF8("Whether all hear it.")},
+                  {ToUTF16("place"), ScriptType::kString, {}, true},
+                  {ToUTF16("hour"), ScriptType::kInteger, ToUTF8("Of the day."), true}},
                  ScriptType::kString,
                  ToUTF8("Rings.")},
                 [this](const auto& inArguments) {
@@ -96,15 +98,20 @@ class ScriptObjects : public test_support::RunningScripts {
 };
 
 TEST_F(ScriptObjects, AreGlobalsThatScriptsCannotChange) {
-  EXPECT_EQ(Run("Bell.ring('me', -3, 4, true) + Bell.rings + Gong.rings"), "me;-3;4;true;10");
+  EXPECT_EQ(Run("Bell.ring('me', -3, 4, true) + Bell.rings + Gong.rings"),
+            "me;-3;4;true;undefined;undefined;10");
+  EXPECT_EQ(Run("Bell.ring('me', 1, 1, true, undefined, 5)"), "me;1;1;true;undefined;5;");
   EXPECT_EQ(Run("Bell.rings = 7; Bell.TONE = 7; Bell.ring = 7; Bell.more = 7;"
                 "[Bell.rings, Bell.TONE, typeof Bell.ring, Bell.more].join()"),
-            "1,ding,function,");
+            "2,ding,function,");
   EXPECT_EQ(Run("Object.keys(RingEvent).join()"), "EVENT_RING");
   EXPECT_EQ(Run("help('Bell')"),
             "Bell: Makes noise\n"
-            "  string ring(string who, integer times, number pitch, boolean loud)\n"
+            "  string ring(string who, integer times, number pitch, boolean loud, [string place], "
+            "[integer hour])\n"
             "    Rings.\n"
+            "    loud: Whether all hear it.\n"
+            "    hour: Of the day.\n"
             "  readonly integer rings\n"
             "    How often it has rung.\n"
             "  TONE = \"ding\"\n"
@@ -127,7 +134,10 @@ TEST_F(ScriptObjects, RefuseWrongArgumentsByName) {
       {"'x', 1, 1, 0", "loud must be a boolean"},
       {"'x', 1, 1", "loud is missing"},
       {"", "who is missing"},
-      {"'x', 1, 1, true, 5", "too many arguments, the last is loud"},
+      {"'x', 1, undefined, true", "pitch must be a number"},
+      {"'x', 1, 1, true, null", "place must be a string"},
+      {"'x', 1, 1, true, 'y', '5'", "hour must be an integer"},
+      {"'x', 1, 1, true, 'y', 5, 6", "too many arguments, the last is hour"},
   };
   for (const auto& [arguments, cause] : rows) {
     EXPECT_EQ(Run("\nBell.ring(" + std::string(arguments) + ")"),
@@ -138,6 +148,22 @@ TEST_F(ScriptObjects, RefuseWrongArgumentsByName) {
             "failed: test.js:1: TypeError: Bell.addEventListener: type must be a string");
   EXPECT_EQ(Run("Bell.removeEventListener('x', {})"),
             "failed: test.js:1: TypeError: Bell.removeEventListener: listener must be a function");
+}
+
+TEST_F(ScriptObjects, TheHostMayStandAroundEachCall) {
+  mRunner->SetCallFunction([this](const std::function<void()>& inCall) {
+    mLog.push_back("before");
+    inCall();
+    mLog.push_back("behind");
+    throw std::runtime_error("out of tune");
+  });
+  Run("[() => Bell.ring('', 1, 1, true), () => Bell.rings, () => log('own')]"
+      ".map(call => { try { return call(); } catch (e) { return e.message; } }).join()");
+  mRunner->SetCallFunction(nullptr);
+  EXPECT_EQ(Run("Bell.rings"), "1");
+  EXPECT_EQ(TakeLog(),
+            "before | behind | before | behind | before | own | behind | "
+            "out of tune,out of tune,out of tune | 1");
 }
 
 TEST_F(ScriptObjects, EventsReachTheListenersOfTheirTargetBetweenScripts) {

@@ -37,6 +37,17 @@ TEST_F(EventLoop, RunsIdleWorkEachTimeTheQueueIsEmptyAndEndsWithTheCode) {
   EXPECT_EQ(App().Run(), 3);
 }
 
+TEST_F(EventLoop, IdleWorkThatPostsIsFollowedByIdleWork) {
+  std::string log;
+  App().SetIdleFunction([&] {
+    log += "idle ";
+    if (log != "idle ") return App().Quit();
+    Manager().GetExecutor()->Post([&] { log += "posted "; });
+  });
+  App().Run();
+  EXPECT_EQ(log, "idle posted idle ");
+}
+
 TEST_F(EventLoop, ReportsWhatIdleWorkThrowsAndGoesOn) {
   int runs = 0;
   App().SetIdleFunction([&] {

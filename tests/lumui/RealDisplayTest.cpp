@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "UITest.h"
+#include "lumui/ui/Executor.h"
 #include "lumui/ui/InputCapture.h"
 
 // The same road with a real window system and a window manager at its other end: input comes from
@@ -60,13 +61,17 @@ class RealDisplay : public UITest {
     mWindow->UI_SetLocalRectF(Rect(300, 200, 200, 100));
     mWindow->UI_AddChild(mNode);
     mNode->UI_SetKeyboardFocus(ui::kFocusOther);
+    Activate();
+    TakeLog();
+  }
+
+  void Activate() {
     mWindow->UI_Activate();
     App().SetIdleFunction([this] {
       if (mWindow->UI_IsActive()) App().Quit();
     });
     App().Run();
     App().SetIdleFunction(nullptr);
-    TakeLog();
   }
 
   // Runs the tool that sends input, with a last key behind, and our loop until that key has come.
@@ -166,6 +171,59 @@ TEST_F(RealDisplay, KeysComeOnceAndAreNamedByTheirCaps) {
   ExpectLog("key KP_Add key KP_Left key Left",
             "node:down(c000002b) node:char(8000002b) node:up(c000002b) node:down(4000002a) "
             "node:up(4000002a) node:down(2a) node:up(2a)");
+}
+
+// In a loop that waits and reads the server's events one by one, and in one that never does.
+TEST_F(RealDisplay, HeldKeyGoesDownAndUpOnceAndRepeatsInBetween) {
+  std::string keys;
+  int presses = 0;
+  int repeats = 0;
+  const auto quitAtLastKey = mNode->mOnKey;
+  mNode->mOnKey = [&](const ui::KeyboardEvent& inEvent) {
+    if (inEvent.GetNumCharacters() == 0 && !IsLastKey(inEvent) && !inEvent.IsRepeat()) {
+      keys += inEvent.IsActionKeyDown() ? "down " : "up ";
+    }
+    if (inEvent.IsRepeat()) ++repeats;
+    // By presses, so that the key is let go whatever they are taken for.
+    if (inEvent.IsActionKeyDown() && !IsLastKey(inEvent) && ++presses == 13) {
+      EXPECT_EQ(std::system("xdotool keyup e key F12"), 0);
+    }
+    quitAtLastKey(inEvent);
+  };
+  for (const bool busy : {false, true}) {
+    if (busy) App().SetIdleFunction([this] { Manager().GetExecutor()->Post([] {}); });
+    keys.clear();
+    repeats = presses = 0;
+    EXPECT_EQ(std::system("xdotool keydown e"), 0);
+    EXPECT_EQ(App().Run(), 0);
+    EXPECT_EQ(keys, "down up ") << busy;
+    EXPECT_GE(repeats, 12) << busy;
+  }
+}
+
+// A key that closes a window and is held does not close the next one as well.
+TEST_F(RealDisplay, KeyGoesOnRepeatingInTheNextWindow) {
+  auto* const closer = new RecordingNode("closer", [](const std::string&) {});
+  const boost::intrusive_ptr<ui::OS_Window> first = std::exchange(mWindow, new ui::OS_Window);
+  mWindow->UI_SetLocalRectF(Rect(50, 50, 200, 100));
+  mWindow->UI_AddChild(closer);
+  closer->UI_SetWantsKeyboardFocus(true);
+  closer->UI_SetKeyboardFocus(ui::kFocusOther);
+  Activate();
+  closer->mOnKey = [&](const ui::KeyboardEvent&) { mWindow->UI_Show(false); };
+  std::string keys;
+  const auto quitAtLastKey = mNode->mOnKey;
+  mNode->mOnKey = [&](const ui::KeyboardEvent& inEvent) {
+    if (keys.empty()) {
+      EXPECT_EQ(std::system("xdotool keyup e key F12"), 0);
+    }
+    if (inEvent.IsActionKeyDown() && !IsLastKey(inEvent)) keys += inEvent.IsRepeat() ? "r" : "d";
+    quitAtLastKey(inEvent);
+  };
+  EXPECT_EQ(std::system("xdotool keydown e"), 0);
+  EXPECT_EQ(App().Run(), 0);
+  EXPECT_EQ(keys, std::string(keys.size(), 'r'));
+  EXPECT_NE(keys, "");
 }
 
 // The numbers are the places: 24, 38 and 52 are Q, A and Z of a Latin keyboard, 10 and 16 its 1 and

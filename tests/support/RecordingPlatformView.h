@@ -12,6 +12,8 @@
 
 namespace test_support {
 
+namespace tv = vek::trackview;
+
 // Numbers as they are written, with commas between them.
 template <class... Numbers>
 std::string Joined(const Numbers&... inNumbers) {
@@ -20,25 +22,24 @@ std::string Joined(const Numbers&... inNumbers) {
   ((text << separator << inNumbers, separator = ","), ...);
   return text.str();
 }
-inline std::string AsText(const vek::trackview::Point& inPoint) {
+inline std::string AsText(const tv::Point& inPoint) {
   return Joined(inPoint.x, inPoint.y);
 }
-inline std::string AsText(const vek::trackview::Rect& inRect) {
+inline std::string AsText(const tv::Rect& inRect) {
   return Joined(inRect.x, inRect.y, inRect.width, inRect.height);
 }
 
 // A view of mSize local units without a window, that goes where it is told and logs what it is
 // asked. A flag that is set shows as "!"; timers are counted from the first.
-class RecordingPlatformView : public vek::trackview::PlatformView {
+class RecordingPlatformView : public tv::PlatformView {
  public:
-  using Point = vek::trackview::Point;
-  using Rect = vek::trackview::Rect;
+  using Point = tv::Point;
+  using Rect = tv::Rect;
 
   RecordingPlatformView(EventLog& inLog, const Point& inSize) : mSize(inSize), mLog(inLog) {}
 
-  vek::trackview::TrackView& Show(bool inCentering, float inMin, float inMax) {
-    std::auto_ptr<vek::trackview::TrackView> view(
-        new vek::trackview::TrackView(*this, inCentering, inMin, inMax));
+  tv::TrackView& Show(bool inCentering, float inMin, float inMax) {
+    std::auto_ptr<tv::TrackView> view(new tv::TrackView(*this, inCentering, inMin, inMax));
     SetTrackView(view);
     return *GetTrackView();
   }
@@ -50,9 +51,9 @@ class RecordingPlatformView : public vek::trackview::PlatformView {
   void InvalidateDataRect(const Rect& inRect) override { mLog.Add("draw:" + AsText(inRect)); }
   void ValidateDataRect(const Rect&) override {}
   Point DataSize() const override {
-    const auto& view = *GetTrackView();
-    return Point(mSize.x / (view.GetCoordFactor().x * view.GetCoordScale()),
-                 mSize.y / (view.GetCoordFactor().y * view.GetCoordScale()));
+    const Point factor = GetTrackView()->GetCoordFactor();
+    const float scale = GetTrackView()->GetCoordScale();
+    return Point(mSize.x / (factor.x * scale), mSize.y / (factor.y * scale));
   }
   Point DataPos() const override { return mPosition; }
   unsigned char GetClickCount() override { return 1; }

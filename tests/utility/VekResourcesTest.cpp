@@ -21,13 +21,13 @@ using lumcore::utility::ToUTF8;
 TEST(VekResources, LiveFromFirstUseToDisposal) {
   EXPECT_THROW(GetImageProvider(), lumcore::config::Error);  // there is no window yet
   const boost::intrusive_ptr<lumui::ui::UI_Node> window(new lumui::ui::UI_SubView);
-  vek::uisupport::SetMainWindowLookup([&window] { return window.get(); });
+  vek::uisupport::SetDrawSupplierLookup([&window] { return window->UI_GetDrawSupplier(); });
   lumui::utility::ImageProvider* const provider = GetImageProvider();
   const auto image = provider->GetImage(ToUTF8("SP_DisclosureTriangleDown_Xs_N.png"));
   EXPECT_EQ(GetDrawbotImageCache()->GetImage(*GetResourceManager(), *window->UI_GetDrawSupplier(),
                                              ToUTF8("SP_DisclosureTriangleDown_Xs_N")),
             image);
-  vek::uisupport::SetMainWindowLookup({});
+  vek::uisupport::SetDrawSupplierLookup({});
   EXPECT_EQ(GetImageProvider(), provider);
 
   for (int times = 0; times < 2; ++times) {

@@ -240,7 +240,8 @@ class VEK_API AppBase {
   void SetClientInfo();
   void StartLook(AppInitArgs& inArgs);
   void StartWorkspace(AppInitArgs& inArgs);
-  void EndWorkspaceManagement();
+  void EndMenuHelper();
+  void ForgetActivation();
 
   bool mUpdateMenuShortcuts;
   bool mWorkspaceSaved;

@@ -34,6 +34,8 @@ class VEK_API MultiDocApplication : public DocumentApplication {
   Documents::const_iterator DocumentEnd() const { return mDocuments.end(); }
 
  private:
+  bool IsOpen(const document::DocumentInterface* inDocument) const;
+
   Documents mDocuments;
 };
 

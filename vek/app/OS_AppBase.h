@@ -25,6 +25,8 @@ class VEK_API OS_AppBase : public AppBase {
   void EndEventLoop() override;
   void ModalPumpEventQueue() override;
   void RebuildMenuState(HMENU inMenu) override;
+  // The same with a choice about the items that nobody answers for; 0, always.
+  int UpdateMenuRefEnablement(HMENU inMenu, bool inDisableUnanswered, int inFirstCommand);
 
  protected:
   OS_AppBase();
@@ -45,7 +47,6 @@ class VEK_API OS_AppBase : public AppBase {
   static LRESULT MainWndProc(HWND inWindow, unsigned inMessage, WPARAM inWParam, LPARAM inLParam);
   static LRESULT HandleClose(OS_AppBase* inApp, HWND inWindow);
   bool MouseHook(const lumui::ui::ForeignPress& inPress);
-  int UpdateMenuRefEnablement(HMENU inMenu, bool inDisableUnanswered, int inFirstCommand);
   bool MayQuit();
 
   std::unique_ptr<Platform> mPlatform;  // from OSInitialize to OSTerminate

@@ -12,10 +12,12 @@ using lumcore::UTF16String;
 
 namespace {
 
-// Unit by unit, by the language of the process: an extension is a name, not a text.
+// Unit by unit: an extension is a name, not a text. The letters of ASCII go their own way, since
+// some languages have another small letter for one of them.
 UTF16String ToLowerUnits(UTF16String inText) {
   for (unsigned short& unit : inText) {
-    unit = static_cast<unsigned short>(std::towlower(unit));
+    const bool isASCII = unit >= 'A' && unit <= 'Z';
+    unit = static_cast<unsigned short>(isASCII ? unit - 'A' + 'a' : std::towlower(unit));
   }
   return inText;
 }

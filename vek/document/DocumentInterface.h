@@ -44,7 +44,6 @@ class VEK_API DocumentInterface {
   bool IsFileBacked() const;
   lumcore::filesupport::File GetProjectFile() const;
 
- protected:
   DocumentInterface() = default;
   DocumentInterface(const DocumentInterface&) = default;
   DocumentInterface& operator=(const DocumentInterface&) = default;

@@ -7,6 +7,9 @@
 
 #include "vek/config/Export.h"
 
+namespace lumui::drawbot {
+class SupplierInterface;
+}
 namespace lumui::ui {
 class UI_Node;
 }
@@ -18,5 +21,8 @@ namespace vek::uisupport {
 VEK_API lumui::ui::UI_Node* FindMainWindow();
 // Who has the workspace says how to find it. Empty for none.
 VEK_API void SetMainWindowLookup(boost::function<lumui::ui::UI_Node*()> inLookup);
+// The supplier that the application's workspace draws with, or null while there is none.
+VEK_API lumui::drawbot::SupplierInterface* FindDrawSupplier();
+VEK_API void SetDrawSupplierLookup(boost::function<lumui::drawbot::SupplierInterface*()> inLookup);
 
 }  // namespace vek::uisupport

@@ -6,7 +6,6 @@
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedPtr.h"
 #include "lumui/ui/ModuleHandle.h"
-#include "lumui/ui/UI_Node.h"
 #include "lumui/utility/DrawbotImageResourceCache.h"
 #include "lumui/utility/ImageProvider.h"
 #include "lumui/utility/ResourceManager.h"
@@ -41,10 +40,9 @@ const DrawbotImageResourceCache* GetDrawbotImageCache() {
 
 ImageProvider* GetImageProvider() {
   if (!sImageProvider) {
-    const lumui::ui::UI_Node* const mainWindow = uisupport::FindMainWindow();
-    LUM_INPUT_CONTRACT(mainWindow != nullptr);
-    sImageProvider.Reset(new ImageProvider(GetResourceManager(), mainWindow->UI_GetDrawSupplier(),
-                                           GetDrawbotImageCache()));
+    const lumui::drawbot::SupplierInterface* const supplier = uisupport::FindDrawSupplier();
+    LUM_INPUT_CONTRACT(supplier != nullptr);
+    sImageProvider.Reset(new ImageProvider(GetResourceManager(), supplier, GetDrawbotImageCache()));
   }
   return sImageProvider.Get();
 }

@@ -20,8 +20,8 @@ namespace vek::utility {
 VEK_API const lumui::utility::ResourceManager* GetResourceManager();
 // Made when the library is loaded, and only then: null after a disposal.
 VEK_API const lumui::utility::DrawbotImageResourceCache* GetDrawbotImageCache();
-// Made at the first call. Needs the application's main window (a contract; see
-// vek/uisupport/MainWindowLookup.h), whose draw supplier it takes.
+// Made at the first call. Needs the application's workspace (a contract), whose draw supplier it
+// takes.
 VEK_API lumui::utility::ImageProvider* GetImageProvider();
 
 // Deletes the resource manager and the image cache; images that somebody holds stay good. The image

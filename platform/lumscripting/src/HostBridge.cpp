@@ -53,6 +53,14 @@ const char kPrepareDelivery[] = R"(
   return (listener, event) => { next = () => { next = () => {}; listener.call(event.target, event); }; };
 })())";
 
+ScriptValue Answer(HostSide& ioHost, const std::function<ScriptValue(HostSide&)>& inQuestion) {
+  const ScriptRunner::CallFunction around = ioHost.callFunction;
+  if (!around) return inQuestion(ioHost);
+  ScriptValue answer;
+  around([&] { answer = inQuestion(ioHost); });
+  return answer;
+}
+
 // What a call works with. It is shared, since a call that is cancelled leaves the function running.
 struct Exchange {
   std::function<ScriptValue(HostSide&)> question;
@@ -67,6 +75,7 @@ QJSValue NamesOf(QJSEngine& ioEngine, const std::vector<Member>& inMembers) {
   return names;
 }
 
+// The arguments as a script has given them.
 std::vector<ScriptValue> ArgumentsFrom(const QJSValue& inArray) {
   std::vector<ScriptValue> arguments;
   const auto count = inArray.property(QStringLiteral("length")).toUInt();
@@ -173,7 +182,7 @@ QJSValue HostBridge::Ask(const QString& inFunction,
   const auto exchange = std::make_shared<Exchange>(Exchange{std::move(inQuestion), {}});
   try {
     threads::DirectVoidCallOnUIThread([exchange, weak = mHostSide] {
-      if (const auto host = weak.lock()) exchange->result = exchange->question(*host);
+      if (const auto host = weak.lock()) exchange->result = Answer(*host, exchange->question);
     });
   } catch (const std::exception& failure) {
     mEngine.throwError(QString::fromUtf8(failure.what()));
@@ -200,12 +209,13 @@ QJSValue HostBridge::CallObject(int inObject, int inFunction, const QJSValue& in
   const Object& object = mObjects.at(objectIndex);
   const ScriptFunction& function = object.definition->functions.at(functionIndex);
   if (!Accept(object, function, inArguments)) return QJSValue();
-  return Ask(
-      ToQString(Join(object.definition->name, function.name)),
-      [objectIndex, functionIndex, arguments = ArgumentsFrom(inArguments)](HostSide& ioHost) {
-        const boost::intrusive_ptr<ScriptObject> asked = ioHost.shown.at(objectIndex).object;
-        return asked->CallFunction(functionIndex, arguments);
-      });
+  std::vector<ScriptValue> arguments = ArgumentsFrom(inArguments);
+  arguments.resize(function.parameters.size());
+  return Ask(ToQString(Join(object.definition->name, function.name)),
+             [objectIndex, functionIndex, arguments = std::move(arguments)](HostSide& ioHost) {
+               const boost::intrusive_ptr<ScriptObject> asked = ioHost.shown.at(objectIndex).object;
+               return asked->CallFunction(functionIndex, arguments);
+             });
 }
 
 QJSValue HostBridge::GetProperty(int inObject, int inProperty) {
@@ -225,9 +235,11 @@ bool HostBridge::Accept(const Object& inObject, const ScriptFunction& inFunction
   const auto& parameters = inFunction.parameters;
   const auto count = inArguments.property(QStringLiteral("length")).toUInt();
   for (std::size_t i = 0; i < parameters.size(); ++i) {
-    const char* const misfit =
-        i < count ? Misfit(inArguments.property(static_cast<quint32>(i)), parameters[i].type)
-                  : "$$$/lumscripting/Error/Argument/Missing=@0: @1 is missing";
+    const QJSValue argument = inArguments.property(static_cast<quint32>(i));
+    if (parameters[i].isOptional && argument.isUndefined()) continue;
+    const char* const misfit = i < count
+                                   ? Misfit(argument, parameters[i].type)
+                                   : "$$$/lumscripting/Error/Argument/Missing=@0: @1 is missing";
     if (misfit) {
       Refuse(misfit, where, parameters[i].name);
       return false;

@@ -30,6 +30,7 @@ class HostSide {
   std::map<int, ScriptRunner::Completion> completions;
   int lastCompletion = 0;
   ScriptRunner::FailureFunction failureFunction;
+  ScriptRunner::CallFunction callFunction;
 };
 
 }  // namespace lumscripting

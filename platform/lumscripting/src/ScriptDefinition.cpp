@@ -35,9 +35,19 @@ std::string ParametersOf(const ScriptFunction& inFunction) {
   std::string text;
   for (const ScriptParameter& parameter : inFunction.parameters) {
     if (!text.empty()) text += ", ";
-    text.append(NameOf(parameter.type)).append(" ").append(ToStdString(parameter.name));
+    std::string words(NameOf(parameter.type));
+    words.append(" ").append(ToStdString(parameter.name));
+    text += parameter.isOptional ? "[" + words + "]" : words;
   }
   return text;
+}
+
+void AddParameterDescriptions(const ScriptFunction& inFunction, std::string& ioText) {
+  for (const ScriptParameter& parameter : inFunction.parameters) {
+    if (parameter.description.empty()) continue;
+    ioText +=
+        "    " + ToStdString(parameter.name) + ": " + ToStdString(parameter.description) + "\n";
+  }
 }
 
 }  // namespace
@@ -53,6 +63,7 @@ lumcore::UTF16String WriteReference(const ScriptDefinition& inDefinition) {
     add(std::string(NameOf(function.returns)) + " " + ToStdString(function.name) + "(" +
             ParametersOf(function) + ")",
         function.description);
+    AddParameterDescriptions(function, text);
   }
   for (const auto& property : inDefinition.properties) {
     add("readonly " + std::string(NameOf(property.type)) + " " + ToStdString(property.name),

@@ -23,6 +23,12 @@ bool Has(std::vector<Member>& ioMembers, const lumcore::UTF16String& inName) {
   return Find(ioMembers, inName) != ioMembers.end();
 }
 
+bool OptionalOnesAreLast(const std::vector<ScriptParameter>& inParameters) {
+  return std::is_partitioned(
+      inParameters.begin(), inParameters.end(),
+      [](const ScriptParameter& inParameter) { return !inParameter.isOptional; });
+}
+
 }  // namespace
 
 ScriptObject::ScriptObject() = default;
@@ -42,6 +48,7 @@ void ScriptObject::AddFunction(const ScriptFunction& inFunction, Implementation 
   LUM_INPUT_CONTRACT(inImplementation && !Has(mDefinition.functions, inFunction.name) &&
                      !Has(mDefinition.properties, inFunction.name) &&
                      !Has(mDefinition.constants, inFunction.name));
+  LUM_INPUT_CONTRACT(OptionalOnesAreLast(inFunction.parameters));
   mDefinition.functions.push_back(inFunction);
   mImplementations.push_back(std::move(inImplementation));
 }

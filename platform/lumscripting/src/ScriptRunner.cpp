@@ -42,6 +42,10 @@ void ScriptRunner::SetFailureFunction(FailureFunction inFunction) {
   mHostSide->failureFunction = std::move(inFunction);
 }
 
+void ScriptRunner::SetCallFunction(CallFunction inFunction) {
+  mHostSide->callFunction = std::move(inFunction);
+}
+
 // Each goes to the script thread in the order of its number.
 void ScriptRunner::MakeObjects() {
   if (std::exchange(mHostSide->made, true)) return;

@@ -172,8 +172,9 @@ bool ScriptWorker::Fill(const QueuedEvent& inEvent, ScriptEventObject& ioEvent) 
 void ScriptWorker::Complete(int inCompletion, ScriptValue inValue, std::exception_ptr inFailure) {
   const std::lock_guard lock(mMutex);
   // A runner that goes has promised nothing more, and the executor may go with it.
-  if (mClosing) return;
-  lumui::ui::UI_NodeManager::Get(true)->GetExecutor()->Post(
+  auto* const manager = lumui::ui::UI_NodeManager::Get(false);
+  if (mClosing || !manager) return;
+  manager->GetExecutor()->Post(
       [weak = mHostSide, inCompletion, value = std::move(inValue), failure = std::move(inFailure)] {
         if (const auto host = weak.lock()) HandOver(*host, inCompletion, value, failure);
       });

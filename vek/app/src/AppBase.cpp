@@ -3,15 +3,18 @@
 
 #include "vek/app/AppBase.h"
 
+#include <exception>
 #include <stdexcept>
 #include <utility>
 
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
 #include "lumcore/console/Console.h"
 #include "lumcore/debug/DebugDatabase.h"
 #include "lumcore/filesupport/Dir.h"
+#include "lumcore/filesupport/File.h"
 #include "lumcore/utility/MemoryTracker.h"
 #include "lumcore/xml/ParserFactory.h"
 #include "lumui/sharedui/LUMAboutDlog.h"
@@ -63,6 +66,39 @@ void Delete(T*& ioOwned) {
   delete std::exchange(ioOwned, nullptr);
 }
 
+// A defect in a file that only fault-finders write is told in the log and keeps nobody from
+// starting.
+bool WantsConsole() {
+  auto& switches = lumcore::debug::DebugDatabase::Instance();
+  try {
+    switches.Load(lumcore::filesupport::File(Dir::PrefDir(), "Debug.txt"));
+    return switches.GetBoolean("Show Windows Console", false);
+  } catch (const lumcore::config::Error& error) {
+    lumcore::console::ConsoleLogFile::WriteProblem(error.what());
+    return false;
+  }
+}
+
+// Runs the steps of an end: each of them is due, whatever becomes of the others. The first failure
+// is what the caller gets, once all is done.
+class Ending {
+ public:
+  void Run(const boost::function<void()>& inStep) {
+    try {
+      inStep();
+    } catch (...) {
+      // Kept for the caller.
+      if (!mFailure) mFailure = std::current_exception();
+    }
+  }
+  void Finish() {
+    if (mFailure) std::rethrow_exception(mFailure);
+  }
+
+ private:
+  std::exception_ptr mFailure;
+};
+
 }  // namespace
 
 // Before anything of an application that is there could be touched: a constructor that throws runs
@@ -86,7 +122,9 @@ AppBase::AppBase()
 }
 
 AppBase::~AppBase() {
+  ForgetActivation();
   uisupport::SetMainWindowLookup({});
+  uisupport::SetDrawSupplierLookup({});
   lumcore::config::Localizer::Set(nullptr, Dir());
   mSettings.Clear();
   Delete(mMemoryTracker);
@@ -110,6 +148,9 @@ bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   uisupport::SetMainWindowLookup([this]() -> lumui::ui::UI_Node* {
     return mWorkspace ? mWorkspace->GetMainTopLevelWindow() : nullptr;
   });
+  uisupport::SetDrawSupplierLookup([this]() -> lumui::drawbot::SupplierInterface* {
+    return mWorkspace ? mWorkspace->UI_GetDrawSupplier() : nullptr;
+  });
   mLastStage = kStageSplashScreen;
   const boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog> splashScreen = GetNewSplashScreen();
   if (splashScreen) splashScreen->Show(true);
@@ -120,6 +161,7 @@ bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   if (started && mWorkspaceManager) {
     mLastStage = kStageActivation;
     using Function = boost::function<void(bool)>;
+    ForgetActivation();
     mActivationFunction.reset(
         new Function([this](bool inActive) { HandleAppActiveStateChanged(inActive); }));
     lumui::ui::UI_NodeManager::Get(false)->InstallApplicationActivationChangedFunction(
@@ -150,9 +192,7 @@ void AppBase::StartServices(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   mLastStage = kStageParserFactory;
   lumcore::xml::SetParserFactory(InitXMLParserFactory());
   mLastStage = kStageConsole;
-  if (lumcore::debug::DebugDatabase::Instance().GetBoolean("Show Windows Console", false)) {
-    lumcore::console::CreateStandardConsoleWindow();
-  }
+  if (WantsConsole()) lumcore::console::CreateStandardConsoleWindow();
 }
 
 void AppBase::SetClientInfo() {
@@ -169,7 +209,8 @@ void AppBase::StartLook(AppInitArgs& inArgs) {
   mLastStage = kStageSkins;
   lumui::skins::core::SkinManager::Initialize("V5");
   mLastStage = kStageWorkspaceUI;
-  Replace(mWorkspaceUIManager, new lumworkspace::workspace::WorkspaceUIManager);
+  Delete(mWorkspaceUIManager);  // there is one at a time
+  mWorkspaceUIManager = new lumworkspace::workspace::WorkspaceUIManager;
   mLastStage = kStageModules;
   InitModules();
   InitPreferences();
@@ -199,39 +240,56 @@ void AppBase::StartWorkspace(AppInitArgs&) {
 }
 
 void AppBase::Terminate() {
-  if (mActivationFunction) mActivationFunction->clear();
-  SaveAppSettings();
-  TerminateWorkspace();
-  TerminateApplication();
-  lumui::skins::core::SkinManager::Terminate();
-  Delete(mImageCache);
-  Delete(mResourceManager);
-  utility::DisposeVekResources();
-  EndWorkspaceManagement();
-  lumui::ui::Theme::Terminate();
-  Delete(mWorkspaceUIManager);
-  TerminateDrawing();
-  OSTerminateDrawing();
+  ForgetActivation();
+  Ending ending;
+  ending.Run([this] { SaveAppSettings(); });
+  ending.Run([this] { TerminateWorkspace(); });
+  ending.Run([this] { TerminateApplication(); });
+  ending.Run([] { lumui::skins::core::SkinManager::Terminate(); });
+  ending.Run([this] {
+    Delete(mImageCache);
+    Delete(mResourceManager);
+  });
+  ending.Run([] { utility::DisposeVekResources(); });
+  ending.Run([this] { EndMenuHelper(); });
+  ending.Run([this] {
+    Delete(mWorkspaceManager);
+    Delete(mWorkspaceProvider);
+  });
+  ending.Run([] { lumui::ui::Theme::Terminate(); });
+  ending.Run([this] { Delete(mWorkspaceUIManager); });
+  ending.Run([this] { TerminateDrawing(); });
+  ending.Run([this] { OSTerminateDrawing(); });
   // Each takes itself out of its place when it goes.
-  Delete(mLocalizer);
-  Delete(mErrorManager);
-  lumcore::console::ConsoleLogFile::Terminate();
-  uisupport::DeferredActionManager::Terminate();
-  OSTerminate();
+  ending.Run([this] {
+    Delete(mLocalizer);
+    Delete(mErrorManager);
+  });
+  ending.Run([] { lumcore::console::ConsoleLogFile::Terminate(); });
+  ending.Run([] { uisupport::DeferredActionManager::Terminate(); });
+  ending.Run([this] { OSTerminate(); });
+  ending.Finish();
 }
 
-void AppBase::EndWorkspaceManagement() {
-  if (mMenuHelper) {
-    if (mWorkspaceManager) mWorkspaceManager->RemoveMenuHelper(mMenuHelper);
-    Delete(mMenuHelper);
-  }
-  Delete(mWorkspaceManager);
-  Delete(mWorkspaceProvider);
+void AppBase::EndMenuHelper() {
+  if (mMenuHelper && mWorkspaceManager) mWorkspaceManager->RemoveMenuHelper(mMenuHelper);
+  Delete(mMenuHelper);
+}
+
+void AppBase::ForgetActivation() {
+  if (mActivationFunction) mActivationFunction->clear();
 }
 
 void AppBase::ResetWorkspaceManager() {
   Delete(mWorkspaceManager);
-  mWorkspaceManager = InitWorkspaceManager();
+  try {
+    mWorkspaceManager = InitWorkspaceManager();
+  } catch (...) {
+    // For the caller; but the helper must not go on showing what is gone.
+    Delete(mMenuHelper);
+    throw;
+  }
+  if (!mWorkspaceManager) Delete(mMenuHelper);
   InitWorkspaceManagerMenu();
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "lumcore/debug/Contract.h"
 #include "lumcore/filesupport/Dir.h"
 #include "lumcore/proplist/Utils.h"
 #include "lumcore/utility/MemoryTracker.h"
@@ -88,8 +89,10 @@ void AppBase::InitThemeEditorFromResource(const UTF16String& inName, float inBri
                                           bool inFromVekResources) {
   const lumui::utility::ResourceManager* const resources =
       inFromVekResources ? utility::GetResourceManager() : GetAppResourceManager();
+  LUM_INPUT_CONTRACT(resources != nullptr);
   const auto bytes = resources->GetRequiredBinary(inName, "xml");
   const auto theme = lumui::ui::Theme::Get();
+  LUM_INPUT_CONTRACT(theme);
   std::auto_ptr<lumcore::xml::AbstractParseHandler> handler(
       new lumui::ui::KeyframeThemeParser(dynamic_cast<lumui::ui::KeyframeThemeEditor&>(*theme)));
   lumcore::xml::GetParser(handler)->Parse(lumcore::UTF8String(bytes.begin(), bytes.end()), inName);

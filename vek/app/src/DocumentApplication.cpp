@@ -60,7 +60,7 @@ void DocumentApplication::SetDocument(DocumentInterface* inDocument) {
   }
   mDocument = inDocument;
   if (inDocument) {
-    if (inDocument->HasAttachment()) {
+    if (inDocument->HasAttachment() && mAttachmentHandler) {
       mAttachmentHandler->AddAttachment(inDocument->GetCommandAttachment());
     }
     GetDocStatusNotifier().BroadcastMessage(DocStatusMessage(false, true, inDocument));
@@ -72,7 +72,11 @@ void DocumentApplication::CloseDocument(DocumentInterface* inDocument) {
   if (!inDocument) return;
   if (inDocument == mDocument) SetDocument(nullptr);
   GetDocStatusNotifier().BroadcastMessage(DocStatusMessage(true, false, inDocument));
+  // Who hears of a document and makes another current may have left this one's attachment behind.
+  TakeOffAttachment(*inDocument);
   inDocument->Close();
+  // Whoever heard of the close may have made it current again.
+  if (inDocument == mDocument) SetDocument(nullptr);
   delete inDocument;
 }
 

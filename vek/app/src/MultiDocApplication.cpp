@@ -26,8 +26,10 @@ MultiDocApplication::~MultiDocApplication() = default;
 
 void MultiDocApplication::CloseAnyOpenDocuments() {
   const Documents documents = mDocuments;
-  for (DocumentInterface* const document : documents)
-    CloseDocument(document);
+  for (DocumentInterface* const document : documents) {
+    // One that is closed may close others.
+    if (IsOpen(document)) CloseDocument(document);
+  }
 }
 
 void MultiDocApplication::CloseDocument(DocumentInterface* inDocument) {
@@ -48,13 +50,15 @@ void MultiDocApplication::CloseDocument(DocumentInterface* inDocument) {
   mDocuments.erase(docIter);
   DocumentApplication::CloseDocument(inDocument);
   // Its own Close may have closed the neighbour as well.
-  const bool isOpen =
-      std::find(mDocuments.begin(), mDocuments.end(), newActiveDocument) != mDocuments.end();
-  if (newActiveDocument && isOpen) SetDocument(newActiveDocument);
+  if (newActiveDocument && IsOpen(newActiveDocument)) SetDocument(newActiveDocument);
+}
+
+bool MultiDocApplication::IsOpen(const DocumentInterface* inDocument) const {
+  return std::find(mDocuments.begin(), mDocuments.end(), inDocument) != mDocuments.end();
 }
 
 void MultiDocApplication::DocumentPushBack(DocumentInterface* inDocument) {
-  if (std::find(mDocuments.begin(), mDocuments.end(), inDocument) != mDocuments.end()) {
+  if (IsOpen(inDocument)) {
     lumcore::debug::FailInputContract(
         "find(mDocuments.begin(), mDocuments.end(), inDocument) == mDocuments.end()", kSourcePath,
         kDocumentPushBack, 132);

@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "lumcore/config/ErrorManager.h"
+#include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedValue.h"
 #include "lumui/ui/Application.h"
 #include "lumui/ui/OS_Frame.h"
@@ -36,8 +37,10 @@ OS_AppBase*& Instance() {
   return sApp;
 }
 
+// A window that is hidden stays so.
 void BringToFront(HWND inWindow) {
-  if (OS_Window* const window = OS_Window::UI_GetWindow(inWindow)) window->UI_Activate();
+  OS_Window* const window = OS_Window::UI_GetWindow(inWindow);
+  if (window && window->UI_IsVisible()) window->UI_Activate();
 }
 
 void PostQuit() {
@@ -72,11 +75,13 @@ OS_AppBase::OS_AppBase() {
 }
 
 OS_AppBase::~OS_AppBase() {
+  // Where Terminate was not called, or did not come to its end.
+  OS_AppBase::OSTerminate();
   Instance() = nullptr;
 }
 
 void OS_AppBase::OSInitialize(AppInitArgs& inArgs) {
-  mPlatform = std::make_unique<Platform>();
+  if (!mPlatform) mPlatform = std::make_unique<Platform>();
   OS_Window::UI_Initialize(inArgs.applicationInstance);
   lumui::ui::Application& application = mPlatform->Get();
   application.SetEventSteps(
@@ -99,12 +104,15 @@ void OS_AppBase::OSInitialize(AppInitArgs& inArgs) {
 
 void OS_AppBase::OSTerminate() {
   if (!mPlatform) return;
+  if (!lumui::ui::Application::Get()) return mPlatform.reset();  // it was the host's, and is gone
   lumui::ui::Application& application = mPlatform->Get();
   application.SetEventSteps(nullptr, nullptr);
   application.SetIdleFunction(nullptr);
   application.SetErrorFunction(nullptr);
   application.SetShortcutClaim(nullptr);
   application.SetForeignPressHook(nullptr);
+  // The window that has gone has asked for an end of the loop.
+  application.CancelQuit();
   OS_Window::UI_Terminate();
   mPlatform.reset();
 }
@@ -124,16 +132,18 @@ bool OS_AppBase::InitApplication(AppInitArgs& inArgs) {
       inArgs.windowClassName, inArgs.windowTitle ? inArgs.windowTitle : inArgs.windowClassName,
       kMainWindowStyle, kMainWindowWidth, kMainWindowHeight);
   if (!window) return false;
+  LUM_INPUT_CONTRACT(GetWorkspace() != nullptr);
   lumworkspace::workspace::OS_Workspace::AttachToClientApp(
       *GetWorkspace(), inArgs.applicationInstance, inArgs.resourceInstance, window,
       &OS_AppBase::MainOSEventFunc, 0);
   if (const HMENU menu = GetMainMenu()) MenubarCreateHook(menu);
   ApplyDefaultWorkspace();
-  if (inArgs.showMainWindow) BringToFront(window);
+  if (inArgs.showMainWindow) GetWorkspace()->GetMainTopLevelWindow()->UI_Activate();
   return true;
 }
 
 void OS_AppBase::RunEventLoop() {
+  LUM_INPUT_CONTRACT(mPlatform);
   mPlatform->Get().Run();
   SaveDefaultWorkSpace();
 }
@@ -150,6 +160,7 @@ void OS_AppBase::EndEventLoopDuringSessionEnd() {
 
 // A quit that comes meanwhile is a flag of the application's and waits for the outer loop.
 void OS_AppBase::ModalPumpEventQueue() {
+  LUM_INPUT_CONTRACT(mPlatform);
   const lumcore::utility::StScopedValue<bool> modal(mPlatform->pumpsForModal, true);
   mPlatform->Get().PumpPendingEvents();
 }

@@ -99,7 +99,7 @@ void CatalogueLocalizer::DoSetLocalizationDir(const Dir& inDir) {
 }
 
 Dir FindProgramLocalizationDir(std::string_view inName) {
-  return FindLocalizationDir(filesupport::system::ProgramDir(), inName);
+  return FindLocalizationDir(Dir::AppDir(), inName);
 }
 
 }  // namespace lumcore::config

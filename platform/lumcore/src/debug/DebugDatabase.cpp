@@ -54,7 +54,8 @@ void DebugDatabase::Load(const filesupport::File& inFile) {
     }
     values[name] = {Trimmed(line.substr(equals + 1)), origin};
   }
-  mValues = std::move(values);
+  for (auto& [name, value] : values)
+    mValues[name] = std::move(value);
 }
 
 void DebugDatabase::Clear() {

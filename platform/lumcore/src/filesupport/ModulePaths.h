@@ -7,9 +7,7 @@
 
 namespace lumcore::filesupport::system {
 
-// Where the running program and this library lie on disk, with links resolved. An empty Dir where
-// the system does not say.
-Dir ProgramDir();
+// Where this library lies on disk, with links resolved. An empty Dir where the system does not say.
 Dir LibraryDir();
 
 }  // namespace lumcore::filesupport::system

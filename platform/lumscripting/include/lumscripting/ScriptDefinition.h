@@ -15,11 +15,13 @@ enum class ScriptType { kNothing, kString, kInteger, kNumber, kBoolean };
 struct ScriptParameter {
   lumcore::UTF16String name;
   ScriptType type;
+  lumcore::UTF8String description = {};
+  bool isOptional = false;  // may be left out, or be undefined
 };
 
 struct ScriptFunction {
   lumcore::UTF16String name;
-  std::vector<ScriptParameter> parameters;  // all of them have to be given
+  std::vector<ScriptParameter> parameters;  // the optional ones stand behind the others
   ScriptType returns;
   lumcore::UTF8String description;
 };

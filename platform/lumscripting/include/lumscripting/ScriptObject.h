@@ -23,7 +23,8 @@ namespace lumscripting {
 class LUMSCRIPTING_API ScriptObject : public lumcore::utility::RefCountedObject {
  public:
   // Gets as many arguments, of such types, as the definition says; an integer comes as a number
-  // without a fraction. What it throws becomes an exception in the script.
+  // without a fraction, and an optional one that was left out as nothing. What it throws becomes an
+  // exception in the script.
   using Implementation = std::function<ScriptValue(const std::vector<ScriptValue>&)>;
   using Getter = std::function<ScriptValue()>;
 
@@ -41,7 +42,8 @@ class LUMSCRIPTING_API ScriptObject : public lumcore::utility::RefCountedObject 
  protected:
   ScriptObject();
 
-  // A name that is there already is a contract failure; a constant replaces one of its own name.
+  // A name that is there already is a contract failure, and so is a parameter that must be given
+  // behind one that need not be. A constant replaces one of its own name.
   void AddFunction(const ScriptFunction& inFunction, Implementation inImplementation);
   void AddProperty(const ScriptProperty& inProperty, Getter inGetter);
   void AddConstant(const ScriptConstant& inConstant);

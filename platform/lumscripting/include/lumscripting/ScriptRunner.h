@@ -38,6 +38,9 @@ class LUMSCRIPTING_API ScriptRunner {
   // went wrong: a ScriptError, also for a script that was stopped.
   using Completion = std::function<void(const ScriptValue& inValue, std::exception_ptr inFailure)>;
   using FailureFunction = std::function<void(const std::exception_ptr& inFailure)>;
+  // Makes the call, once. What it throws, the call's own failure among it, becomes an exception in
+  // the script.
+  using CallFunction = std::function<void(const std::function<void()>& inCall)>;
 
   ScriptRunner();
   ~ScriptRunner();
@@ -50,6 +53,9 @@ class LUMSCRIPTING_API ScriptRunner {
   // object that could not be made, and of scripts without a completion. Without a function they go
   // to the application's error function.
   void SetFailureFunction(FailureFunction inFunction);
+  // Stands around each call of a function and each reading of a property by a script or a listener,
+  // on the user interface thread: for a host that tells a script more than the call throws.
+  void SetCallFunction(CallFunction inFunction);
 
   // Queues a script. inFile stands in its errors. The completion is dropped when the runner dies.
   void Run(const lumcore::UTF16String& inProgram, const lumcore::UTF16String& inFile,

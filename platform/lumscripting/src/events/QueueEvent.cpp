@@ -26,7 +26,9 @@ bool QueueEvent(const lumcore::UTF16String& inEventObjectName, const lumcore::UT
   if (interested.empty()) return false;
   const auto& kinds = ScriptRegistry::Get().GetEvents();
   const auto kind = kinds.find(inEventObjectName);
-  LUM_INPUT_CONTRACT(kind != kinds.end());
+  // Taken back by whoever had registered it: what cannot be told must not keep the command from
+  // running.
+  if (kind == kinds.end()) return false;
   const auto keptKind = kind->second;
 
   boost::intrusive_ptr<ScriptObject> target;

@@ -13,6 +13,7 @@
 #include "lumcore/Strings.h"
 #include "lumcore/geom/Point.h"
 #include "lumcore/geom/Rect.h"
+#include "lumui/Export.h"
 #include "lumui/drawbot/Color.h"
 #include "lumui/drawbot/Path.h"
 
@@ -36,8 +37,8 @@ ColorRGBA FromQt(const QColor& inColor);
 QPainterPath ToQt(const Path& inPath);
 
 // Code unit for code unit: ill-formed text stays as it is.
-QString ToQt(const lumcore::UTF16String& inText);
-lumcore::UTF16String FromQt(const QString& inText);
+LUMUI_API QString ToQt(const lumcore::UTF16String& inText);
+LUMUI_API lumcore::UTF16String FromQt(const QString& inText);
 QString ToQt(std::string_view inUTF8);
 
 }  // namespace lumui::drawbot

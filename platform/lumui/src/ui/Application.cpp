@@ -116,6 +116,10 @@ bool Application::IsQuitting() const {
   return mImpl->quitting;
 }
 
+void Application::CancelQuit() {
+  mImpl->quitting = false;
+}
+
 void Application::PumpPendingEvents() {
   QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
   while (dispatcher->processEvents(QEventLoop::AllEvents)) {

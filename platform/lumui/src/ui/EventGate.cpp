@@ -39,13 +39,6 @@ bool IsPointerEvent(QEvent::Type inType) {
          inType == QEvent::MouseButtonDblClick || inType == QEvent::MouseMove;
 }
 
-// The user's input, which keeps its order. The override comes before the press that it belongs to.
-bool IsInput(QEvent::Type inType) {
-  return IsPointerEvent(inType) || inType == QEvent::Wheel || inType == QEvent::KeyPress ||
-         inType == QEvent::KeyRelease || inType == QEvent::ShortcutOverride ||
-         inType == QEvent::FocusOut || inType == QEvent::Close;
-}
-
 bool IsPress(QEvent::Type inType) {
   return inType == QEvent::MouseButtonPress || inType == QEvent::MouseButtonDblClick;
 }
@@ -82,13 +75,7 @@ bool IsTyped(QChar inCharacter) {
 }  // namespace
 
 EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
-    : QApplication(ioArgumentCount, ioArguments),
-      mHeldRelease([this](QWindow& inNative, QKeyEvent& inRelease) {
-        OS_Window* const window = FindWindowOf(inNative);
-        if (!window) return;
-        const lumcore::utility::StKeepAlive keepAlive(*window);
-        DispatchKey(*window, inNative, inRelease, false);
-      }) {
+    : QApplication(ioArgumentCount, ioArguments) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
@@ -128,17 +115,25 @@ bool EventGate::notify(QObject* inReceiver, QEvent* inEvent) {
 
 bool EventGate::Route(QObject* inReceiver, QEvent* inEvent) {
   if (inReceiver->isWidgetType()) return RouteWidget(*static_cast<QWidget*>(inReceiver), *inEvent);
-  if (inReceiver->isWindowType()) return RouteWindow(*static_cast<QWindow*>(inReceiver), *inEvent);
+  if (inReceiver->isWindowType()) return RouteMarked(*static_cast<QWindow*>(inReceiver), *inEvent);
   if (inReceiver == this && inEvent->type() == QEvent::Quit) return HandleQuit();
   return QApplication::notify(inReceiver, inEvent);
+}
+
+bool EventGate::RouteMarked(QWindow& inNative, QEvent& inEvent) {
+  if (!mHeldKeys.IsUnmarkedRepeat(inEvent)) {
+    mHeldKeys.Note(inEvent);
+    return RouteWindow(inNative, inEvent);
+  }
+  MarkedRepeat repeat(static_cast<const QKeyEvent&>(inEvent));
+  const bool handled = RouteWindow(inNative, repeat);
+  inEvent.setAccepted(repeat.isAccepted());
+  return handled;
 }
 
 bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
     NodeManagerImpl().capture.End(true);
-  }
-  if (inEvent.spontaneous() && IsInput(inEvent.type()) && !RepeatsHeldRelease(inEvent)) {
-    mHeldRelease.Flush();
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
   if (!window) return RouteForeign(inNative, inEvent);
@@ -168,8 +163,8 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
 
 bool EventGate::RouteForeign(QWindow& inNative, QEvent& inEvent) {
   const auto hook = mForeignPressHook;
-  if (hook && inEvent.spontaneous() && IsPress(inEvent.type()) && !IsPassing(inNative) &&
-      !FindWindowOf(inNative)) {
+  if (hook && inEvent.spontaneous() && inEvent.type() == QEvent::MouseButtonPress &&
+      !IsPassing(inNative) && !FindWindowOf(inNative)) {
     const auto& mouse = static_cast<const QMouseEvent&>(inEvent);
     const Qt::MouseButton button = mouse.button();
     if (button == Qt::LeftButton || button == Qt::RightButton) {
@@ -259,26 +254,11 @@ bool EventGate::HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEv
   return handled;
 }
 
-bool EventGate::RepeatsHeldRelease(const QEvent& inEvent) const {
-  const bool press =
-      inEvent.type() == QEvent::KeyPress || inEvent.type() == QEvent::ShortcutOverride;
-  return press && mHeldRelease.IsRepeatedBy(static_cast<const QKeyEvent&>(inEvent));
-}
-
 bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent) {
   // Some window systems repeat a held key as release and press; only the presses are told.
-  if (inEvent.type() == QEvent::KeyRelease) {
-    if (inEvent.isAutoRepeat() || mHeldRelease.Hold(inNative, inEvent)) return true;
-  }
-  const bool repeat = inEvent.isAutoRepeat() || RepeatsHeldRelease(inEvent);
-  if (inEvent.type() == QEvent::KeyPress) mHeldRelease.Drop();
-  return DispatchKey(inWindow, inNative, inEvent, repeat);
-}
-
-bool EventGate::DispatchKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent,
-                            bool inRepeat) {
+  if (inEvent.type() == QEvent::KeyRelease && inEvent.isAutoRepeat()) return true;
   KeyState key;
-  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inRepeat);
+  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
   OS_Event os = *key.event.GetOSEvent();
   bool handled = true;
   bool passed = false;
@@ -332,8 +312,7 @@ void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
 
 bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
   if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
-  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent,
-                                         inEvent.isAutoRepeat() || RepeatsHeldRelease(inEvent));
+  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
   bool claimed = !NodeManagerImpl().mnemonics;
   const auto claim = mShortcutClaim;
   if (claim && event.GetCode() != KeyboardCode()) {
@@ -406,13 +385,15 @@ void EventGate::ReportError(const std::exception_ptr& inError) {
 }
 
 bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch) {
+  const OS_Event asItCame = ioEvent;
   const Application::PreEventStep pre = mPreStep;
   bool goOn = true;
   if (pre) RunGuarded([&] { goOn = pre(ioEvent); });
   if (!goOn) return false;
   inDispatch();
   const Application::PostEventStep post = mPostStep;
-  if (post) RunGuarded([&] { post(ioEvent); });
+  // As it came: whoever handled it may have written into it.
+  if (post) RunGuarded([&] { post(asItCame); });
   return true;
 }
 

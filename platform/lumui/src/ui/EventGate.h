@@ -13,7 +13,7 @@
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/OS_Event.h"
 #include "lumui/ui/UI_Node.h"
-#include "ui/HeldRelease.h"
+#include "ui/HeldKeys.h"
 
 class QKeyEvent;
 class QMouseEvent;
@@ -83,6 +83,8 @@ class LUMUI_API EventGate : public QApplication {
   };
 
   bool Route(QObject* inReceiver, QEvent* inEvent);
+  // With the repeats of held keys marked as such.
+  bool RouteMarked(QWindow& inWindow, QEvent& inEvent);
   bool RouteWindow(QWindow& inWindow, QEvent& inEvent);
   bool RouteForeign(QWindow& inWindow, QEvent& inEvent);
   bool RouteWidget(QWidget& inWidget, QEvent& inEvent);
@@ -90,8 +92,6 @@ class LUMUI_API EventGate : public QApplication {
   bool HandlePointer(OS_Window& inWindow, QWindow& inNative, QMouseEvent& inEvent);
   bool HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEvent);
   bool HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent);
-  bool DispatchKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent, bool inRepeat);
-  bool RepeatsHeldRelease(const QEvent& inEvent) const;
   bool HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent);
   bool HandleClose(OS_Window& inWindow, QEvent& inEvent);
   bool HandleQuit();
@@ -110,7 +110,7 @@ class LUMUI_API EventGate : public QApplication {
   UI_Node* mStartNode = nullptr;
   OS_Event mCurrentOSEvent;
   KeyState* mKey = nullptr;
-  HeldRelease mHeldRelease;
+  HeldKeys mHeldKeys;
 };
 
 }  // namespace lumui::ui

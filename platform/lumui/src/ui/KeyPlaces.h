@@ -18,8 +18,4 @@ int PlaceOf(const QKeyEvent& inEvent);  // 0 where the event does not tell
 // A press in that place without modifiers, as good as a real one for asking the layout.
 std::unique_ptr<QKeyEvent> MakePressAt(int inPlace);
 
-// True where a key that repeats itself comes as releases and presses, and the first of them may
-// look like the user's own.
-bool RepeatsByReleases();
-
 }  // namespace lumui::ui

@@ -9,9 +9,10 @@ namespace lumui::ui {
 
 namespace {
 
+// Never destroyed: modules leave it when their own statics go.
 std::list<ModuleInfo*>& Table() {
-  static std::list<ModuleInfo*> sTable;
-  return sTable;
+  static auto* const sTable = new std::list<ModuleInfo*>;
+  return *sTable;
 }
 
 }  // namespace

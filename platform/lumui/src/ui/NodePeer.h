@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QVariant>
 #include <QWidget>

@@ -3,12 +3,13 @@
 
 #include "lumui/ui/Theme.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPalette>
 #include <QWidget>
 #include <algorithm>
 
 #include "lumcore/utility/CallbackList.h"
+#include "ui/ThemedLook.h"
 
 namespace lumui::ui {
 
@@ -32,7 +33,7 @@ lumcore::utility::CallbackList<>& Callbacks() {
 
 float GetDefaultBrightness() {
   if (qGuiApp == nullptr) return kDark;
-  const QPalette palette = QGuiApplication::palette();
+  const QPalette palette = UnthemedPalette();
   const int text = palette.color(QPalette::WindowText).lightness();
   return text > palette.color(QPalette::Window).lightness() ? kDark : kLight;
 }
@@ -43,10 +44,12 @@ Theme::~Theme() = default;
 
 void Theme::Initialize(Theme* inTheme) {
   Instance().reset(inTheme);
+  ApplyThemedLook();
 }
 
 void Theme::Terminate() {
   Instance().reset();
+  ApplyThemedLook();
 }
 
 boost::intrusive_ptr<Theme> Theme::Get() {
@@ -66,6 +69,7 @@ float Theme::GetBrightness() {
 }
 
 void Theme::NotifyThemeChanged() {
+  ApplyThemedLook();
   Callbacks().CallEach();
   if (qApp == nullptr) return;
   const auto widgets = QApplication::allWidgets();

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include <QByteArray>
-#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include "ui/ApplicationImpl.h"
@@ -41,10 +40,6 @@ int PlaceOf(const QKeyEvent& inEvent) {
 std::unique_ptr<QKeyEvent> MakePressAt(int inPlace) {
   return std::make_unique<QKeyEvent>(QEvent::KeyPress, 0, Qt::NoModifier,
                                      static_cast<quint32>(inPlace) + kFirstKeyCode, 0, 0);
-}
-
-bool RepeatsByReleases() {
-  return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
 }  // namespace lumui::ui

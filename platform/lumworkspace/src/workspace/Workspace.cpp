@@ -6,7 +6,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "docking/Docking.h"
+#include "layout/LayoutFile.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/proplist/PropList.h"
 #include "lumcore/utility/ScopedValue.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Frame.h"
@@ -17,10 +20,12 @@ namespace lumworkspace::workspace {
 using lumui::ui::OSEventFunction;
 using lumui::ui::UI_Node;
 
-Workspace::Workspace(lumui::drawbot::SupplierInterface* inSupplier) : mSupplier(inSupplier) {}
+Workspace::Workspace(lumui::drawbot::SupplierInterface* inSupplier)
+    : mSupplier(inSupplier), mDocking(std::make_unique<docking::Docking>(*this)) {}
 
 // Whoever else holds a window keeps the node, and it has no native part any more.
 Workspace::~Workspace() {
+  mDocking.reset();
   const auto windows = std::exchange(mWindows, {});
   for (const auto& window : windows)
     window->UI_DestroyWindow();
@@ -30,7 +35,10 @@ bool Workspace::ChildRequestRemove(boost::intrusive_ptr<UI_Node> inChild) {
   const auto child = std::find(mWindows.begin(), mWindows.end(), inChild);
   if (child == mWindows.end()) return false;
   const boost::intrusive_ptr<TopLevelWindow> window = *child;
-  mWindows.erase(child);
+  mDocking->WindowGoes(*window);
+  const auto still = std::find(mWindows.begin(), mWindows.end(), window);
+  if (still == mWindows.end()) return true;
+  mWindows.erase(still);
   window->UI_DestroyWindow();
   return true;
 }
@@ -59,6 +67,52 @@ TopLevelWindow* Workspace::GetMainTopLevelWindow() const {
   const auto main = std::find_if(mWindows.begin(), mWindows.end(),
                                  [](const auto& inWindow) { return inWindow->IsMain(); });
   return main == mWindows.end() ? nullptr : main->get();
+}
+
+void Workspace::RegisterTabCreator(TabCreator* inCreator) {
+  LUM_INPUT_CONTRACT(inCreator != nullptr);
+  mDocking->Register(std::unique_ptr<TabCreator>(inCreator));
+}
+
+TabCreator* Workspace::FindTabCreator(const lumcore::UTF8String& inTabType) const {
+  return mDocking->FindCreator(inTabType);
+}
+
+std::vector<lumcore::UTF8String> Workspace::GetTabTypes() const {
+  return mDocking->GetTypes();
+}
+
+TabPanel* Workspace::OpenTab(const lumcore::UTF8String& inTabType, const TabPlace* inPlace) {
+  return mDocking->Open(inTabType, inPlace);
+}
+
+TabPanel* Workspace::FindTab(const lumcore::UTF8String& inTabType) const {
+  return mDocking->Find(inTabType);
+}
+
+bool Workspace::CloseTab(const lumcore::UTF8String& inTabType) {
+  return mDocking->Close(inTabType);
+}
+
+bool Workspace::ActivateTab(const lumcore::UTF8String& inTabType) {
+  return mDocking->Activate(inTabType);
+}
+
+bool Workspace::FloatTab(const lumcore::UTF8String& inTabType, bool inFloating) {
+  return mDocking->SetFloating(inTabType, inFloating, nullptr);
+}
+
+void Workspace::ForEachTabPanel(const std::function<void(TabPanel&)>& inFunction) const {
+  mDocking->ForEachPanel(inFunction);
+}
+
+lumcore::proplist::PropList Workspace::GetLayout() const {
+  return layout::ToPropList(mDocking->Capture());
+}
+
+void Workspace::SetLayout(const lumcore::proplist::PropList& inLayout,
+                          const lumcore::UTF16String& inName) {
+  mDocking->Replace(layout::FromPropList(inLayout, inName));
 }
 
 lumui::drawbot::SupplierInterface* Workspace::UI_GetDrawSupplier() const {

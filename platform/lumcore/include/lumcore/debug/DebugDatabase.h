@@ -28,8 +28,9 @@ class LUMCORE_API DebugDatabase {
  public:
   static DebugDatabase& Instance();
 
-  // Takes the place of all values. A file that is not there holds none. Throws FileError, and
-  // config::Error with file and line for a line of another form; the values then stay as they were.
+  // A value of the file takes the place of one of the same name; all others stay. A file that is not
+  // there holds none. Throws FileError, and config::Error with file and line for a line of another
+  // form; the values then stay as they were.
   void Load(const filesupport::File& inFile);
   void Clear();
 
@@ -39,7 +40,7 @@ class LUMCORE_API DebugDatabase {
   std::int64_t GetInteger(const std::string& inName, std::int64_t inDefault) const;
   std::string GetText(const std::string& inName, const std::string& inDefault) const;
 
-  // Until the program ends, or the next Load.
+  // Until the program ends, or the next Load of a file that names it.
   void SetBoolean(const std::string& inName, bool inValue);
   void SetInteger(const std::string& inName, std::int64_t inValue);
   void SetText(const std::string& inName, const std::string& inValue);

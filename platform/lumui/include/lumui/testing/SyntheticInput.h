@@ -3,12 +3,15 @@
 
 #pragma once
 
+#include <vector>
+
 #include "lumcore/Strings.h"
 #include "lumcore/geom/Point.h"
 #include "lumui/Export.h"
 #include "lumui/ui/KeyboardCode.h"
 #include "lumui/ui/ModifierKeys.h"
 #include "lumui/ui/PointerEvent.h"
+#include "lumui/ui/UI_DragDropHandler.h"
 
 namespace lumui::ui {
 class OS_Window;
@@ -56,6 +59,12 @@ LUMUI_API void LeaveWindow(ui::OS_Window& inWindow);
 LUMUI_API void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
                          const lumcore::geom::PointT<float>& inNotches,
                          ui::ModifierKeys inModifiers = ui::ModifierKeys());
+
+// Files, by their full paths, and a text that another program drags into the window, moves to the
+// position and drops there. What the drop has done.
+LUMUI_API ui::DropEffect DropOnWindow(ui::OS_Window& inWindow, const Position& inPosition,
+                                      const std::vector<lumcore::UTF16String>& inFiles,
+                                      const lumcore::UTF16String& inText);
 
 // As the cross in the window's frame does.
 LUMUI_API void RequestClose(ui::OS_Window& inWindow);

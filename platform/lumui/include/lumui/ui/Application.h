@@ -64,6 +64,7 @@ class LUMUI_API Application {
   int Run();
   void Quit(int inCode = 0);  // from any thread
   bool IsQuitting() const;
+  void CancelQuit();
   // Handles what is in the queue now, and what that brings, until the queue is empty; no idle.
   void PumpPendingEvents();
 

@@ -17,7 +17,9 @@ namespace lumui::ui {
 // brightness that the user chooses. Whoever paints asks anew each time and remembers no colour, and
 // learns of a change by a callback or by being repainted: all nodes are, when a change is told.
 //
-// There is one theme, which its subclass fills. It is of the user interface thread.
+// There is one theme, which its subclass fills. It is of the user interface thread. Where it has
+// the colours of the present controls (lumui/ui/ThemeColors.h), the standard controls follow it
+// too; without a theme they look as the system has them.
 class LUMUI_API Theme : public lumcore::utility::RefCountedObject {
  public:
   using ChangeCallback = boost::shared_ptr<boost::function<void()>>;
@@ -36,7 +38,8 @@ class LUMUI_API Theme : public lumcore::utility::RefCountedObject {
   // GetDefaultBrightness.
   static void SetBrightness(float inBrightness);
   static float GetBrightness();
-  // Calls the callbacks and has every window painted anew.
+  // Gives the standard controls their colours, calls the callbacks and has every window painted
+  // anew.
   static void NotifyThemeChanged();
   // The callback is cleared by its holder to unsubscribe. Callbacks outlive the theme.
   static void AddThemeChangedCallback(const ChangeCallback& inCallback);

@@ -41,6 +41,24 @@ class LUMWORKSPACE_API ManagerBase {
   // current one that is deleted leaves the panels where they are and no workspace current.
   virtual void DeleteWorkspace(const lumcore::UTF16String& inName) = 0;
 
+  // What only some managers can do; a manager that cannot does nothing, and says so.
+
+  // Whether there is a built-in one to go back to that is not what the workspace is now.
+  virtual bool CanRevertToBuiltIn(const lumcore::UTF16String& inName) const;  // false
+  virtual bool RevertToBuiltIn(const lumcore::UTF16String& inName);           // false
+  // False for names that may not be: see CheckName.
+  virtual bool RenameWorkspace(const lumcore::UTF16String& inName,
+                               const lumcore::UTF16String& inNewName);  // false
+  // The named ones stand in this order, in front of the others.
+  virtual void SetWorkspaceOrder(const std::vector<lumcore::UTF16String>& inNames);
+
+  // The cause why no workspace may have this name, for the user; empty where one may.
+  static lumcore::UTF16String CheckNameAlone(const lumcore::UTF16String& inName);
+  // The same, counting that others have theirs: names that differ in case alone are too much alike.
+  // inExcept, which may be empty, is about to lose its own.
+  lumcore::UTF16String CheckName(const lumcore::UTF16String& inName,
+                                 const lumcore::UTF16String& inExcept) const;
+
   bool HasNamedWorkspace(const lumcore::UTF16String& inName) const;
   std::size_t GetNumberWorkspaces() const;
 

@@ -1,0 +1,82 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "lumworkspace/workspace/PlatformMenuHelper.h"
+
+#include <algorithm>
+
+#include "lumcore/debug/Contract.h"
+#include "lumui/ui/OS_Menu.h"
+#include "lumworkspace/workspace/CommandCheckStyle.h"
+#include "lumworkspace/workspace/ManagerBase.h"
+
+namespace lumworkspace::workspace {
+
+using lumcore::UTF16String;
+using lumui::ui::OS_Menu;
+
+namespace {
+
+// A single '&' would mark a mnemonic, and a tab begin another column.
+UTF16String MenuText(const UTF16String& inName) {
+  UTF16String text;
+  for (const unsigned short unit : inName) {
+    if (unit == '&') text += unit;
+    text += unit == '\t' ? static_cast<unsigned short>(' ') : unit;
+  }
+  return text;
+}
+
+}  // namespace
+
+PlatformMenuHelper::PlatformMenuHelper(ManagerBase& inManager, HMENU inMenu, int inFirstCommand,
+                                       int inLastCommand)
+    : mManager(inManager),
+      mMenu(inMenu),
+      mFirstCommand(inFirstCommand),
+      mLastCommand(inLastCommand) {
+  LUM_INPUT_CONTRACT(inFirstCommand > 0 && inLastCommand >= inFirstCommand);
+  for (int command = inFirstCommand; command <= inLastCommand; ++command)
+    SetCommandCheckStyle(command, true);
+}
+
+PlatformMenuHelper::~PlatformMenuHelper() {
+  for (int command = mFirstCommand; command <= mLastCommand; ++command)
+    SetCommandCheckStyle(command, false);
+}
+
+void PlatformMenuHelper::WorkspacesChanged() {
+  for (; mItems > 0; --mItems)
+    OS_Menu::RemoveItem(mMenu, 0);
+  mNames = mManager.GetWorkspaceNames();
+  const auto commands = static_cast<std::size_t>(mLastCommand - mFirstCommand) + 1;
+  mNames.resize(std::min(mNames.size(), commands));
+  const UTF16String current = mManager.GetCurrentWorkspace();
+  const bool others = OS_Menu::GetItemCount(mMenu) > 0;
+  for (const UTF16String& name : mNames) {
+    const unsigned id = static_cast<unsigned>(mFirstCommand) + mItems;
+    if (!OS_Menu::InsertItem(mMenu, mItems, lumui::ui::kMenuTypeRadio, id, MenuText(name))) return;
+    OS_Menu::CheckItem(mMenu, mItems, mManager.HasCurrentWorkspace() && name == current);
+    ++mItems;
+  }
+  if (!others || mNames.empty()) return;
+  OS_Menu::InsertItem(mMenu, mItems, lumui::ui::kMenuTypeSeparator, 0, UTF16String());
+  ++mItems;
+}
+
+bool PlatformMenuHelper::IsWorkspaceCommand(int inCommand) const {
+  return inCommand >= mFirstCommand && inCommand <= mLastCommand;
+}
+
+UTF16String PlatformMenuHelper::WorkspaceNameForCmd(int inCommand) const {
+  if (!IsWorkspaceCommand(inCommand)) return UTF16String();
+  const auto index = static_cast<std::size_t>(inCommand - mFirstCommand);
+  return index < mNames.size() ? mNames[index] : UTF16String();
+}
+
+void PlatformMenuHelper::HandleCommand(int inCommand) {
+  const UTF16String name = WorkspaceNameForCmd(inCommand);
+  if (!name.empty()) mManager.SetCurrentWorkspace(name);
+}
+
+}  // namespace lumworkspace::workspace
