@@ -33,10 +33,7 @@ inline std::string AsText(const tv::Rect& inRect) {
 // asked. A flag that is set shows as "!"; timers are counted from the first.
 class RecordingPlatformView : public tv::PlatformView {
  public:
-  using Point = tv::Point;
-  using Rect = tv::Rect;
-
-  RecordingPlatformView(EventLog& inLog, const Point& inSize) : mSize(inSize), mLog(inLog) {}
+  RecordingPlatformView(EventLog& inLog, const tv::Point& inSize) : mSize(inSize), mLog(inLog) {}
 
   tv::TrackView& Show(bool inCentering, float inMin, float inMax) {
     std::auto_ptr<tv::TrackView> view(new tv::TrackView(*this, inCentering, inMin, inMax));
@@ -46,16 +43,20 @@ class RecordingPlatformView : public tv::PlatformView {
 
   using PlatformView::DataPos;
   using PlatformView::SetEmptiesPositionListeners;
-  void GlobalToLocal(Point& ioPoint) const override { ioPoint = ioPoint - Point(1000, 2000); }
-  void LocalToGlobal(Point& ioPoint) const override { ioPoint = ioPoint + Point(1000, 2000); }
-  void InvalidateDataRect(const Rect& inRect) override { mLog.Add("draw:" + AsText(inRect)); }
-  void ValidateDataRect(const Rect&) override {}
-  Point DataSize() const override {
-    const Point factor = GetTrackView()->GetCoordFactor();
-    const float scale = GetTrackView()->GetCoordScale();
-    return Point(mSize.x / (factor.x * scale), mSize.y / (factor.y * scale));
+  void GlobalToLocal(tv::Point& ioPoint) const override {
+    ioPoint = ioPoint - tv::Point(1000, 2000);
   }
-  Point DataPos() const override { return mPosition; }
+  void LocalToGlobal(tv::Point& ioPoint) const override {
+    ioPoint = ioPoint + tv::Point(1000, 2000);
+  }
+  void InvalidateDataRect(const tv::Rect& inRect) override { mLog.Add("draw:" + AsText(inRect)); }
+  void ValidateDataRect(const tv::Rect&) override {}
+  tv::Point DataSize() const override {
+    const tv::Point factor = GetTrackView()->GetCoordFactor();
+    const float scale = GetTrackView()->GetCoordScale();
+    return tv::Point(mSize.x / (factor.x * scale), mSize.y / (factor.y * scale));
+  }
+  tv::Point DataPos() const override { return mPosition; }
   unsigned char GetClickCount() override { return 1; }
   const lumui::drawbot::SupplierInterface* GetDrawSupplier() const override { return nullptr; }
   void DisplayResized(bool inRedraw) override { mLog.Add(inRedraw ? "resized!" : "resized"); }
@@ -70,11 +71,11 @@ class RecordingPlatformView : public tv::PlatformView {
   }
   bool IsTracking() const override { return false; }
 
-  Point mSize;
-  Point mPosition;
+  tv::Point mSize;
+  tv::Point mPosition;
 
  private:
-  void DoDataPos(const Point& inPoint, bool inFlag) override {
+  void DoDataPos(const tv::Point& inPoint, bool inFlag) override {
     mPosition = inPoint;
     mLog.Add("pos:" + AsText(inPoint) + (inFlag ? "!" : ""));
   }

@@ -88,8 +88,6 @@ class ScriptedOverlay : public tv::Overlay {
   void MouseExitEvent() override { Does("exit"); }
   bool DoWantsDragDropEvents() const override { return Does("drops"); }
 
-  const std::string& Name() const { return mName; }
-
   bool mTakes = false;
   std::map<std::string, std::function<void()>> mOn;
   std::function<tv::Tracker*()> mMakeTracker;
