@@ -10,6 +10,7 @@
 #include "lumcore/utility/ScopedValue.h"
 #include "lumui/ui/Application.h"
 #include "lumui/ui/OS_Frame.h"
+#include "lumui/ui/OS_Menu.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
@@ -229,7 +230,7 @@ LRESULT OS_AppBase::MainWndProc(HWND inWindow, unsigned inMessage, WPARAM inWPar
     }
     case lumui::ui::kMessageInitMenuPopup:
       if (app) {
-        const HMENU menu = reinterpret_cast<HMENU>(inWParam);
+        const HMENU menu = lumui::ui::OS_Menu::OfParameter(inWParam);
         lumcore::config::ExecuteTopLevelFunction([app, menu] { app->RebuildMenuState(menu); });
       }
       return 0;

@@ -117,6 +117,10 @@ bool OS_Menu::Destroy(HMENU inMenu) {
   return true;
 }
 
+HMENU OS_Menu::OfParameter(WPARAM inParameter) {
+  return reinterpret_cast<HMENU>(inParameter);
+}
+
 bool OS_Menu::IsMenu(HMENU inMenu) {
   return FindMenu(inMenu) != nullptr;
 }

@@ -28,9 +28,9 @@ class LUMCORE_API DebugDatabase {
  public:
   static DebugDatabase& Instance();
 
-  // A value of the file takes the place of one of the same name; all others stay. A file that is not
-  // there holds none. Throws FileError, and config::Error with file and line for a line of another
-  // form; the values then stay as they were.
+  // A value of the file takes the place of one of the same name; all others stay. A file that is
+  // not there holds none. Throws FileError, and config::Error with file and line for a line of
+  // another form; the values then stay as they were.
   void Load(const filesupport::File& inFile);
   void Clear();
 

@@ -69,6 +69,8 @@ class LUMUI_API OS_Menu {
   // With the menus that it opens, and those below.
   static bool Destroy(HMENU inMenu);
   static bool IsMenu(HMENU inMenu);
+  // The menu that kMessageInitMenuPopup names by its first parameter.
+  static HMENU OfParameter(WPARAM inParameter);
 
   // kMenuFailed for what is no menu: look before you loop.
   static unsigned GetItemCount(HMENU inMenu);
