@@ -36,7 +36,7 @@ boost::intrusive_ptr<PlatformScrollView> PlatformScrollView::Create() {
   std::auto_ptr<TrackView> trackView(new TrackView(*view, false, 1, 1));
   view->SetTrackView(trackView);
   view->UI_Show(true);
-  const boost::intrusive_ptr<PlatformScrollView> scroll(new PlatformScrollView(Flags(), view));
+  boost::intrusive_ptr<PlatformScrollView> scroll(new PlatformScrollView(Flags(), view));
   scroll->UI_Show(true);
   return scroll;
 }

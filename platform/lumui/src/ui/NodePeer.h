@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <QPointF>
 #include <QPaintEvent>
+#include <QPointF>
 #include <QPointer>
 #include <QVariant>
 #include <QWidget>
