@@ -26,8 +26,6 @@ constexpr double kLargestBarRange = 1 << 30;
 
 }  // namespace
 
-UI_InteractiveControlChangedMessage::~UI_InteractiveControlChangedMessage() = default;
-
 UI_ScrollBar::Peer::Peer(bool inHorizontal) : NodePeer(Kind::kNative), mHorizontal(inHorizontal) {}
 
 QWidget* UI_ScrollBar::Peer::DoMakeWidget(QWidget* inParent) {

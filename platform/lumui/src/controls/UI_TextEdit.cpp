@@ -5,101 +5,213 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPointer>
+#include <algorithm>
 #include <memory>
-#include <utility>
 
+#include "controls/ControlPeer.h"
+#include "controls/EditWidget.h"
 #include "drawbot/QtConvert.h"
-#include "lumcore/utility/ScopedValue.h"
-#include "ui/EventGate.h"
-#include "ui/NodePeer.h"
+#include "lumcore/debug/Contract.h"
 
 namespace lumui::controls {
 
-// The text is kept here too: the widget is made late, and may be gone before the node.
-class UI_TextEdit::Peer : public ui::NodePeer {
- public:
-  explicit Peer(bool inManyLines) : NodePeer(Kind::kNative), mManyLines(inManyLines) {}
-
-  void SetText(const QString& inText) {
-    const lumcore::utility::StScopedValue<bool> applying(mApplying, true);
-    mText = inText;
-    if (mLine) mLine->setText(inText);
-    if (mMany) mMany->setPlainText(inText);
-    if (mLine) mText = mLine->text();
+bool IsEditingKey(QKeyEvent& inEvent) {
+  for (const auto key : {QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste,
+                         QKeySequence::Undo, QKeySequence::Redo, QKeySequence::SelectAll}) {
+    if (inEvent.matches(key)) return true;
   }
-  void SetReadOnly(bool inReadOnly) {
-    mReadOnly = inReadOnly;
-    if (mLine) mLine->setReadOnly(inReadOnly);
-    if (mMany) mMany->setReadOnly(inReadOnly);
+  const Qt::KeyboardModifiers modifiers = inEvent.modifiers();
+  if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) return false;
+  const bool chord = modifiers & Qt::ControlModifier;
+  switch (inEvent.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+      return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      return !chord;
+    default:
+      return !chord && !inEvent.text().isEmpty() && inEvent.text().at(0).isPrint();
   }
-  void SelectAll() {
-    if (mLine) mLine->selectAll();
-    if (mMany) mMany->selectAll();
-  }
-  const QString& GetText() const { return mText; }
+}
 
-  std::function<void()> mChanged;
-
+class TextEditPeer : public ControlPeer {
  private:
-  QWidget* DoMakeWidget(QWidget* inParent) override {
-    if (mManyLines) {
-      mMany = new ui::NodeWidgetT<QPlainTextEdit>(*this, inParent);
-      mMany->setTabChangesFocus(true);
-      QObject::connect(mMany, &QPlainTextEdit::textChanged, mMany,
-                       [this] { TakeText(mMany->toPlainText()); });
-    } else {
-      mLine = new ui::NodeWidgetT<QLineEdit>(*this, inParent);
-      QObject::connect(mLine, &QLineEdit::textChanged, mLine,
-                       [this](const QString& inText) { TakeText(inText); });
-    }
-    SetText(mText);
-    SetReadOnly(mReadOnly);
-    return mManyLines ? static_cast<QWidget*>(mMany) : mLine;
-  }
-  void TakeText(const QString& inText) {
-    if (mApplying) return;
-    mText = inText;
-    const auto changed = mChanged;
-    if (changed) ui::EventGate::Get()->RunGuarded(changed);
+  using LineEdit = EditWidgetT<QLineEdit>;
+  using TextArea = EditWidgetT<QPlainTextEdit>;
+
+  UI_TextEdit& Edit() const { return static_cast<UI_TextEdit&>(GetControl()); }
+
+  QWidget* DoMakeControl(QWidget* inParent) override {
+    return Edit().IsMultiLine() ? MakeTextArea(inParent) : MakeLineEdit(inParent);
   }
 
-  bool mManyLines;
-  bool mReadOnly = false;
-  bool mApplying = false;
-  QString mText;
-  QPointer<QLineEdit> mLine;
-  QPointer<QPlainTextEdit> mMany;
+  QWidget* MakeLineEdit(QWidget* inParent) {
+    auto* const edit = new ControlWidgetT<LineEdit, QStyleOptionFrame>(*this, inParent);
+    edit->mOnEnter = [this] {
+      ByUser([&] { Edit().Commit(); });
+      return !IsInDialog();
+    };
+    ConnectEscape(*edit);
+    QObject::connect(edit, &QLineEdit::textEdited, edit, [this](const QString& inText) {
+      ByUser([&] { Edit().HandleEdited(drawbot::FromQt(inText)); });
+    });
+    QObject::connect(edit, &QLineEdit::editingFinished, edit,
+                     [this] { ByUser([&] { Edit().Commit(); }); });
+    const auto select = [this, edit] {
+      const int start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+      KeepSelection(start, start + edit->selectionLength());
+    };
+    QObject::connect(edit, &QLineEdit::selectionChanged, edit, select);
+    QObject::connect(edit, &QLineEdit::cursorPositionChanged, edit, select);
+    return edit;
+  }
+
+  QWidget* MakeTextArea(QWidget* inParent) {
+    // The keyboard leaves it with the Tab key, as it leaves all other controls.
+    auto* const edit = new ui::NodeWidgetT<Area>(*this, inParent);
+    edit->setTabChangesFocus(true);
+    ConnectEscape(*edit);
+    edit->mOnFocusLost = [this] { ByUser([&] { Edit().Commit(); }); };
+    QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this, edit] {
+      const lumcore::UTF16String text = drawbot::FromQt(edit->toPlainText());
+      // Composing with an input method changes how the text looks, and not the text.
+      if (text != Edit().GetText()) ByUser([&] { Edit().HandleEdited(text); });
+    });
+    const auto select = [this, edit] {
+      const QTextCursor cursor = edit->textCursor();
+      KeepSelection(cursor.selectionStart(), cursor.selectionEnd());
+    };
+    QObject::connect(edit, &QPlainTextEdit::selectionChanged, edit, select);
+    QObject::connect(edit, &QPlainTextEdit::cursorPositionChanged, edit, select);
+    return edit;
+  }
+
+  class Area : public TextArea {
+   public:
+    using TextArea::TextArea;
+    std::function<void()> mOnFocusLost;
+
+   protected:
+    void focusOutEvent(QFocusEvent* inEvent) override {
+      TextArea::focusOutEvent(inEvent);
+      const Qt::FocusReason reason = inEvent->reason();
+      if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) return;
+      // A widget without signals has lost its node.
+      if (!signalsBlocked()) mOnFocusLost();
+    }
+  };
+
+  template <class Widget>
+  void ConnectEscape(Widget& ioWidget) {
+    ioWidget.mOnEscape = [this] {
+      bool kept = false;
+      if (!IsInDialog()) ByUser([&] { kept = Edit().Revert(); });
+      return kept;
+    };
+  }
+
+  void KeepSelection(int inStart, int inEnd) {
+    if (Edit().IsShowingState()) return;
+    Edit().mSelectionStart = static_cast<std::size_t>(inStart);
+    Edit().mSelectionEnd = static_cast<std::size_t>(inEnd);
+  }
 };
 
-UI_TextEdit::UI_TextEdit(bool inManyLines) : UI_SubView(std::make_unique<Peer>(inManyLines)) {
+UI_TextEdit::UI_TextEdit(bool inMultiLine)
+    : UI_InteractiveControlView(std::make_unique<TextEditPeer>()), mMultiLine(inMultiLine) {
   UI_SetNodeID("UI_TextEdit");
 }
 
 UI_TextEdit::~UI_TextEdit() = default;
 
-UI_TextEdit::Peer& UI_TextEdit::GetTextPeer() const {
-  return static_cast<Peer&>(*GetPeer());
-}
-
 void UI_TextEdit::SetText(const lumcore::UTF16String& inText) {
-  GetTextPeer().SetText(drawbot::ToQt(inText));
+  mText = inText;
+  if (!mMultiLine) std::replace(mText.begin(), mText.end(), '\n', ' ');
+  mCommittedText = mText;
+  mUncommitted = false;
+  mSelectionStart = mSelectionEnd = mText.size();
+  ShowState();
 }
 
-lumcore::UTF16String UI_TextEdit::GetText() const {
-  return drawbot::FromQt(GetTextPeer().GetText());
+void UI_TextEdit::SetMultiLine(bool inMultiLine) {
+  LUM_INPUT_CONTRACT(!GetPeer()->GetWidget() || inMultiLine == mMultiLine);
+  mMultiLine = inMultiLine;
 }
 
 void UI_TextEdit::SetReadOnly(bool inReadOnly) {
-  GetTextPeer().SetReadOnly(inReadOnly);
+  mReadOnly = inReadOnly;
+  ShowState();
 }
 
-void UI_TextEdit::SelectAll() {
-  GetTextPeer().SelectAll();
+void UI_TextEdit::SetPlaceholder(const lumcore::UTF16String& inText) {
+  mPlaceholder = inText;
+  ShowState();
 }
 
-void UI_TextEdit::SetChangedFunction(std::function<void()> inFunction) {
-  GetTextPeer().mChanged = std::move(inFunction);
+void UI_TextEdit::SetFontSize(float inSize) {
+  mFontSize = inSize;
+  ShowState();
+}
+
+void UI_TextEdit::SetSelection(std::size_t inStart, std::size_t inEnd) {
+  mSelectionEnd = std::min(inEnd, mText.size());
+  mSelectionStart = std::min(inStart, mSelectionEnd);
+  ShowState();
+}
+
+void UI_TextEdit::HandleEdited(const lumcore::UTF16String& inText) {
+  mText = inText;
+  mUncommitted = true;
+  TellChanged(UI_InteractiveControlChangedMessage::kChanging, true);
+}
+
+void UI_TextEdit::Commit() {
+  if (!mUncommitted) return;
+  mUncommitted = false;
+  mCommittedText = mText;
+  TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+}
+
+bool UI_TextEdit::Revert() {
+  if (mText == mCommittedText) return false;
+  SetText(mCommittedText);
+  TellChanged(UI_InteractiveControlChangedMessage::kChanging, true);
+  return true;
+}
+
+void UI_TextEdit::DoShowState() {
+  QWidget* const widget = GetPeer()->GetWidget();
+  const QString text = drawbot::ToQt(mText);
+  const int start = static_cast<int>(mSelectionStart);
+  const int end = static_cast<int>(mSelectionEnd);
+  ApplyFontSize(*widget, mFontSize);
+  widget->setFocusPolicy(UI_WantsKeyboardFocus() ? Qt::WheelFocus : Qt::NoFocus);
+  if (auto* const line = qobject_cast<QLineEdit*>(widget)) {
+    if (line->text() != text) line->setText(text);
+    line->setReadOnly(mReadOnly);
+    line->setPlaceholderText(drawbot::ToQt(mPlaceholder));
+    const bool shown = line->cursorPosition() == end && line->selectionLength() == end - start;
+    if (shown) return;
+    line->setCursorPosition(end);
+    if (end > start) line->setSelection(start, end - start);
+    return;
+  }
+  auto* const area = static_cast<QPlainTextEdit*>(widget);
+  if (area->toPlainText() != text) area->setPlainText(text);
+  area->setReadOnly(mReadOnly);
+  area->setPlaceholderText(drawbot::ToQt(mPlaceholder));
+  QTextCursor cursor = area->textCursor();
+  if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+  cursor.setPosition(start);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  area->setTextCursor(cursor);
 }
 
 }  // namespace lumui::controls

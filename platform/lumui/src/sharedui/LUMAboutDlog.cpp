@@ -3,75 +3,119 @@
 
 #include "lumui/sharedui/LUMAboutDlog.h"
 
-#include <QGuiApplication>
-#include <QScreen>
+#include <QElapsedTimer>
+#include <QPalette>
+#include <QWindow>
 #include <algorithm>
 
+#include "drawbot/QtConvert.h"
+#include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
-#include "lumui/ui/Application.h"
+#include "lumui/ui/Fonts.h"
+#include "lumui/ui/KeyboardEvent.h"
+#include "lumui/ui/PointerEvent.h"
+#include "ui/NodePeer.h"
 
 namespace lumui::sharedui {
 
 namespace {
 
-constexpr int kWidth = 420;
-constexpr int kHeight = 200;
-constexpr float kMargin = 32;
-constexpr float kNameSize = 28;
-constexpr float kDetailsSize = 12;
-constexpr float kNameHeight = 48;
-constexpr float kLineHeight = 18;
-constexpr drawbot::ColorRGBA kGround(0.16f, 0.17f, 0.19f);
-constexpr drawbot::ColorRGBA kName(0.94f, 0.94f, 0.95f);
-constexpr drawbot::ColorRGBA kDetails(0.70f, 0.72f, 0.75f);
+using Rect = lumcore::geom::RectT<float>;
 
-lumcore::geom::RectT<int> MiddleOfScreen() {
-  const QScreen* const screen = QGuiApplication::primaryScreen();
-  if (!screen) return {0, 0, kWidth, kHeight};
-  const QRect area = screen->availableGeometry();
-  return {area.x() + (area.width() - kWidth) / 2, area.y() + (area.height() - kHeight) / 2, kWidth,
-          kHeight};
+constexpr float kMargin = 24;
+constexpr float kLeastWidth = 360;
+constexpr float kNameFontSize = 26;
+constexpr float kLineSpacing = 1.5f;  // of the font's size
+constexpr int kLongestWaitMilliseconds = 500;
+
+drawbot::ColorRGBA ColorOf(QPalette::ColorRole inRole) {
+  return drawbot::FromQt(QGuiApplication::palette().color(inRole));
 }
 
 }  // namespace
 
+LUMAboutDlog::LUMAboutDlog(const Content& inContent, ui::UI_Node* inParent)
+    : UI_Dialog(lumcore::UTF16String(inContent.name), inParent), mContent(inContent) {
+  UI_SetNodeID("LUMAboutDlog");
+  // The text is drawn by the window itself.
+  GetContent().UI_Show(false);
+  float width = kLeastWidth;
+  float top = kMargin;
+  if (mContent.picture) {
+    width = std::max(width, mContent.picture->GetWidth());
+    top += mContent.picture->GetHeight() + kMargin;
+  }
+  const auto addLine = [&](const lumcore::UTF16String& inText, float inFontSize) {
+    mLines.push_back({inText, inFontSize, top});
+    const auto font = drawbot::GetDefaultSupplier()->NewFont(nullptr, inFontSize);
+    width = std::max(width, font->MeasureWidthOnce(inText) + 2 * kMargin);
+    top += inFontSize * kLineSpacing;
+  };
+  const float size = ui::GetFontSize(0);
+  addLine(mContent.name, kNameFontSize);
+  if (!mContent.version.empty()) addLine(mContent.version, size);
+  if (!mContent.text.empty()) top += size;
+  for (std::size_t at = 0; at < mContent.text.size();) {
+    const std::size_t end = std::min(mContent.text.find('\n', at), mContent.text.size());
+    addLine(mContent.text.substr(at, end - at), size);
+    at = end + 1;
+  }
+  UI_SetWindowStyleFlags(0);
+  SetSize(width, top + kMargin);
+}
+
 LUMAboutDlog::LUMAboutDlog(const lumcore::UTF16String& inName,
                            const lumcore::UTF16String& inDetails)
-    : OS_Window(nullptr, false), mName(inName), mDetails(inDetails) {
-  UI_SetWindowStyleFlags(0);
-  UI_SetTitle(inName);
-}
+    : LUMAboutDlog(Content{nullptr, inName, lumcore::UTF16String(), inDetails}) {}
 
 LUMAboutDlog::~LUMAboutDlog() = default;
 
-// The start that it covers handles no events, so it is painted here and now.
 void LUMAboutDlog::Show(bool inShow) {
-  if (inShow) {
-    const auto place = MiddleOfScreen();
-    UI_ConstructWindow(&place);
-  }
+  if (inShow) PlaceInMiddle();
   UI_Show(inShow);
-  if (inShow) ui::Application::Get()->PumpPendingEvents();
+  const QWindow* const native = inShow ? GetPeer()->GetWidget()->windowHandle() : nullptr;
+  QElapsedTimer waited;
+  waited.start();
+  while (native && !native->isExposed() && waited.elapsed() < kLongestWaitMilliseconds) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+  UI_UpdateNow(lumcore::utility::Flags<unsigned int>());
 }
 
-void LUMAboutDlog::UI_Draw(drawbot::Drawbot* ioDrawbot) const {
-  const auto& area = UI_GetLocalRectF();
-  ioDrawbot->FillRect({0, 0, area.width, area.height}, kGround);
-  const auto* supplier = ioDrawbot->GetSupplier();
-  const auto large = supplier->NewFont(nullptr, kNameSize, drawbot::FontStyle::kBold);
-  const auto small = supplier->NewFont(nullptr, kDetailsSize);
-  float top = kMargin;
-  const float room = std::max(0.0f, area.width - 2 * kMargin);
-  ioDrawbot->DrawStringInRect(mName, large, kName, {kMargin, top, room, kNameHeight});
-  top += kNameHeight;
-  for (std::size_t start = 0; start < mDetails.size();) {
-    const std::size_t end = std::min(mDetails.find('\n', start), mDetails.size());
-    ioDrawbot->DrawStringInRect(mDetails.substr(start, end - start), small, kDetails,
-                                {kMargin, top, room, kLineHeight});
-    top += kLineHeight;
-    start = end + 1;
+void LUMAboutDlog::UI_Draw(drawbot::Drawbot* inDrawbot) const {
+  const float width = GetBounds().width;
+  const float height = GetBounds().height;
+  const drawbot::SupplierInterface& supplier = *inDrawbot->GetSupplier();
+  inDrawbot->FillRect(Rect(0, 0, width, height), supplier.NewBrush(ColorOf(QPalette::Base)));
+  if (mContent.picture) {
+    // One as wide as the window is a banner; a smaller one is an icon over the texts.
+    const float inset = mContent.picture->GetWidth() < width ? kMargin : 0;
+    inDrawbot->DrawImage(*mContent.picture, lumcore::geom::PointT<float>(inset, inset));
   }
+  const drawbot::ColorRGBA ink = ColorOf(QPalette::Text);
+  for (const Line& line : mLines) {
+    inDrawbot->DrawStringInRect(
+        line.text, supplier.NewFont(nullptr, line.fontSize), ink,
+        Rect(kMargin, line.top, width - 2 * kMargin, line.fontSize * kLineSpacing));
+  }
+  inDrawbot->StrokeRect(Rect(0.5f, 0.5f, width - 1, height - 1),
+                        supplier.NewPen(ColorOf(QPalette::Mid)));
+}
+
+bool LUMAboutDlog::UI_DoMouseEvent(ui::UI_Node*, const ui::MouseEvent& inEvent) {
+  if (inEvent.GetAction() != ui::PointerEvent::kActionPress) return false;
+  EndDialog(kOK);
+  return true;
+}
+
+bool LUMAboutDlog::UI_DoKeyboardEvent(ui::UI_Node* inNode, const ui::KeyboardEvent& inEvent) {
+  if (UI_Dialog::UI_DoKeyboardEvent(inNode, inEvent)) {
+    // There is no button for Enter to press.
+    EndDialog(kOK);
+    return true;
+  }
+  return false;
 }
 
 }  // namespace lumui::sharedui

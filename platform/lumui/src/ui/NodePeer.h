@@ -77,7 +77,9 @@ class LUMUI_API NodePeer {
   void ApplySize(int inWidth, int inHeight);
   void ApplyVisible();
   void ApplyDisabled();
-  void ApplyToolTip();
+  virtual void ApplyToolTip();
+  // After UI_SetWantsKeyboardFocus; a drawn node is asked when it matters.
+  virtual void ApplyWantsFocus() {}
 
   // Added to positions in the widget, for the content of a scroll view.
   void SetContentOrigin(const lumcore::geom::PointT<double>& inOrigin) {
@@ -92,6 +94,8 @@ class LUMUI_API NodePeer {
   bool HandleEvent(QEvent& inEvent);  // true if Qt's class shall not see it
   void Paint(const QRect& inDamage);
   bool MoveFocus(bool inForward);
+  // Of a window: gives the keyboard to the first node that wants it, if nobody has it.
+  void FocusFirst();
   bool WantsInputMethod();
 
  protected:

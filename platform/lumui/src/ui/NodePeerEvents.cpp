@@ -246,6 +246,14 @@ bool NodePeer::MoveFocus(bool inForward) {
   return true;
 }
 
+void NodePeer::FocusFirst() {
+  const QWidget* const current = mWidget->focusWidget();
+  if (current && current != mWidget) return;
+  std::vector<UI_Node*> stops;
+  EventGate::Get()->RunGuarded([&] { CollectTabStops(*mNode, stops); });
+  if (!stops.empty()) stops[0]->GetPeer()->GetWidget()->setFocus(Qt::TabFocusReason);
+}
+
 bool NodePeer::WantsInputMethod() {
   bool wants = false;
   EventGate::Get()->RunGuarded([&] { wants = mNode->UI_WantsKeyboardFocus(); });

@@ -196,6 +196,7 @@ bool UI_Node::UI_HasKeyboardFocus() const {
 
 void UI_Node::UI_SetWantsKeyboardFocus(bool inWants) {
   mWantsFocus = inWants;
+  mPeer->ApplyWantsFocus();
 }
 
 void UI_Node::UI_SetWantsPrePointerEvents(bool inWants) {

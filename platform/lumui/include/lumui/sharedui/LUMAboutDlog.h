@@ -3,26 +3,47 @@
 
 #pragma once
 
-#include "lumui/ui/OS_Window.h"
+#include <boost/intrusive_ptr.hpp>
+
+#include "lumcore/Strings.h"
+#include "lumui/drawbot/Image.h"
+#include "lumui/ui/UI_Dialog.h"
 
 namespace lumui::sharedui {
 
-// A picture of the application that stands on screen while it starts, or until a press: a window
-// without a frame in the middle of the screen. Dropping the last reference ends it.
-class LUMUI_API LUMAboutDlog : public ui::OS_Window {
+// A picture with the name of the application, its version and some lines, in a window without a
+// frame. As a splash screen it is shown with Show and ends when the last reference is dropped; as
+// an about box it runs as the dialog that it is, and a click, Enter or Escape ends it.
+class LUMUI_API LUMAboutDlog : public ui::UI_Dialog {
  public:
-  // Texts are the user's: the name is drawn large, the details below it, line by line.
+  struct Content {
+    boost::intrusive_ptr<drawbot::ImageInterface> picture;  // above the texts; null for none
+    lumcore::UTF16String name;
+    lumcore::UTF16String version;
+    lumcore::UTF16String text;  // lines end with '\n'
+  };
+
+  explicit LUMAboutDlog(const Content& inContent, ui::UI_Node* inParent = nullptr);
+  // Texts alone.
   LUMAboutDlog(const lumcore::UTF16String& inName, const lumcore::UTF16String& inDetails);
   ~LUMAboutDlog() override;
 
+  // What it shows is on the screen when this returns: the start of an application has no loop yet.
   void Show(bool inShow);
 
- protected:
-  void UI_Draw(drawbot::Drawbot* ioDrawbot) const override;
+  void UI_Draw(drawbot::Drawbot* inDrawbot) const override;
+  bool UI_DoMouseEvent(ui::UI_Node* inNode, const ui::MouseEvent& inEvent) override;
+  bool UI_DoKeyboardEvent(ui::UI_Node* inNode, const ui::KeyboardEvent& inEvent) override;
 
  private:
-  lumcore::UTF16String mName;
-  lumcore::UTF16String mDetails;
+  struct Line {
+    lumcore::UTF16String text;
+    float fontSize;
+    float top;
+  };
+
+  Content mContent;
+  std::vector<Line> mLines;
 };
 
 }  // namespace lumui::sharedui
