@@ -7,6 +7,7 @@
 #include "lumui/controls/UI_ScrollBar.h"
 #include "lumui/testing/VirtualClock.h"
 #include "trackview/RealView.h"
+#include "vek/trackview/LUMPlatformViewAdapter.h"
 
 namespace {
 
@@ -129,6 +130,17 @@ TEST_F(PlatformViews, ShowAgainWhatAPressWouldDo) {
   EXPECT_EQ(Take(), "");
   View().DoNonMouseTrack(false);
   EXPECT_EQ(Take(), "v:acquire?@60,70 hover@60,70 ~tracker");
+}
+
+TEST_F(PlatformViews, ComeWholeOutOfArchives) {
+  auto& adapters = lumui::ui::UI_NodeAdapterRegistry::Get();
+  adapters.Register(std::make_unique<LUMPlatformViewAdapter>());
+  EXPECT_EQ(adapters.FindFor(*mScroll).GetClassName(), "vek::LUMPlatformView");
+  const auto node = adapters.Find("vek::LUMPlatformView")->CreateNode(lumui::ui::NodeSource());
+  lumui::ui::UI_NodeAdapterRegistry::Reset();
+  auto& view = dynamic_cast<PlatformScrollView&>(*node).GetPlatformView();
+  view.GetTrackView()->SetCoordScale(2, true, Point(-1, -1));
+  EXPECT_EQ(view.GetTrackView()->GetCoordScale(), 1);
 }
 
 }  // namespace
