@@ -15,6 +15,8 @@
 #include "vek/app/MultiDocApplication.h"
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/document/FileBasedDocument.h"
+#include "vek/hierarchyview/DynamicHierarchyEntry.h"
+#include "vek/hierarchyview/HierarchyGeometry.h"
 #include "vek/selection/Junction.h"
 #include "vek/selection/Manager.h"
 #include "vek/selection/Restorer.h"
@@ -102,6 +104,18 @@ struct AppProbe : vek::app::MultiDocApplication {
   }
 };
 
+struct EntryProbe : vek::hierarchyview::DynamicHierarchyEntry {
+  static std::string Get() {
+    void (EntryProbe::*const setMarquee)(bool) = &EntryProbe::HasMarquee;
+    return Positions(
+        &EntryProbe::GetNodeState, &EntryProbe::SetNodeState, setMarquee, &EntryProbe::GetNodeIcon,
+        &EntryProbe::GetNodeFont, &EntryProbe::SortChildren, &EntryProbe::ResortChildren,
+        &EntryProbe::HasSortAxis, &EntryProbe::GetCellText, &EntryProbe::Selected,
+        &EntryProbe::CanExpand, &EntryProbe::CanCollapse, &EntryProbe::GetDataAsSelNode,
+        &EntryProbe::BuildChildList, &EntryProbe::ClearChildList, &EntryProbe::EntryStateChanged);
+  }
+};
+
 TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   using vek::selection::Junction;
   using vek::selection::Manager;
@@ -128,6 +142,13 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
     all += std::to_string(position) + " ";
   EXPECT_EQ(AppProbe::Get(), all);
   EXPECT_EQ(AppProbe::GetOfDocuments(), "55 56 57 ");
+  EXPECT_EQ(EntryProbe::Get(), "5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 ");
+  // The destructor stands behind them.
+  using Geometry = vek::hierarchyview::HierarchyGeometry;
+  EXPECT_EQ(Positions(&Geometry::EntryLevel, &Geometry::EntryWidthHeight, &Geometry::begin,
+                      &Geometry::end, &Geometry::beginDeep, &Geometry::endDeep, &Geometry::rbegin,
+                      &Geometry::rend),
+            "0 1 2 3 4 5 6 7 ");
   // The destructor stands second.
   EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
 }

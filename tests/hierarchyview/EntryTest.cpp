@@ -1,0 +1,149 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include <boost/make_shared.hpp>
+#include <memory>
+
+#include "support/EventLog.h"
+#include "support/RecordingJunction.h"
+#include "support/TestTree.h"
+#include "vek/hierarchyview/DynamicHierarchyEntry.h"
+#include "vek/selection/Manager.h"
+
+namespace {
+
+using namespace test_support;
+using vek::hierarchyview::CompareFunction;
+using vek::hierarchyview::DynamicHierarchyEntry;
+
+// By the first letter without its case, so that a and A are equal and keep their order. Attribute 2
+// turns the order round.
+const auto kByLetter = boost::make_shared<CompareFunction>(
+    [](unsigned int inAttribute, const HierarchyEntryBase* inA, const HierarchyEntryBase* inB) {
+      const int order = std::tolower(NameOf(inA)[0]) - std::tolower(NameOf(inB)[0]);
+      return inAttribute == 2 ? order > 0 : order < 0;
+    });
+
+void Add(const EntryP& inParent, char inName, bool inResort) {
+  inParent->AddChild(new NamedEntry(std::string(1, inName), inParent.get()), inResort);
+}
+
+TEST(Entries, StandAtTheEndWithoutAnAxisAndInFrontWithOne) {
+  const EntryP root = ReadTree("r [c]");
+  Add(root, 'a', true);
+  EXPECT_EQ(ShapeOf(*root), "r [c a]");
+  root->SortChildren(1, true, kByLetter);
+  Add(root, 'b', false);
+  Add(root, 'd', false);
+  EXPECT_EQ(ShapeOf(*root), "r [d b a c]");
+  root->ResortChildren();
+  EXPECT_EQ(ShapeOf(*root), "r [a b c d]");
+  Add(root, 'A', true);
+  EXPECT_EQ(ShapeOf(*root), "r [A a b c d]");
+}
+
+// The open and the closed, but not below one that only has the base.
+TEST(Sorting, CoversTheWholeSubtreeAndIsRemembered) {
+  class Unsortable : public Named<HierarchyEntryBase> {
+   public:
+    using Named::Named;
+    void SortChildren(unsigned int const&, bool, boost::shared_ptr<CompareFunction>) override {}
+    void ResortChildren() override {}
+    bool HasSortAxis() const override { return false; }
+    bool Selected(vek::selection::Manager*) const override { return false; }
+    vek::selection::Node* GetDataAsSelNode() const override { return nullptr; }
+  };
+  const EntryP root = ReadTree("r [c [b B a [y x]] A [f e] a]");
+  const EntryP plain(new Unsortable("b", root.get()));
+  Add(plain, 'z', false);
+  Add(plain, 'y', false);
+  root->AddChild(plain, false);
+
+  root->SortChildren(1, true, kByLetter);
+  EXPECT_EQ(ShapeOf(*root), "r [A [e f] a b [z y] c [a [x y] b B]]");
+  root->SortChildren(1, false, kByLetter);
+  EXPECT_EQ(ShapeOf(*root), "r [c [b B a [y x]] b [z y] A [f e] a]");
+  Add(Find(root, 'A'), 'g', true);
+  EXPECT_EQ(ShapeOf(*Find(root, 'A')), "A [g f e]");
+  root->SortChildren(2, false, kByLetter);
+  EXPECT_EQ(ShapeOf(*root), "r [A [e f g] a b [z y] c [a [x y] b B]]");
+}
+
+TEST(Sorting, WithoutAFunctionFailsOrDoesNothingAndLosesNoChild) {
+  const EntryP root = ReadTree("r [c [b a]]");
+  EXPECT_THROW(root->SortChildren(3, true, nullptr), boost::bad_function_call);
+  Add(root, 'a', true);
+  EXPECT_EQ(NameOf(root->GetChildren().front().get()), "a");
+  EXPECT_THROW(root->SortChildren(3, true, boost::make_shared<CompareFunction>()),
+               boost::bad_function_call);
+  EXPECT_EQ(root->GetChildren().size() + Find(root, 'c')->GetChildren().size(), 4U);
+}
+
+// A host's destructor runs when the entry is out of the list already, and may look there.
+TEST(Removing, TakesTheFirstThatIsTheEntryAndFollowsNoPointer) {
+  struct LooksBack : NamedEntry {
+    using NamedEntry::NamedEntry;
+    ~LooksBack() override { mLog->Add(mName + ":" + ShapeOf(*GetParent())); }
+    EventLog* mLog = nullptr;
+  };
+  EventLog log;
+  const EntryP root = ReadTree("r [a b]");
+  auto* const parent = static_cast<NamedEntry*>(root.get());
+  for (const char* name : {"x", "y"}) {
+    auto* const entry = new LooksBack(name, parent);
+    entry->mLog = &log;
+    parent->AddChild(entry, false);
+  }
+  parent->AddChild(Find(root, 'a'), false);
+  parent->RemoveChild(nullptr);
+  parent->RemoveChild(reinterpret_cast<HierarchyEntryBase*>(&log));
+  EXPECT_EQ(ShapeOf(*root), "r [a b x y a]");
+  parent->RemoveChild(Find(root, 'a'));
+  parent->RemoveChild(Find(root, 'x'));
+  EXPECT_EQ(ShapeOf(*root), "r [b y a]");
+  parent->RemoveAllChildren();
+  EXPECT_EQ(log.Take(), "x:r [b y a] y:r");
+}
+
+TEST(DynamicEntries, BuildAndDropTheirChildrenAtEverySetting) {
+  struct Folder : Named<DynamicHierarchyEntry> {
+    using Named::Named;
+    void BuildChildList() override { Add("build"); }
+    void ClearChildList() override { Add("clear"); }
+    void EntryStateChanged() override { Add("changed"); }
+    void Add(const std::string& inEvent) { mLog.Add(inEvent + std::to_string(GetNodeState())); }
+    EventLog mLog;
+  };
+  const boost::intrusive_ptr<Folder> folder(new Folder("f", nullptr, kNodeCollapsed));
+  for (const ENodeState state : {kNodeExpanded, kNodeExpanded, kNodeCollapsed})
+    folder->SetNodeState(state);
+  EXPECT_EQ(folder->mLog.Take(), "build1 changed1 build1 changed1 clear0 changed0");
+}
+
+TEST(Entries, AnswerForTheSelectionByTheirDataOrByThemselves) {
+  struct OfData : NamedEntry {
+    using NamedEntry::NamedEntry;
+    vek::selection::Node* GetDataAsSelNode() const override { return mData; }
+    vek::selection::Node* mData = nullptr;
+  };
+  struct Both : OfData, vek::selection::Node {
+    using OfData::OfData;
+  };
+  RecordingJunction junction;
+  NamedNodes nodes;
+  const boost::intrusive_ptr<vek::selection::Manager> manager(
+      new vek::selection::Manager(&junction));
+  const boost::intrusive_ptr<Both> entry(new Both("e", nullptr));
+  junction.mKnown = {entry.get()};
+  manager->SelectAll();
+  EXPECT_TRUE(entry->Selected(manager.get()));
+  entry->mData = nodes.Get('a');  // goes before the entry itself
+  EXPECT_FALSE(entry->Selected(manager.get()));
+  manager->ToggleSelectables({nodes.Get('a')}, vek::selection::eSendMessages);
+  EXPECT_TRUE(entry->Selected(manager.get()));
+  EXPECT_FALSE(ReadTree("r")->Selected(manager.get()));
+}
+
+}  // namespace

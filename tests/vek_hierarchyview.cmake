@@ -1,0 +1,7 @@
+vek_test(vek_hierarchyview_tests
+  SOURCES
+    hierarchyview/EntryTest.cpp
+    hierarchyview/GeometryTest.cpp
+    hierarchyview/RowGeometryTest.cpp
+    hierarchyview/WalkFuzzTest.cpp
+  LIBRARIES vek)

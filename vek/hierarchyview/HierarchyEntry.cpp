@@ -1,0 +1,60 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "vek/hierarchyview/HierarchyEntry.h"
+
+#include <utility>
+
+#include "vek/hierarchyview/TreeListComparator.h"
+#include "vek/selection/Manager.h"
+#include "vek/selection/Node.h"
+
+namespace vek::hierarchyview {
+
+HierarchyEntry::HierarchyEntry(ENodeState const& inState, HierarchyEntryBase* inParent)
+    : HierarchyEntryBase(inState, inParent) {}
+
+HierarchyEntry::HierarchyEntry(ENodeState const& inState, HierarchyEntryBase* inParent,
+                               List const& inChildren)
+    : HierarchyEntryBase(inState, inParent, inChildren) {}
+
+void HierarchyEntry::SortChildren(unsigned int const& inAxis, bool inAscending,
+                                  boost::shared_ptr<CompareFunction> inCompare) {
+  mCompareFunction = inCompare;
+  TreeListComparator comparator(inAxis, inAscending, std::move(inCompare));
+  SortChildrenImpl_(inAxis, inAscending, comparator);
+}
+
+void HierarchyEntry::ResortChildren() {
+  if (mSortAxis == 0 || !mCompareFunction) return;
+  TreeListComparator comparator(mSortAxis, mSortAscending, mCompareFunction);
+  SortChildrenImpl_(mSortAxis, mSortAscending, comparator);
+}
+
+bool HierarchyEntry::HasSortAxis() const {
+  return mSortAxis != 0;
+}
+
+bool HierarchyEntry::Selected(selection::Manager* inManager) const {
+  const selection::Node* node = GetDataAsSelNode();
+  if (!node) node = dynamic_cast<const selection::Node*>(this);
+  return node && inManager->Selected(node);
+}
+
+selection::Node* HierarchyEntry::GetDataAsSelNode() const {
+  return nullptr;
+}
+
+void HierarchyEntry::SortChildrenImpl_(unsigned int const& inAxis, bool inAscending,
+                                       TreeListComparator& inComparator) {
+  mSortAxis = inAxis;
+  mSortAscending = inAscending;
+  mCompareFunction = inComparator.GetCompareFunction();
+  SortList(inComparator);
+  for (const auto& child : GetChildren()) {
+    auto* entry = dynamic_cast<HierarchyEntry*>(child.get());
+    if (entry) entry->SortChildrenImpl_(inAxis, inAscending, inComparator);
+  }
+}
+
+}  // namespace vek::hierarchyview
