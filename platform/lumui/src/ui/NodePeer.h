@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPaintEvent>
 #include <QPointF>
 #include <QPointer>
 #include <QVariant>
@@ -91,7 +92,7 @@ class LUMUI_API NodePeer {
 
   // Of the widget's overrides.
   bool HandleEvent(QEvent& inEvent);  // true if Qt's class shall not see it
-  void Paint();
+  void Paint(const QRect& inDamage);
   // On behalf of a widget on the way of a key to the window. False leaves it to the walk.
   bool MoveFocusFromWidget(bool inForward);
   bool MoveFocus(bool inForward);
@@ -158,7 +159,7 @@ class NodeWidgetT : public Base, public NodeWidgetLink {
   }
   void paintEvent(QPaintEvent* inEvent) override {
     if (mPeer && mPeer->IsDrawn()) {
-      mPeer->Paint();
+      mPeer->Paint(inEvent->rect());
     } else {
       Base::paintEvent(inEvent);
     }

@@ -209,12 +209,13 @@ void NodePeer::HandleGeometry() {
   EventGate::Get()->RunGuarded([&] { mNode->UI_SetLocalRectF(drawbot::FromQt(QRectF(geometry))); });
 }
 
-void NodePeer::Paint() {
+// The clip's bounds are those of the damage, so that a node with a large content draws little.
+void NodePeer::Paint(const QRect& inDamage) {
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   QWidget* const widget = mWidget;
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
-  const QRectF bounds = QRectF(widget->rect().adjusted(0, mChromeHeight, 0, 0))
+  const QRectF bounds = QRectF(inDamage & widget->rect().adjusted(0, mChromeHeight, 0, 0))
                             .translated(mContentOrigin.x, mContentOrigin.y);
   const lumcore::utility::StScopedValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {

@@ -16,6 +16,7 @@
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
+#include "ui/QtEvents.h"
 #include "ui/WindowRegistry.h"
 
 namespace lumui::ui {
@@ -109,6 +110,10 @@ void UI_NodeManager::EndInputCapture(bool inCancelled) {
 
 InputCapture* UI_NodeManager::GetInputCapture() const {
   return mImpl->capture.Get();
+}
+
+unsigned UI_NodeManager::GetHeldButtons() const {
+  return ButtonsFromQt(QGuiApplication::mouseButtons());
 }
 
 UI_Node* UI_NodeManager::GetFocusNode() const {

@@ -47,6 +47,9 @@ class LUMUI_API UI_NodeManager {
   // Does nothing if none runs.
   void EndInputCapture(bool inCancelled);
   InputCapture* GetInputCapture() const;  // null if none runs
+  // The PointerEvent buttons that are down. A release that went to a box or a menu, or that a modal
+  // window has kept from the nodes, counts as well.
+  unsigned GetHeldButtons() const;
 
   UI_Node* GetFocusNode() const;  // null if no node of ours has the keyboard
   // The cursor over our windows, until the next move of the pointer asks anew.

@@ -1,0 +1,106 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <set>
+
+#include "lumui/ui/UI_SubView.h"
+#include "vek/config/Export.h"
+#include "vek/trackview/Gesture.h"
+#include "vek/trackview/PlatformView.h"
+
+namespace lumui::controls {
+class UI_InteractiveControlChangedMessage;
+class UI_ScrollView;
+}  // namespace lumui::controls
+namespace lumui::ui {
+struct OS_Event;
+}
+
+namespace vek::trackview {
+
+// The platform view on the node layer: the content of a scroll view, which is the nearest one
+// around it, or a plain node without one. Every event of the node enters the track view here. It is
+// held by reference, and stays until the event in which it is dropped has been handled; a gesture
+// that runs then ends by the capture's end, and one without a capture goes without its end.
+//
+// Exceptions of overlays and trackers pass through to the node layer.
+class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformView {
+ public:
+  LUMPlatformView();
+  // Deletes the tracker and then the track view, while their calls are still answered.
+  ~LUMPlatformView() override;
+
+  void UI_SetLocalRectF(const Rect& inRect) override;
+  void UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const override;
+  bool UI_DoMouseEvent(lumui::ui::UI_Node* inNode, const lumui::ui::MouseEvent& inEvent) override;
+  // The cursor is for the tracker that hovers, in the move that follows.
+  bool UI_DoCursor(lumui::ui::UI_Node* inNode, const lumui::ui::MouseEvent& inEvent) override;
+  // System keys are left to the window.
+  bool UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode,
+                          const lumui::ui::KeyboardEvent& inEvent) override;
+  bool UI_WantsKeyboardFocus() const override;
+  void UI_DoTimerNotify(unsigned int inTimerID) override;
+  void UI_FocusChanged(int inReason) override;
+
+  virtual void UpdateNow();
+  // What the scroll view shows, in local space. Not TrackView::LocalArea, which goes through data.
+  virtual Rect LocalArea() const;
+  // Shows what a press would do where the pointer was last, as a move does. For hosts, after the
+  // content has changed under the pointer. Nothing in the middle of a gesture.
+  virtual void DoNonMouseTrack(bool inOnlyIfInside);
+  // UTF-16. -1 and null take the interface's own size and font.
+  virtual float MeasureStringWidth(const unsigned short* inText, int inLength,
+                                   const unsigned short* inFontName, float inFontSize) const;
+
+  using PlatformView::DataPos;
+  void GlobalToLocal(Point& ioPoint) const override;
+  void LocalToGlobal(Point& ioPoint) const override;
+  void InvalidateDataRect(const Rect& inDataRect) override;
+  void ValidateDataRect(const Rect& inDataRect) override;
+  Point DataSize() const override;
+  Point DataPos() const override;
+  unsigned char GetClickCount() override;
+  const lumui::drawbot::SupplierInterface* GetDrawSupplier() const override;
+  void DisplayResized(bool inRedraw) override;
+  void StartTimer(unsigned int inTimerID, float inInterval) override;
+  void StopTimer(unsigned int inTimerID) override;
+  std::auto_ptr<lumui::datatransfer::OS_SendDataBase> GetSendData() override;
+  bool IsTracking() const override;
+
+  // Whether the Tab key stops here; it does at start. A press takes the focus in either case.
+  void SetWantsKeyboardFocus(bool inWants) { mWantsKeyboardFocus = inWants; }
+  // Null but while one is handled.
+  const lumui::ui::MouseEvent* GetCurrentMouseEvent() const { return mCurrentMouseEvent; }
+
+ private:
+  friend class LUMTrackerCapture;
+  friend class PlatformScrollView;
+  class StCurrentEvent;
+
+  void DoDataPos(const Point& inDataPoint, bool inFlag) override;
+
+  void ButtonDownHelper(Modifiers inModifiers, const Point& inDataPoint,
+                        const lumui::ui::MouseEvent& inEvent);
+  void ScrollBarChanged(lumui::controls::UI_InteractiveControlChangedMessage* inMessage);
+  Point NotePointer(const lumui::ui::MouseEvent& inEvent);
+  void ShowContextMenu(const Point& inLocalPoint);
+
+  lumui::controls::UI_ScrollView* FindScrollView() const;
+  Point GetScrollOrigin() const;  // (0, 0) without a scroll view
+  Point ToData(const Point& inLocalPoint) const;
+
+  unsigned char mClickCount = 1;
+  [[maybe_unused]] bool mReserved = false;
+  bool mWantsKeyboardFocus = true;
+  bool mRightButtonPending = false;
+  const lumui::ui::MouseEvent* mCurrentMouseEvent = nullptr;
+  Gesture mGesture;
+  const lumui::ui::OS_Event* mCurrentOSEvent = nullptr;
+  Point mLastDataPoint;
+  Modifiers mLastModifiers;
+  std::set<unsigned int> mTimers;  // that run
+};
+
+}  // namespace vek::trackview
