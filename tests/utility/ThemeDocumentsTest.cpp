@@ -3,13 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <memory>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -34,17 +34,18 @@ constexpr float kPositions[] = {0.0f, 0.5f, 0.5001f, 1.0f};
 using Keys = std::map<std::string, int>;
 
 std::size_t Entities(const std::string& inDocument) {
-  static const std::regex sEntity("<!ENTITY ");
-  return static_cast<std::size_t>(
-      std::distance(std::sregex_iterator(inDocument.begin(), inDocument.end(), sEntity), {}));
+  return static_cast<std::size_t>(QString::fromStdString(inDocument).count("<!ENTITY "));
 }
 
 // The names that stand for whole numbers, which are the keys; values have a point.
 Keys KeysIn(const std::string& inText, const char* inPattern) {
-  const std::regex pattern(inPattern);
+  const QString text = QString::fromStdString(inText);
+  const QRegularExpression pattern(inPattern);
   Keys keys;
-  for (std::sregex_iterator it(inText.begin(), inText.end(), pattern), end; it != end; ++it) {
-    EXPECT_TRUE(keys.emplace((*it)[1], std::stoi((*it)[2])).second) << (*it)[1] << " twice";
+  for (auto it = pattern.globalMatch(text); it.hasNext();) {
+    const QRegularExpressionMatch match = it.next();
+    const std::string name = match.captured(1).toStdString();
+    EXPECT_TRUE(keys.emplace(name, match.captured(2).toInt()).second) << name << " twice";
   }
   return keys;
 }
