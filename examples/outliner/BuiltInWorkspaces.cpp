@@ -63,9 +63,9 @@ UTF8String Layout(const PropList& inRoot) {
 UTF8String WritingLayout() {
   const auto [width, height] =
       std::pair(BuiltInWorkspaces::GetWindowSize().x, BuiltInWorkspaces::GetWindowSize().y);
-  return Layout(Items("column", width,
-                      {Group(height - kNotesHeight, {OutlinePanel()}),
-                       Group(kNotesHeight, {NotesPanel(), CommandsPanel()})}));
+  return Layout(
+      Items("column", width,
+            {Group(height - kNotesHeight, {OutlinePanel()}), Group(kNotesHeight, {NotesPanel()})}));
 }
 
 UTF8String NotesLayout() {

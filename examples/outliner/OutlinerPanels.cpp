@@ -34,6 +34,10 @@ using namespace lumworkspace::workspace;
 
 namespace {
 
+// Of panels that the workspace has no place for.
+constexpr int kNotesHeight = 170;
+constexpr int kCommandsWidth = 380;
+
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
@@ -61,10 +65,12 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
       OutlinePanel(), "$$$/outliner/Panel/Outline=Outline", place, [this] { return mFrame; }));
   place.besideType = OutlinePanel();
   place.where = TabPlace::kBelow;
+  place.size = kNotesHeight;
   inWorkspace->RegisterTabCreator(new PanelCreator(
       NotesPanel(), "$$$/outliner/Panel/Notes=Notes", place,
       [this] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new NotesView(GetOutline())); }));
   place.where = TabPlace::kRightOf;
+  place.size = kCommandsWidth;
   inWorkspace->RegisterTabCreator(
       new PanelCreator(CommandsPanel(), "$$$/outliner/Panel/Commands=Commands", place, [this] {
         return boost::intrusive_ptr<lumui::ui::UI_SubView>(
