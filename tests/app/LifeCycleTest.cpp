@@ -6,6 +6,10 @@
 #include <stdexcept>
 
 #include "lumcore/config/ClientInfo.h"
+#include "lumui/testing/SyntheticInput.h"
+#include "lumui/ui/Executor.h"
+#include "lumui/ui/UI_NodeManager.h"
+#include "lumui/ui/UI_SubView.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "support/RecordingApp.h"
 #include "support/TemporaryFolder.h"
@@ -60,6 +64,43 @@ TEST_F(LifeCycle, CallsEveryHookInItsOrder) {
   EXPECT_EQ(vek::uisupport::FindMainWindow(), nullptr);
   EXPECT_EQ(lumui::ui::Theme::Get(), nullptr);
   EXPECT_EQ(lumui::skins::core::SkinManager::GetDefaultSet(), nullptr);
+}
+
+class LoggingSplash : public lumui::sharedui::LUMAboutDlog {
+ public:
+  explicit LoggingSplash(test_support::EventLog& outLog)
+      : LUMAboutDlog(test_support::Text("Recorder"), {}), mLog(outLog) {}
+  ~LoggingSplash() override { mLog.Add("~splash"); }
+  void UI_Draw(lumui::drawbot::Drawbot*) const override { mLog.Add("splash"); }
+
+ private:
+  test_support::EventLog& mLog;
+};
+
+class LoggingView : public lumui::ui::UI_SubView {
+ public:
+  explicit LoggingView(test_support::EventLog& outLog) : mLog(outLog) {}
+  void UI_Draw(lumui::drawbot::Drawbot*) const override { mLog.Add("main"); }
+
+ private:
+  test_support::EventLog& mLog;
+};
+
+TEST_F(LifeCycle, TheFirstPaintComesBehindTheSplashScreenAndBeforeTheFirstTurnOfTheLoop) {
+  RecordingApp app(mFolder.GetPath("prefs"));
+  test_support::EventLog painted;
+  app.mSplashScreen = [&] { return new LoggingSplash(painted); };
+  app.mWhenApplied = [&] {
+    const boost::intrusive_ptr<lumui::ui::UI_Node> view(new LoggingView(painted));
+    view->UI_SetLocalRectF(lumcore::geom::RectT<float>(0, 0, 50, 50));
+    app.GetWorkspace()->GetMainTopLevelWindow()->UI_AddChild(view);
+    lumui::ui::UI_NodeManager::Get(true)->GetExecutor()->Post([&] { painted.Add("turn"); });
+  };
+  ASSERT_TRUE(app.Start());
+  EXPECT_EQ(painted.Take(), "splash main ~splash");
+  lumui::testing::ProcessEvents();
+  EXPECT_EQ(painted.Take(), "turn");
+  app.Terminate();
 }
 
 TEST_F(LifeCycle, ASecondApplicationIsRefusedAndTheFirstStaysWhole) {
