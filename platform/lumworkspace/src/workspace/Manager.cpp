@@ -63,7 +63,7 @@ File Manager::FileOf(const Name& inName) const {
 
 UTF16String Manager::PathOf(const Name& inName) const {
   const File file = FileOf(inName);
-  return file.Exists() ? file.GetFullPath() : inName;
+  return file.Exists() ? file.FullPath() : inName;
 }
 
 bool Manager::IsBuiltIn(const Name& inName) const {
