@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QSessionManager>
 #include <QUrl>
 #include <QWidget>
 #include <QWindow>
@@ -253,10 +254,19 @@ void ActivateWindow(ui::OS_Window* inWindow) {
                                      Qt::ActiveWindowFocusReason);
 }
 
-bool EndSession() {
+bool AskSessionEnd() {
   ui::EventGate* const gate = ui::EventGate::Get();
   LUM_INPUT_CONTRACT(gate != nullptr);
-  if (!gate->AskSessionEnd()) return false;
+  // The one that Qt has made for itself.
+  auto* const session = gate->findChild<QSessionManager*>();
+  LUM_INPUT_CONTRACT(session != nullptr);
+  emit gate->commitDataRequest(*session);
+  return gate->IsSessionEnding();
+}
+
+bool EndSession() {
+  if (!AskSessionEnd()) return false;
+  ui::EventGate* const gate = ui::EventGate::Get();
   QEvent quit(QEvent::Quit);
   QCoreApplication::sendEvent(gate, &quit);
   return true;
