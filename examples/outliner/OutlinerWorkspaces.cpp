@@ -18,7 +18,6 @@ namespace outliner {
 using lumcore::UTF16String;
 using lumcore::filesupport::Dir;
 using lumcore::filesupport::File;
-using lumworkspace::workspace::Manager;
 
 OutlinerWorkspaces::OutlinerWorkspaces(
     lumworkspace::workspace::Workspace& inWorkspace,
