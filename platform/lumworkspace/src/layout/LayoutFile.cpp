@@ -176,10 +176,6 @@ class Reader {
 
 }  // namespace
 
-bool IsOfLaterVersion(const PropList& inList) {
-  return inList.Get<std::int32_t>("Version", 0) > kVersion;
-}
-
 PropList ToPropList(const Layout& inLayout) {
   PropList list;
   list.Set("Version", kVersion);
