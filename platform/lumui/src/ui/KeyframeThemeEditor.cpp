@@ -16,6 +16,7 @@ using KeyFrame = KeyframeThemeEditor::KeyFrame;
 
 namespace {
 
+constexpr std::size_t kUsualFrames = 4;  // two families with two ends
 constexpr ColorRGBA kUnknownColor(1.0f, 0.0f, 1.0f);
 
 float Blend(float inFrom, float inTo, float inShare) {
@@ -78,6 +79,7 @@ void KeyframeThemeEditor::SetKeyFrame(int inColor, const KeyFrame& inFrame) {
   Entry& entry = index < mFixed.size() ? mFixed[index] : mFurther[inColor];
   entry.isResolved = false;
   Frames& frames = entry.frames;
+  if (frames.empty()) frames.reserve(kUsualFrames);
   const auto place = std::lower_bound(
       frames.begin(), frames.end(), inFrame.position,
       [](const KeyFrame& inOther, float inPosition) { return inOther.position < inPosition; });
