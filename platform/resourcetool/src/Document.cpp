@@ -125,16 +125,14 @@ void AddResolved(std::string_view inText, const Entities& inEntities, std::strin
   }
 }
 
-void AddTag(Scanner& ioScanner, const Entities& inEntities, std::string& ioResult) {
-  while (!ioScanner.IsAtEnd()) {
-    ioResult += ioScanner.TakeUpTo("\"'>");
-    if (ioScanner.IsAtEnd()) return;
-    if (ioScanner.GetRest().front() == '>') {
-      ioResult += ioScanner.Take(1);
-      return;
-    }
-    AddResolved(ioScanner.TakeQuoted(), inEntities, ioResult);
+void AddTag(std::string_view inTag, const Entities& inEntities, std::string& ioResult) {
+  const bool isEmptyElement = inTag.size() > 2 && inTag.substr(inTag.size() - 2) == "/>";
+  Scanner scanner(inTag);
+  while (isEmptyElement && !scanner.IsAtEnd()) {
+    ioResult += scanner.TakeUpTo("\"'");
+    if (!scanner.IsAtEnd()) AddResolved(scanner.TakeQuoted(), inEntities, ioResult);
   }
+  ioResult += scanner.GetRest();
 }
 
 }  // namespace
@@ -156,7 +154,8 @@ QByteArray ResolveEntities(const QByteArray& inDocument) {
       scanner.TakeThrough(">");
       result += before.substr(0, before.size() - scanner.GetRest().size());
     } else if (before.front() == '<') {
-      AddTag(scanner, entities, result);
+      scanner.SkipTag();
+      AddTag(before.substr(0, before.size() - scanner.GetRest().size()), entities, result);
     } else {
       result += scanner.TakeUpTo("<");
     }
