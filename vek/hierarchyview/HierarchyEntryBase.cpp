@@ -12,6 +12,16 @@
 
 namespace vek::hierarchyview {
 
+namespace {
+
+std::uint64_t gShapeVersion = 0;
+
+void ShapeChanged() {
+  ++gShapeVersion;
+}
+
+}  // namespace
+
 HierarchyEntryBase::HierarchyEntryBase(ENodeState const& inState, HierarchyEntryBase* inParent)
     : mState(inState), mParent(inParent) {}
 
@@ -23,6 +33,7 @@ HierarchyEntryBase::HierarchyEntryBase(ENodeState const& inState, HierarchyEntry
 }
 
 HierarchyEntryBase::~HierarchyEntryBase() {
+  ShapeChanged();
   RemoveAllChildren();
 }
 
@@ -32,6 +43,7 @@ ENodeState HierarchyEntryBase::GetNodeState() {
 
 void HierarchyEntryBase::SetNodeState(ENodeState inState) {
   mState = inState;
+  ShapeChanged();
 }
 
 void HierarchyEntryBase::HasMarquee(bool inHasMarquee) {
@@ -45,6 +57,7 @@ lumui::drawbot::FontP HierarchyEntryBase::GetNodeFont(lumui::drawbot::Drawbot* /
 void HierarchyEntryBase::AddChild(boost::intrusive_ptr<HierarchyEntryBase> const& inChild,
                                   bool inResort) {
   LUM_INPUT_CONTRACT(inChild.get() != nullptr);
+  ShapeChanged();
   if (!HasSortAxis()) {
     EnterPosition(mChildren.insert(mChildren.end(), inChild));
     return;
@@ -56,6 +69,7 @@ void HierarchyEntryBase::AddChild(boost::intrusive_ptr<HierarchyEntryBase> const
 void HierarchyEntryBase::SetParent(HierarchyEntryBase* inParent) {
   mParent = inParent;
   mIsPlaced = false;
+  ShapeChanged();
 }
 
 HierarchyEntryBase* HierarchyEntryBase::GetNextSibling() const {
@@ -80,6 +94,7 @@ HierarchyEntryBase* HierarchyEntryBase::GetPreviousSibling() const {
 void HierarchyEntryBase::RemoveChild(HierarchyEntryBase const* inEntry) {
   const auto place = std::find(mChildren.begin(), mChildren.end(), inEntry);
   if (place == mChildren.end()) return;
+  ShapeChanged();
   // It goes at the end of this scope, when it stands in the list no longer: its destructor is the
   // host's and may look here.
   List removed;
@@ -88,6 +103,7 @@ void HierarchyEntryBase::RemoveChild(HierarchyEntryBase const* inEntry) {
 }
 
 void HierarchyEntryBase::RemoveAllChildren() {
+  ShapeChanged();
   List removed;
   removed.swap(mChildren);
   LeavePositions(removed);
@@ -95,17 +111,24 @@ void HierarchyEntryBase::RemoveAllChildren() {
 
 HierarchyEntryBase::List::iterator HierarchyEntryBase::child_begin() {
   mHandedOut = true;
+  ShapeChanged();
   return mChildren.begin();
 }
 
 HierarchyEntryBase::List::iterator HierarchyEntryBase::child_end() {
   mHandedOut = true;
+  ShapeChanged();
   return mChildren.end();
 }
 
 void HierarchyEntryBase::SortList(TreeListComparator const& inComparator) {
+  ShapeChanged();
   // By reference: a merge would copy the comparator, and with it a counted pointer, many times.
   mChildren.sort(std::cref(inComparator));
+}
+
+std::uint64_t HierarchyEntryBase::GetShapeVersion() {
+  return gShapeVersion;
 }
 
 void HierarchyEntryBase::EnterPosition(List::iterator inPlace) {

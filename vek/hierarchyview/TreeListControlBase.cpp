@@ -5,7 +5,10 @@
 
 namespace vek::hierarchyview {
 
-TreeListControlBase::TreeListControlBase() = default;
+TreeListControlBase::TreeListControlBase(trackview::TrackView* inTrackView, bool inHideRoot,
+                                         unsigned short inIndent, bool inIsSingleSelect,
+                                         bool inAllowsDragOut)
+    : TreeControlBase(inTrackView, inHideRoot, inIndent, inIsSingleSelect, inAllowsDragOut) {}
 
 TreeListControlBase::~TreeListControlBase() = default;
 

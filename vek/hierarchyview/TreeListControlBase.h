@@ -10,10 +10,11 @@
 
 namespace vek::hierarchyview {
 
-// What shows a tree with columns, as far as its geometry asks it: how wide the columns are.
+// Shows a tree whose rows have columns.
 class VEK_API TreeListControlBase : public TreeControlBase {
  public:
-  TreeListControlBase();
+  TreeListControlBase(trackview::TrackView* inTrackView, bool inHideRoot, unsigned short inIndent,
+                      bool inIsSingleSelect, bool inAllowsDragOut);
   ~TreeListControlBase() override;
 
   float GetTotalColumnWidth() const;
