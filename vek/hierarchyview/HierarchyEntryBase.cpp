@@ -16,6 +16,12 @@ namespace vek::hierarchyview {
 
 namespace {
 
+std::uint64_t gShapeVersion = 0;
+
+void ShapeChanged() {
+  ++gShapeVersion;
+}
+
 // Lets the children of dying entries go one after the other, each when the ones before it are gone
 // altogether: a child that dies in here leaves its own children to the loop that runs.
 void LetGo(HierarchyEntryBase::List& ioEntries) {
@@ -45,6 +51,7 @@ HierarchyEntryBase::HierarchyEntryBase(ENodeState const& inState, HierarchyEntry
 }
 
 HierarchyEntryBase::~HierarchyEntryBase() {
+  ShapeChanged();
   List orphans;
   orphans.swap(mChildren);
   LeavePositions(orphans);
@@ -62,6 +69,7 @@ void HierarchyEntryBase::SetNodeState(ENodeState inState) {
   if (mState == inState) return;
   mState = inState;
   RowIndex::RowsChanged(*this);
+  ShapeChanged();
 }
 
 void HierarchyEntryBase::HasMarquee(bool inHasMarquee) {
@@ -75,6 +83,7 @@ lumui::drawbot::FontP HierarchyEntryBase::GetNodeFont(lumui::drawbot::Drawbot* /
 void HierarchyEntryBase::AddChild(boost::intrusive_ptr<HierarchyEntryBase> const& inChild,
                                   bool inResort) {
   LUM_INPUT_CONTRACT(inChild.get() != nullptr);
+  ShapeChanged();
   if (!HasSortAxis()) {
     EnterPosition(mChildren.insert(mChildren.end(), inChild));
     RowIndex::ChildAppended(*this, *inChild);
@@ -88,6 +97,7 @@ void HierarchyEntryBase::AddChild(boost::intrusive_ptr<HierarchyEntryBase> const
 void HierarchyEntryBase::SetParent(HierarchyEntryBase* inParent) {
   LosePlace();
   mParent = inParent;
+  ShapeChanged();
 }
 
 HierarchyEntryBase* HierarchyEntryBase::GetNextSibling() const {
@@ -112,6 +122,7 @@ HierarchyEntryBase* HierarchyEntryBase::GetPreviousSibling() const {
 void HierarchyEntryBase::RemoveChild(HierarchyEntryBase const* inEntry) {
   const auto place = std::find(mChildren.begin(), mChildren.end(), inEntry);
   if (place == mChildren.end()) return;
+  ShapeChanged();
   // It goes at the end of this scope, when it stands in the list no longer: its destructor is the
   // host's and may look here.
   List removed;
@@ -121,6 +132,7 @@ void HierarchyEntryBase::RemoveChild(HierarchyEntryBase const* inEntry) {
 }
 
 void HierarchyEntryBase::RemoveAllChildren() {
+  ShapeChanged();
   List removed;
   removed.swap(mChildren);
   RowIndex::OrderChanged(*this);
@@ -129,18 +141,25 @@ void HierarchyEntryBase::RemoveAllChildren() {
 
 HierarchyEntryBase::List::iterator HierarchyEntryBase::child_begin() {
   HandOut();
+  ShapeChanged();
   return mChildren.begin();
 }
 
 HierarchyEntryBase::List::iterator HierarchyEntryBase::child_end() {
   HandOut();
+  ShapeChanged();
   return mChildren.end();
 }
 
 void HierarchyEntryBase::SortList(TreeListComparator const& inComparator) {
+  ShapeChanged();
   // By reference: a merge would copy the comparator, and with it a counted pointer, many times.
   RowIndex::OrderChanged(*this);
   mChildren.sort(std::cref(inComparator));
+}
+
+std::uint64_t HierarchyEntryBase::GetShapeVersion() {
+  return gShapeVersion;
 }
 
 void HierarchyEntryBase::EnterPosition(List::iterator inPlace) {

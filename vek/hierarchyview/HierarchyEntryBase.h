@@ -99,6 +99,9 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   bool StandsOnlyUnder(HierarchyEntryBase const* inParent) const {
     return mParent == inParent && KnowsPlace();
   }
+  // Another one after every change of the shape of any tree in the process, and after the end of
+  // any entry: who remembers rows tells by it whether they may still be followed.
+  static std::uint64_t GetShapeVersion();
 
  protected:
   friend class TreeControlBase;
