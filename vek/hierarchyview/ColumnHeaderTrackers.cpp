@@ -80,7 +80,8 @@ void ColumnHeaderArrowTracker::ContinueTracking(Modifiers inModifiers, const Poi
   const bool hasMoved = inDataPoint.x != mStartPoint.x || inDataPoint.y != mStartPoint.y;
   if (!mDelegate && hasMoved && mPressedColumn != 0 && mView->GetNumberOfColumns() > 2) {
     mDelegate.reset(new MoveColumnHeaderTracker(mTrackView, mHeader, mPressedColumn, mView));
-    mDelegate->BeginTracking(inModifiers, inDataPoint, false);
+    // From where the press was, so that the title does not lag behind the pointer.
+    mDelegate->BeginTracking(inModifiers, mStartPoint, false);
   }
   if (mDelegate) mDelegate->ContinueTracking(inModifiers, inDataPoint);
   mLastPoint = inDataPoint;
