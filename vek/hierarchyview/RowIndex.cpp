@@ -9,7 +9,6 @@
 
 #include "vek/hierarchyview/NodeStateSlot.h"
 #include "vek/hierarchyview/RowBranch.h"
-#include "vek/hierarchyview/RowWalk.h"
 #include "vek/hierarchyview/TreeControlBase.h"
 #include "vek/hierarchyview/TreeListControlBase.h"
 
@@ -232,18 +231,6 @@ void RowIndex::ChildLeaves(HierarchyEntryBase& ioEntry, HierarchyEntryBase& ioCh
     }
   }
   RowsChanged(ioEntry);
-}
-
-HierarchyGeometry::iterator FindRow(HierarchyGeometry& ioGeometry,
-                                    HierarchyEntryBase const* inEntry) {
-  if (const std::optional<RowIndex> index = RowIndex::Of(ioGeometry)) {
-    const std::optional<RowIndex::Row> row = index->Find(inEntry);
-    return row ? index->GetIterator(*row) : ioGeometry.end();
-  }
-  for (RowWalk row(ioGeometry); !row.AtEnd(); row.Next()) {
-    if (row.GetEntry() == inEntry) return row.GetIterator();
-  }
-  return ioGeometry.end();
 }
 
 }  // namespace vek::hierarchyview

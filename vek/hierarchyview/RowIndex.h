@@ -61,8 +61,4 @@ class VEK_API RowIndex {
   Row mCount;
 };
 
-// On the row of an entry, or end(): by the index, or by a walk where there is none.
-VEK_API HierarchyGeometry::iterator FindRow(HierarchyGeometry& ioGeometry,
-                                            HierarchyEntryBase const* inEntry);
-
 }  // namespace vek::hierarchyview
