@@ -65,9 +65,10 @@ class Tree : public TreeListControlBase {
       if (isGroup) parent = line;
     }
     mBytesPerRow = static_cast<double>(mallinfo2().uordblks - before) / kRows;
-    mColumns.emplace_back(0U, 300.0f, 0.0f, lumcore::UTF16String(), nullptr);
+    InsertColumn(0U, 300.0f, 0.0f, nullptr, nullptr);
   }
 
+  void ResizeHierarchy() override {}
   int NumSelectedEntries() override { return 0; }
   vek::selection::Manager* GetSelectionManager() const override { return nullptr; }
   vek::selection::Manager* GetSelectionManager() override { return nullptr; }

@@ -126,9 +126,10 @@ class TestControl : public vek::hierarchyview::TreeListControlBase {
     SetRootEntry(inRoot);
     SetFont(lumui::drawbot::FontP(new FixedFont));
     for (const float width : {60.0f, 40.5f})
-      mColumns.emplace_back(0U, width, 0.0f, lumcore::UTF16String(), nullptr);
+      InsertColumn(0U, width, 0.0f, nullptr, nullptr);
   }
   using TreeListControlBase::SetRootEntry;
+  void ResizeHierarchy() override {}
 
   int NumSelectedEntries() override { return 0; }
   vek::selection::Manager* GetSelectionManager() const override { return nullptr; }

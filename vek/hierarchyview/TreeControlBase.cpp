@@ -11,6 +11,7 @@
 #include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/HierarchyArrowTracker.h"
 #include "vek/hierarchyview/HoldEntry.h"
+#include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/RowWalk.h"
 #include "vek/hierarchyview/TreeGeometry.h"
 #include "vek/trackview/PlatformView.h"
@@ -86,6 +87,10 @@ bool TreeControlBase::CanCollapseNode(HierarchyEntryBase const* inEntry) const {
 
 void TreeControlBase::GotoLast() {
   if (!mGeometry) return;
+  if (const std::optional<RowIndex> index = RowIndex::Of(*mGeometry)) {
+    Reveal(mGeometry->EntryArea(index->GetIterator(index->GetCount() - 1)));
+    return;
+  }
   Rect area;
   bool any = false;
   for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next(), any = true)

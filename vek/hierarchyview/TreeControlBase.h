@@ -225,6 +225,7 @@ class VEK_API TreeControlBase : public trackview::Overlay {
 
   lumui::drawbot::SupplierInterface const* GetSupplier() const;
   HierarchyGeometry::iterator FindRow(HierarchyEntryBase const* inEntry) const;
+  HierarchyGeometry::iterator GetRowAt(int inNumber) const;
   bool IsSelected(HierarchyEntryBase const* inEntry) const;
   bool IsNodeCacheGood() const;
   void Invalidate(const Rect& inDataRect) const;

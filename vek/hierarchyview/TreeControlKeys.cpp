@@ -152,14 +152,8 @@ void TreeControlBase::SelectPrevious() {
   }
   position = std::max(position - 1, 0);
   if (position == 0 && mHideRoot) position = 1;
-  RowWalk row(*mGeometry);
-  while (position > 0 && !row.AtEnd()) {
-    row.Next();
-    --position;
-  }
-  if (row.AtEnd()) return;
-  step.target = row.GetIterator();
-  TakeStep(step, true);
+  step.target = GetRowAt(position);
+  if (*step.target) TakeStep(step, true);
 }
 
 void TreeControlBase::TakeStep(Step& ioStep, bool inAlignToRows) {

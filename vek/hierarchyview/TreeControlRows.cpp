@@ -5,6 +5,7 @@
 // which are selected.
 
 #include "vek/hierarchyview/HoldEntry.h"
+#include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/RowWalk.h"
 #include "vek/hierarchyview/TreeControlBase.h"
 
@@ -50,10 +51,26 @@ void TreeControlBase::UpdateNodeArea(HierarchyEntryBase const* inEntry) {
 // An iterator on null where the entry is no row at present.
 HierarchyGeometry::iterator TreeControlBase::FindRow(HierarchyEntryBase const* inEntry) const {
   if (!inEntry || !mGeometry) return HierarchyGeometry::iterator();
+  if (const std::optional<RowIndex> index = RowIndex::Of(*mGeometry)) {
+    const std::optional<RowIndex::Row> row = index->Find(inEntry);
+    return row ? index->GetIterator(*row) : HierarchyGeometry::iterator();
+  }
   for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next()) {
     if (row.GetEntry() == inEntry) return row.GetIterator();
   }
   return HierarchyGeometry::iterator();
+}
+
+// An iterator on null behind the last row.
+HierarchyGeometry::iterator TreeControlBase::GetRowAt(int inNumber) const {
+  if (const std::optional<RowIndex> index = RowIndex::Of(*mGeometry)) {
+    const auto number = static_cast<RowIndex::Row>(inNumber);
+    return number < index->GetCount() ? index->GetIterator(number) : HierarchyGeometry::iterator();
+  }
+  RowWalk row(*mGeometry);
+  for (int left = inNumber; left > 0 && !row.AtEnd(); --left)
+    row.Next();
+  return row.AtEnd() ? HierarchyGeometry::iterator() : row.GetIterator();
 }
 
 void TreeControlBase::SetFocusItem(HierarchyEntryBase* inEntry, bool inInvalidate) {
