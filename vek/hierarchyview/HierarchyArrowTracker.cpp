@@ -71,7 +71,7 @@ void HierarchyArrowTracker::EndTracking(Modifiers inModifiers, const Point& inDa
 
 bool HierarchyArrowTracker::TrackClickOnItem(Modifiers inModifiers, const Point& inDataPoint,
                                              bool inHover) {
-  const HierarchyGeometry::iterator row = FindRow(inDataPoint);
+  const HierarchyGeometry::iterator row = mControl->FindRowAt(inDataPoint);
   if (!*row) return false;
   const std::auto_ptr<TreeRowGeometry> layout = mControl->GetEntryGeometry(row);
   if (layout->GetNodeExpansionArea().Contains(inDataPoint)) {
@@ -91,7 +91,7 @@ bool HierarchyArrowTracker::TrackClickOffItem(Modifiers /*inModifiers*/, const P
     mControl->SetFocusItem(nullptr, true);
   }
   if (!inHover && !mIsSingleSelect) {
-    const HierarchyGeometry::iterator row = FindRow(inDataPoint);
+    const HierarchyGeometry::iterator row = mControl->FindRowAt(inDataPoint);
     if (!*row || !mControl->GetEntryGeometry(row)->PointInSelectArea(inDataPoint))
       BeginRubberBand();
   }
@@ -187,16 +187,6 @@ HierarchyGeometry::iterator HierarchyArrowTracker::ExtendUp(
     if (row == geometry.end() || !IsSelected(*row)) return inFocus;
   }
   return top;
-}
-
-// The last painted row that starts above the point. Before anything is painted it is looked for
-// from the top. On null where there is no row.
-HierarchyGeometry::iterator HierarchyArrowTracker::FindRow(const Point& inDataPoint) const {
-  HierarchyGeometry* const geometry = mControl->GetGeometry();
-  if (!geometry || !mControl->GetRootEntry()) return HierarchyGeometry::iterator();
-  HierarchyGeometry::iterator row = mControl->FindEntryInCache(inDataPoint);
-  if (row == geometry->begin()) row = geometry->FindEntry(inDataPoint);
-  return row == geometry->end() ? HierarchyGeometry::iterator() : row;
 }
 
 bool HierarchyArrowTracker::IsSelected(HierarchyEntryBase const* inEntry) const {

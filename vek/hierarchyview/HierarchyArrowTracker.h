@@ -54,7 +54,6 @@ class VEK_API HierarchyArrowTracker : public trackview::Tracker {
   TreeControlBase* GetControl() const { return mControl; }
 
  private:
-  HierarchyGeometry::iterator FindRow(const Point& inDataPoint) const;
   bool IsSelected(HierarchyEntryBase const* inEntry) const;
   HierarchyGeometry::iterator ExtendDown(HierarchyGeometry::iterator const& inFocus,
                                          int inSelected) const;

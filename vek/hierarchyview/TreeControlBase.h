@@ -136,6 +136,9 @@ class VEK_API TreeControlBase : public trackview::Overlay {
   // first painted one if none does, or begin() while nothing that was painted is good any more.
   // Needs the hierarchy to be built.
   HierarchyGeometry::iterator FindEntryInCache(const Point& inDataPoint);
+  // The row that a press at the point is for: the last painted one that starts above it, or, before
+  // anything is painted, the one that is there. On null if there is none.
+  HierarchyGeometry::iterator FindRowAt(const Point& inDataPoint);
   std::auto_ptr<TreeRowGeometry> GetEntryGeometry(HierarchyGeometry::iterator const& inRow);
   Rect GetHighlightRect(HierarchyGeometry::iterator const& inRow);
   // Empty for an entry that is no row at present. It costs a walk down to the row.

@@ -17,6 +17,13 @@ constexpr float kFocusMargin = 1.0f;  // units
 
 }  // namespace
 
+HierarchyGeometry::iterator TreeControlBase::FindRowAt(const Point& inDataPoint) {
+  if (!mGeometry || !mRootEntry) return HierarchyGeometry::iterator();
+  HierarchyGeometry::iterator row = FindEntryInCache(inDataPoint);
+  if (row == mGeometry->begin()) row = mGeometry->FindEntry(inDataPoint);
+  return row == mGeometry->end() ? HierarchyGeometry::iterator() : row;
+}
+
 std::auto_ptr<TreeRowGeometry> TreeControlBase::GetEntryGeometry(
     HierarchyGeometry::iterator const& inRow) {
   return mRowGeometryFactory->ServeRowGeometry(*inRow, mGeometry->EntryArea(inRow).Origin());
