@@ -45,6 +45,14 @@ class HeaderScrollView : public PlatformScrollView {
   bool DoLimitsToContent() const override { return false; }
 };
 
+class Adapter : public lumui::ui::UI_NodeAdapterT<UIMultiTreeList> {
+ public:
+  using UI_NodeAdapterT::UI_NodeAdapterT;
+
+ private:
+  bool DoMakesItsChildren() const override { return true; }
+};
+
 template <class Scroll>
 boost::intrusive_ptr<PlatformScrollView> NewScrollView(
     boost::intrusive_ptr<LUMPlatformView> const& inView, unsigned int inFlags) {
@@ -138,8 +146,7 @@ void UIMultiTreeList::PlaceParts() {
 }
 
 std::unique_ptr<lumui::ui::UI_NodeAdapterBase> NewUIMultiTreeListAdapter() {
-  auto adapter = std::make_unique<lumui::ui::UI_NodeAdapterT<UIMultiTreeList>>(
-      "vek::UIMultiTreeList", "lumui::ui::UI_SubView");
+  auto adapter = std::make_unique<Adapter>("vek::UIMultiTreeList", "lumui::ui::UI_SubView");
   const auto getList = [](const UIMultiTreeList& inList) -> UIMultiTreeListView& {
     return *inList.GetTreeControl();
   };
