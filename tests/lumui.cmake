@@ -1,6 +1,7 @@
 # The platform's windows, on a platform of Qt that shows nothing.
 vek_test(lumui_tests
   SOURCES
+    lumui/DragTest.cpp
     lumui/EventGateTest.cpp
     lumui/EventLoopTest.cpp
     lumui/FrameTest.cpp

@@ -3,6 +3,7 @@
 
 #include "ui/EventGate.h"
 
+#include <QDrag>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -15,6 +16,7 @@
 #include <exception>
 #include <utility>
 
+#include "datatransfer/HeadlessDrag.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
@@ -64,6 +66,12 @@ bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
   if (!IsPointerEvent(type) || NodeManagerImpl().capture.IsRunning()) return false;
   return static_cast<const QMouseEvent&>(inEvent).position().y() <
          inWindow.GetPeer()->GetChromeHeight();
+}
+
+// Qt sends it when the drag's loop is over.
+bool IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent) {
+  return inEvent.type() == QEvent::MouseButtonRelease && !inEvent.spontaneous() &&
+         FindWindowOf(inNative);
 }
 
 // What a key types by itself: no control characters, and nothing of a chord.
@@ -134,6 +142,12 @@ bool EventGate::RouteMarked(QWindow& inNative, QEvent& inEvent) {
 bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
     NodeManagerImpl().capture.End(true);
+  }
+  if (mDragTakesInput && IsRoutedToNodes(inEvent.type())) return HandleInDrag(inNative, inEvent);
+  if (IsReleaseOfDrag(inNative, inEvent)) {
+    // Qt's idea of the held buttons wants it, but the gesture has ended as the drag began.
+    const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
+    return QApplication::notify(&inNative, &inEvent);
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
   if (!window) return RouteForeign(inNative, inEvent);
@@ -363,6 +377,38 @@ void EventGate::EndSession() {
   mSessionEnding = false;
   ForEachWindow([](OS_Window& inWindow) { inWindow.UI_SendMessage(kMessageEndSession, 1, 0); });
   if (mQuitFunction) mQuitFunction(0);
+}
+
+// Qt's own drags take what they need in a filter that comes before the widgets.
+bool EventGate::HandleInDrag(QWindow& inNative, QEvent& inEvent) {
+  datatransfer::HeadlessDrag* const headless = datatransfer::HeadlessDrag::GetRunning();
+  if (!headless) return QApplication::notify(&inNative, &inEvent);
+  headless->HandleEvent(inEvent);
+  if (!IsPointerEvent(inEvent.type())) return true;
+  const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
+  return QApplication::notify(&inNative, &inEvent);
+}
+
+int EventGate::RunDrag(const std::function<int()>& inLoop) {
+  const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, true);
+  mDragging = true;
+  const int effect = inLoop();
+  mDragging = false;
+  return effect;
+}
+
+void EventGate::RunDrop(const std::function<void()>& inDrop) {
+  const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, false);
+  inDrop();
+}
+
+void EventGate::CancelDrag() {
+  if (!mDragging) return;
+  const auto cancel = [] {
+    if (auto* const headless = datatransfer::HeadlessDrag::GetRunning()) return headless->Cancel();
+    QDrag::cancel();
+  };
+  QMetaObject::invokeMethod(this, cancel, Qt::QueuedConnection);
 }
 
 void EventGate::TellDisplayChange() {
