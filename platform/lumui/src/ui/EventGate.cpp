@@ -16,6 +16,7 @@
 #include <exception>
 #include <utility>
 
+#include "datatransfer/DragWatch.h"
 #include "datatransfer/HeadlessDrag.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/ErrorManager.h"
@@ -86,6 +87,9 @@ EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
     : QApplication(ioArgumentCount, ioArguments) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
+  mDragWatch = std::make_unique<datatransfer::DragWatch>([] {
+    if (auto* const manager = NodeManagerImplIfAny()) manager->drops.Leave();
+  });
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
     if (!AskSessionEnd()) ioSession.cancel();
   });
@@ -144,6 +148,7 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
     NodeManagerImpl().capture.End(true);
   }
   if (mDragTakesInput && IsRoutedToNodes(inEvent.type())) return HandleInDrag(inNative, inEvent);
+  if (inEvent.type() == QEvent::Drop) mDropCameHere = true;
   if (IsReleaseOfDrag(inNative, inEvent)) {
     // Qt's idea of the held buttons wants it, but the gesture has ended as the drag began.
     const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
@@ -392,7 +397,10 @@ bool EventGate::HandleInDrag(QWindow& inNative, QEvent& inEvent) {
 int EventGate::RunDrag(const std::function<int()>& inLoop) {
   const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, true);
   mDragging = true;
-  const int effect = inLoop();
+  mDropCameHere = false;
+  mDragWatch->Forget();
+  int effect = inLoop();
+  if (!mDropCameHere) effect = mDragWatch->AwaitFinish(effect);
   mDragging = false;
   return effect;
 }

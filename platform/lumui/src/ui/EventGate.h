@@ -7,6 +7,7 @@
 #include <atomic>
 #include <boost/intrusive_ptr.hpp>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "lumui/Export.h"
@@ -20,6 +21,10 @@ class QKeyEvent;
 class QMouseEvent;
 class QWidget;
 class QWindow;
+
+namespace lumui::datatransfer {
+class DragWatch;
+}
 
 namespace lumui::ui {
 
@@ -116,6 +121,8 @@ class LUMUI_API EventGate : public QApplication {
   bool mPainting = false;
   std::atomic<bool> mDragging{false};
   bool mDragTakesInput = false;
+  bool mDropCameHere = false;  // of the drag, so no other program's answer follows
+  std::unique_ptr<datatransfer::DragWatch> mDragWatch;
   ModifierKeys mTypingModifiers;
   bool mSessionEnding = false;
   int mAnnouncedModals = 0;

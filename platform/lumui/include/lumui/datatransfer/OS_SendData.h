@@ -47,7 +47,8 @@ class LUMUI_API OS_SendDataBase {
   // have happened meanwhile. A running input capture is cancelled, and no release comes. The
   // effects are those of ui::DropEffect; the result is what the receiver has done, kDropNone if
   // nobody has taken it, or at once if no button is held or another drag runs. After a kDropMove
-  // the sender removes its own.
+  // the sender removes its own; a program that never says that it has got the data has moved
+  // nothing.
   virtual int SendByDrag(int inAllowedEffects, int inPreferredEffect) = 0;
 
  protected:
