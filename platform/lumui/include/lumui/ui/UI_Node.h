@@ -15,6 +15,7 @@
 #include "lumcore/utility/Flags.h"
 #include "lumcore/utility/RefCounted.h"
 #include "lumui/Export.h"
+#include "lumui/ui/UI_DragDropHandler.h"
 
 namespace lumui::drawbot {
 class Drawbot;
@@ -23,6 +24,7 @@ class SupplierInterface;
 
 namespace lumui::ui {
 
+class AccessibleItems;
 class KeyboardEvent;
 class MouseEvent;
 class NodePeer;
@@ -44,7 +46,7 @@ enum FocusChangeReason : int {
 // Every event operation may remove the node it is called on, drop the last reference to it, or
 // destroy its window: the caller holds it until the operation returns, and the event ends there.
 // What an operation throws goes to the application's error function and counts as an event taken.
-class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
+class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_DragDropHandler {
  public:
   UI_Node(const UI_Node&) = delete;
   UI_Node& operator=(const UI_Node&) = delete;
@@ -110,6 +112,9 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // so. True swallows the press.
   virtual bool UI_DoPrePointerEvent(const MouseEvent& inEvent);
   virtual bool UI_SupportsDrawbot() const;
+  // What the node draws, for those who do not see it; null, as the base operation answers, for
+  // nothing. Asked when the node is first read, and then each time.
+  virtual AccessibleItems* UI_GetAccessibleItems();
   // What makes images, fonts and paths for drawing on this node. Borrowed, never null.
   drawbot::SupplierInterface* UI_GetDrawSupplier() const;
 
