@@ -1,0 +1,11 @@
+vek_test(vek_trees_tests
+  SOURCES
+    hierarchyview/TreeFuzzTest.cpp
+    hierarchyview/TreeKeysTest.cpp
+    hierarchyview/TreePaintingTest.cpp
+    hierarchyview/TreeTrackersTest.cpp
+    hierarchyview/TreeWindowTest.cpp
+    lumui/UITest.cpp
+    support/UIApplication.cpp
+  LIBRARIES vek)
+set_tests_properties(vek_trees_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
