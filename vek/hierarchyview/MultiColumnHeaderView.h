@@ -62,6 +62,7 @@ class VEK_API MultiColumnHeaderView : public trackview::Overlay,
 
   void SetMultiColumnView(MultiColumnView* inView);
   MultiColumnView* GetMultiColumnView() const { return mMultiColumnView; }
+  trackview::TrackView* GetTrackView() const { return mTrackView; }
   void SetViewHeight(float inHeight) { mViewHeight = inHeight; }
   void SetDrawTopBorder(bool inDraw) { mDrawTopBorder = inDraw; }
   // What the menu offers, in this order, by attribute and title; the first can not be hidden. There

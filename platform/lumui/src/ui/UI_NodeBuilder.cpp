@@ -78,6 +78,7 @@ void WriteNode(const UI_Node& inNode, PropList& outList) {
   const auto& registry = UI_NodeAdapterRegistry::Get();
   const UI_NodeAdapterBase* adapter = &registry.FindFor(inNode);
   outList.Set("adapter", ToUTF16(adapter->GetClassName()));
+  const std::size_t childCount = adapter->MakesItsChildren() ? 0 : inNode.UI_GetChildCount();
   PropList& sections = outList.CreateSubList("sections");
   sections.Set("count", std::uint32_t(0));
   std::uint32_t count = 0;
@@ -87,8 +88,8 @@ void WriteNode(const UI_Node& inNode, PropList& outList) {
     adapter->GetProperties(inNode, section);
     if (!adapter->GetBaseName().empty()) continue;
     PropList& children = section.CreateSubList("children");
-    children.Set("count", static_cast<std::uint32_t>(inNode.UI_GetChildCount()));
-    for (std::size_t i = 0; i < inNode.UI_GetChildCount(); ++i)
+    children.Set("count", static_cast<std::uint32_t>(childCount));
+    for (std::size_t i = 0; i < childCount; ++i)
       WriteNode(*inNode.UI_GetChild(i), children.CreateSubList(Numbered("child-", i).c_str()));
   }
   sections.Set("count", count);
