@@ -73,6 +73,7 @@ TEST_F(LifeCycle, ASecondApplicationIsRefusedAndTheFirstStaysWhole) {
     EXPECT_STREQ(error.what(), "App object already initialized");
   }
   EXPECT_EQ(App::GetApp(), &app);
+  EXPECT_NE(lumui::ui::UI_NodeAdapterRegistry::Get().Find("vek::LUMPlatformView"), nullptr);
   EXPECT_EQ(lumcore::config::Localizer::Get(), localizer);
   EXPECT_EQ(vek::uisupport::CommandHandlerBase::GetDefaultCommandHandler(), &app);
   app.Terminate();

@@ -152,7 +152,7 @@ class TreeControlBase::Painter {
     while (inRow != geometry.end()) {
       const auto held = HoldEntry(*inRow);
       const std::uint64_t shape = HierarchyEntryBase::GetShapeVersion();
-      const RectT<float> area = geometry.EntryArea(inRow);
+      RectT<float> area = geometry.EntryArea(inRow);
       // Rows are clipped to themselves: what ends above the damage would show nothing.
       if (area.Bottom() > mDamage.y) PaintRow(area, inRow);
       if (shape != HierarchyEntryBase::GetShapeVersion()) {
@@ -160,6 +160,7 @@ class TreeControlBase::Painter {
         inRow = mControl.FindRow(*inRow);
         if (!*inRow) return;
         mControl.RenewNodeCache();
+        area = geometry.EntryArea(inRow);
       }
       mControl.mNodeCache.insert_or_assign(mControl.mNodeCache.end(), area.y, inRow);
       if (area.Bottom() > mDamage.Bottom()) return;
