@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "lumcore/config/ClientInfo.h"
+#include "lumui/ui/UI_NodeAdapter.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "support/RecordingApp.h"
 #include "support/TemporaryFolder.h"

@@ -99,9 +99,11 @@ class DragsAcrossPrograms : public UITest {
     // A move that comes while the last one is being answered may be lost.
     std::atomic<bool> isOver{false};
     std::thread tool([&] {
-      Send("mousemove 60 60 mousedown 1 mousemove 80 80");
-      while (!isOver)
+      // So may a press that comes while the window manager is busy with the new window.
+      for (int round = 0; !isOver; ++round) {
+        if (round % 100 == 0) Send("mouseup 1 mousemove 60 60 mousedown 1 mousemove 80 80");
         Send(At(30, 30) + " " + At(31, 30));
+      }
     });
     RunUntil([&] { return mLast.find("over@2") != std::string::npos; });
     isOver = true;
@@ -173,17 +175,10 @@ TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
 }
 
 TEST_F(DragsAcrossPrograms, DoNoHarmWhenTheSourceVanishes) {
-  int reads = 0;
-  mNode->mOn["over"] = [&](OS_ReceiveData& inData) {
-    if (++reads > 1) return;
-    EndPartner();
-    std::string bytes;
-    EXPECT_EQ(inData.ReadBytes("application/x-big", bytes), ReadResult::kNothingCame);
-  };
   DragFromPartnerToNode();
+  EndPartner();
   Send("mouseup 1");
   TakeLog();
-  mNode->mOn.clear();
   StartPartner();
   mLast.clear();
   DragFromPartnerToNode();
