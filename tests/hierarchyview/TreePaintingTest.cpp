@@ -127,6 +127,35 @@ TEST_F(TreePainting, DrawsBorderBandAndDropTargetsOnTopOfTheRows) {
             "fill 0,15-0,24-4,21-4,19-0,15-5,19-205,19-205,21-5,21 #0,0,0,1\n");
 }
 
+// A paint far below passes many rows by at once; what it came by is known all the same.
+TEST_F(TreePainting, KnowsEachRowThatItPassedOnItsWayDown) {
+  Build("");
+  mTree->SetDrawShadowBox(false);
+  for (int i = 0; i < 1000; ++i)
+    mTree->AddNode(nullptr, lumcore::utility::ToUTF16(std::to_string(i)));
+  mTree->ResizeHierarchy();
+  const auto cached = [this](std::initializer_list<float> inHeights) {
+    std::string names;
+    for (const float y : inHeights)
+      names += NameOf(*mTree->FindEntryInCache(tv::Point(0, y))) + " ";
+    return names;
+  };
+  EXPECT_NE(Paint(tv::Rect(0, 190, 200, 10)).find("text 10 22,201"), std::string::npos);
+  EXPECT_EQ(cached({-1, 0, 19, 19.5f, 200, 9999}), "0 0 0 1 10 10 ");
+  // From 10 on, to 500 and the row behind it.
+  EXPECT_NE(Paint(tv::Rect(0, 9501, 200, 18)).find("text 500 22,9511"), std::string::npos);
+  EXPECT_EQ(cached({-1, 19.5f, 200, 5000, 9500, 9501, 9519.5f, 20000}),
+            "0 1 10 263 499 500 501 501 ");
+  EXPECT_EQ(Paint(tv::Rect(0, 20000, 200, 18)), "fill 0,20000,200,18 #1,1,1,1\n");
+  EXPECT_EQ(cached({9520, 15000, 18982, 20000}), "501 789 999 999 ");
+  // What was passed first may also begin below.
+  mTree->ResizeHierarchy();
+  Paint(tv::Rect(0, 9501, 200, 18));
+  EXPECT_EQ(cached({-1, 0, 19, 19.5f, 9500, 20000}), "0 0 0 1 499 501 ");
+  EXPECT_EQ(AsText(mTree->GetGeometry()->EntryArea(mTree->FindEntryInCache(tv::Point(0, 5000)))),
+            "0,4997,21,19");
+}
+
 // A view that paints as soon as it is told of a size.
 class EagerView : public RecordingPlatformView {
  public:

@@ -155,10 +155,10 @@ HierarchyEntryBase::List::iterator HierarchyEntryBase::child_end() {
 
 void HierarchyEntryBase::SortList(TreeListComparator const& inComparator) {
   ShapeChanged();
+  RowIndex::OrderChanged(*this);
   const auto& compare = inComparator.GetCompareFunction();
   if (compare && compare->target<CompareCellTexts>() && SortByTexts(inComparator)) return;
   // By reference: a merge would copy the comparator, and with it a counted pointer, many times.
-  RowIndex::OrderChanged(*this);
   mChildren.sort(std::cref(inComparator));
 }
 
