@@ -18,9 +18,10 @@ class VEK_API BubbleField : public lumui::ui::UI_SubView {
  public:
   struct Functions {
     TextBubble::AssignFunction assign;
-    TextBubble::RemoveFunction remove;
+    TextBubble::BubbleFunction remove;
     boost::function<float(const lumcore::UTF16String&)> measure;  // a text's width, in units
     boost::function<void(float)> heightChanged;
+    TextBubble::BubbleFunction focused;
   };
 
   BubbleField(int inCommand, const Functions& inFunctions);
@@ -44,6 +45,7 @@ class VEK_API BubbleField : public lumui::ui::UI_SubView {
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
 
  private:
+  lumcore::UTF16String Fitted(const lumcore::UTF16String& inText, float inWidth) const;
   void Append(const uisupport::KeyCommand& inKey, bool inIsNew);
 
   int mCommand;

@@ -36,6 +36,9 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   // Opens its category, scrolls it into view and selects it.
   void GoToCommand(int inCommand);
 
+ protected:
+  void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
+
  private:
   float GetBestWidth(int inColumn) const;
 
@@ -45,6 +48,7 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   std::vector<RowID> mCategories;
   std::map<RowID, bool> mOpenBefore;  // the filter
   bool mFiltering = false;
+  float mShares[2] = {0, 0};  // of the first columns, as long as nobody else gives them a width
 };
 
 }  // namespace vek::sharedui

@@ -21,11 +21,11 @@ namespace vek::sharedui {
 class VEK_API TextBubble : public lumui::controls::UI_TextButton {
  public:
   using AssignFunction = boost::function<void(TextBubble&, const lumui::ui::KeyboardEvent&)>;
-  using RemoveFunction = boost::function<void(TextBubble&)>;
+  using BubbleFunction = boost::function<void(TextBubble&)>;
 
-  // A new one has no key yet.
+  // A new one has no key yet. The last function is called when it has got the keyboard.
   TextBubble(const uisupport::KeyCommand& inKey, bool inIsNew, const AssignFunction& inAssign,
-             const RemoveFunction& inRemove);
+             const BubbleFunction& inRemove, const BubbleFunction& inFocused);
   ~TextBubble() override;
 
   const uisupport::KeyCommand& GetKey() const { return mKey; }
@@ -39,6 +39,8 @@ class VEK_API TextBubble : public lumui::controls::UI_TextButton {
 
   // What is to be seen of the key; a new one has none.
   lumcore::UTF16String GetKeyText() const;
+  // That text, or what there is room for; the whole one is the tool tip then.
+  void ShowText(const lumcore::UTF16String& inText);
   // The width of all but the text, in units.
   static float GetMargins();
   static constexpr float kHeight = 20;
@@ -51,13 +53,13 @@ class VEK_API TextBubble : public lumui::controls::UI_TextButton {
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
 
  private:
-  void ShowKey();
   bool EditKey(lumui::ui::UI_Node* inNode, const lumui::ui::KeyboardEvent& inEvent);
 
   uisupport::KeyCommand mKey;
   bool mIsNew;
   AssignFunction mAssign;
-  RemoveFunction mRemove;
+  BubbleFunction mRemove;
+  BubbleFunction mFocused;
   bool mEditing = false;
   bool mKeyHeld = false;  // the one that was assigned, until it is let go
   boost::intrusive_ptr<lumui::controls::UI_PictureButton> mRemoveIcon;

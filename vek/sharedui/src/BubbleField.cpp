@@ -14,6 +14,7 @@ namespace vek::sharedui {
 namespace {
 
 constexpr float kGap = 3;  // units, between bubbles and lines
+constexpr unsigned short kEllipsis = 0x2026;
 
 }  // namespace
 
@@ -26,7 +27,8 @@ BubbleField::BubbleField(int inCommand, const Functions& inFunctions)
 BubbleField::~BubbleField() = default;
 
 void BubbleField::Append(const uisupport::KeyCommand& inKey, bool inIsNew) {
-  mBubbles.emplace_back(new TextBubble(inKey, inIsNew, mFunctions.assign, mFunctions.remove));
+  mBubbles.emplace_back(
+      new TextBubble(inKey, inIsNew, mFunctions.assign, mFunctions.remove, mFunctions.focused));
   UI_AddChild(mBubbles.back());
 }
 
@@ -79,6 +81,16 @@ void BubbleField::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
   LayOutBubbles();
 }
 
+lumcore::UTF16String BubbleField::Fitted(const lumcore::UTF16String& inText, float inWidth) const {
+  lumcore::UTF16String text = inText;
+  while (text.size() > 1 && mFunctions.measure(text) > inWidth) {
+    // The ellipsis takes the place of one more character at a time.
+    text.resize(text.size() - (text.back() == kEllipsis ? 2 : 1));
+    text += kEllipsis;
+  }
+  return text;
+}
+
 void BubbleField::LayOutBubbles() {
   const float room = UI_GetLocalRectF().width;
   float x = 0;
@@ -90,6 +102,7 @@ void BubbleField::LayOutBubbles() {
       x = 0;
       y += TextBubble::kHeight + kGap;
     }
+    bubble->ShowText(Fitted(bubble->GetKeyText(), width - TextBubble::GetMargins()));
     bubble->UI_SetLocalRectF(lumcore::geom::RectT<float>(x, y, width, TextBubble::kHeight));
     x += width + kGap;
   }

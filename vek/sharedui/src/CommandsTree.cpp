@@ -4,6 +4,7 @@
 #include "vek/sharedui/CommandsTree.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 #include <vector>
 
@@ -19,6 +20,9 @@ namespace {
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
+
+// Of the width, for the first columns; the last one takes what is left.
+constexpr float kShares[] = {0.34f, 0.36f};
 
 // Those without a category come last.
 bool StandsBefore(const CommandCache* inA, const CommandCache* inB) {
@@ -41,9 +45,9 @@ UTF16String ShownName(const CommandCache& inCache) {
 
 CommandsTree::CommandsTree() {
   UI_SetNodeID("CommandsTree");
-  SetColumns({{Localized("$$$/vek/sharedui/ShortcutDialog/Command=Command"), 210},
-              {Localized("$$$/vek/sharedui/ShortcutDialog/Shortcut=Shortcut"), 170},
-              {Localized("$$$/vek/sharedui/ShortcutDialog/Description=Description"), 200}});
+  SetColumns({{Localized("$$$/vek/sharedui/ShortcutDialog/Command=Command"), 0},
+              {Localized("$$$/vek/sharedui/ShortcutDialog/Shortcut=Shortcut"), 0},
+              {Localized("$$$/vek/sharedui/ShortcutDialog/Description=Description"), 100}});
   SetBestFitFunction([this](int inColumn) { return GetBestWidth(inColumn); });
 }
 
@@ -126,6 +130,15 @@ void CommandsTree::GoToCommand(int inCommand) {
   if (row == kNoRow) return;
   ScrollIntoView(row);
   SetSelectedRow(row, true);
+}
+
+void CommandsTree::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
+  UI_MultiColumnTree::UI_SizeChanged(inRect);
+  for (const int column : {kCommand, kShortcut}) {
+    if (GetColumnWidth(column) != mShares[column]) continue;
+    mShares[column] = std::floor(inRect.width * kShares[column]);
+    SetColumnWidth(column, mShares[column]);
+  }
 }
 
 float CommandsTree::GetBestWidth(int inColumn) const {

@@ -36,6 +36,7 @@ void ShortcutDialog::SelectionChanged() {
     functions.heightChanged = [this](float inHeight) {
       if (mField) mTree->SetCellNode(mFieldRow, CommandsTree::kShortcut, mField, inHeight);
     };
+    functions.focused = [this](TextBubble& inBubble) { mTree->ScrollNodeIntoView(inBubble); };
     mField.reset(new BubbleField(command, functions));
     mTree->SetCellNode(row, CommandsTree::kShortcut, mField, mField->GetHeight());
   }

@@ -24,7 +24,8 @@ using lumui::ui::KeyboardEvent;
 namespace {
 
 // In units.
-constexpr float kTextMargin = 8;
+constexpr float kTextMargin = 7;
+constexpr float kFrame = 1;
 constexpr float kIcon = 16;
 constexpr float kIconMargin = 2;
 // Between the families of dark and light interfaces.
@@ -58,11 +59,13 @@ bool IsRemovingKey(KeyboardCode inCode) {
 }  // namespace
 
 TextBubble::TextBubble(const uisupport::KeyCommand& inKey, bool inIsNew,
-                       const AssignFunction& inAssign, const RemoveFunction& inRemove)
+                       const AssignFunction& inAssign, const BubbleFunction& inRemove,
+                       const BubbleFunction& inFocused)
     : mKey(inKey),
       mIsNew(inIsNew),
       mAssign(inAssign),
       mRemove(inRemove),
+      mFocused(inFocused),
       mRemoveIcon(new lumui::controls::UI_PictureButton) {
   UI_SetNodeID("TextBubble");
   lumui::controls::ButtonOptions options;
@@ -71,6 +74,7 @@ TextBubble::TextBubble(const uisupport::KeyCommand& inKey, bool inIsNew,
   SetOptions(options);
   UI_SetWantsKeyboardFocus(true);
   SetTextAlignment(lumui::drawbot::TextAlignment::kLeft);
+  SetTextIndent(kTextMargin - kFrame);
   mRemoveIcon->UI_SetNodeID("CloseIcon");
   mRemoveIcon->SetImage(RemoveImage(*UI_GetDrawSupplier()));
   mRemoveIcon->UI_SetToolTip(lumcore::config::Localizer::Get()->GetLocalizedString(
@@ -79,11 +83,11 @@ TextBubble::TextBubble(const uisupport::KeyCommand& inKey, bool inIsNew,
   mOnPress.reset(new ChangedFunction([this](auto*) { BeginEdit(); }));
   NotifyWhenChangedInteractively(mOnPress);
   mOnRemove.reset(new ChangedFunction([this](auto*) {
-    const RemoveFunction remove = mRemove;
+    const BubbleFunction remove = mRemove;
     remove(*this);
   }));
   mRemoveIcon->NotifyWhenChangedInteractively(mOnRemove);
-  ShowKey();
+  ShowText(GetKeyText());
 }
 
 TextBubble::~TextBubble() {
@@ -103,14 +107,16 @@ UTF16String TextBubble::GetKeyText() const {
   return UTF16String(1, kEllipsis);
 }
 
-void TextBubble::ShowKey() {
-  SetText(WithoutMnemonic(GetKeyText()));
+void TextBubble::ShowText(const UTF16String& inText) {
+  SetText(WithoutMnemonic(inText));
+  const UTF16String whole = GetKeyText();
+  UI_SetToolTip(inText == whole ? UTF16String() : whole);
 }
 
 void TextBubble::SetKey(const uisupport::KeyCommand& inKey) {
   mKey = inKey;
   mIsNew = false;
-  ShowKey();
+  ShowText(GetKeyText());
   EndEdit();
 }
 
@@ -148,7 +154,7 @@ bool TextBubble::UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode, const KeyboardEv
     mKeyHeld = false;
     if (mEditing) return EditKey(inNode, inEvent);
     if (IsRemovingKey(inEvent.GetCode())) {
-      const RemoveFunction remove = mRemove;
+      const BubbleFunction remove = mRemove;
       remove(*this);
       return true;
     }
@@ -158,8 +164,9 @@ bool TextBubble::UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode, const KeyboardEv
 
 void TextBubble::UI_FocusChanged(int inReason) {
   UI_TextButton::UI_FocusChanged(inReason);
+  if (UI_HasKeyboardFocus()) return mFocused(*this);
   // A message box about the key takes the keyboard for a while.
-  if (!UI_HasKeyboardFocus() && inReason != lumui::ui::kFocusWindow) EndEdit();
+  if (inReason != lumui::ui::kFocusWindow) EndEdit();
 }
 
 void TextBubble::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {

@@ -65,7 +65,7 @@ TreeWidget::TreeWidget(QWidget* inParent) : QTreeView(inParent) {
   setEditTriggers(NoEditTriggers);
   setSelectionMode(SingleSelection);
   setSelectionBehavior(SelectRows);
-  setVerticalScrollMode(ScrollPerItem);
+  setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollMode(ScrollPerPixel);
   setExpandsOnDoubleClick(true);
   header()->setStretchLastSection(true);
@@ -154,6 +154,14 @@ QRect TreeWidget::CellRect(RowID inRow, int inColumn) const {
   return rect.intersects(viewport()->rect())
              ? rect.adjusted(kNodeMargin, kNodeMargin, -kNodeMargin, -kNodeMargin)
              : QRect();
+}
+
+void TreeWidget::ScrollWidgetIntoView(const QWidget& inWidget) {
+  const QPoint top = inWidget.mapTo(viewport(), QPoint(0, 0));
+  const int bottom = top.y() + inWidget.height();
+  int distance = std::max(0, bottom + kNodeMargin - viewport()->height());
+  distance = std::min(distance, top.y() - kNodeMargin);
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + distance);
 }
 
 int TreeWidget::CellWidth(int inColumn, const QString& inText, int inDepth) const {

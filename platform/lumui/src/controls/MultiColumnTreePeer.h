@@ -24,6 +24,7 @@ class TreeWidget : public QTreeView {
   void ShowSelection();
   UI_MultiColumnTree::RowID GetTopRow() const;
   QRect CellRect(UI_MultiColumnTree::RowID inRow, int inColumn) const;  // null if not in view
+  void ScrollWidgetIntoView(const QWidget& inWidget);  // the widget is in the viewport
   int CellWidth(int inColumn, const QString& inText, int inDepth) const;
 
  protected:

@@ -23,12 +23,12 @@ TreeWidget* WidgetOf(const UI_MultiColumnTree& inTree) {
 
 }  // namespace
 
-UI_MultiColumnTree::StUpdate::StUpdate(UI_MultiColumnTree& ioTree) : mTree(&ioTree) {
-  mTree->BeginUpdate();
+UI_MultiColumnTree::StUpdate::StUpdate(UI_MultiColumnTree& ioTree) : mTree(ioTree) {
+  mTree.BeginUpdate();
 }
 
 UI_MultiColumnTree::StUpdate::~StUpdate() {
-  mTree->EndUpdate();
+  mTree.EndUpdate();
 }
 
 UI_MultiColumnTree::UI_MultiColumnTree()
@@ -147,6 +147,13 @@ void UI_MultiColumnTree::ScrollIntoView(RowID inRow) {
   if (widget && mUpdateDepth == 0 && index.isValid()) widget->scrollTo(index);
 }
 
+void UI_MultiColumnTree::ScrollNodeIntoView(const ui::UI_Node& inNode) {
+  TreeWidget* const tree = WidgetOf(*this);
+  const QWidget* const widget = inNode.GetPeer()->GetWidget();
+  if (!tree || mUpdateDepth > 0 || !widget || !tree->viewport()->isAncestorOf(widget)) return;
+  tree->ScrollWidgetIntoView(*widget);
+}
+
 void UI_MultiColumnTree::SetSelectedRow(RowID inRow, bool inNotify) {
   LUM_INPUT_CONTRACT(inRow == kNoRow || IsShown(inRow));
   mSelected = inRow;
@@ -258,7 +265,8 @@ void UI_MultiColumnTree::DoShowState() {
   TreeWidget* const widget = WidgetOf(*this);
   widget->setFocusPolicy(UI_WantsKeyboardFocus() ? Qt::StrongFocus : Qt::NoFocus);
   widget->ShowOptions(mOptions);
-  for (int column = 0; column < GetColumnCount(); ++column) {
+  // The last one has what is left.
+  for (int column = 0; column + 1 < GetColumnCount(); ++column) {
     const int width = qRound(mColumns[static_cast<std::size_t>(column)].width);
     if (widget->columnWidth(column) != width) widget->setColumnWidth(column, width);
   }

@@ -44,7 +44,7 @@ class LUMUI_API UI_MultiColumnTree : public UI_InteractiveControlView {
   };
   // Keeps the control from following each single change; at the end of the outermost one it shows
   // all of them, with the open rows, the selection and the first row in view as they were as far as
-  // they are there.
+  // they are there. The control outlives it.
   class LUMUI_API StUpdate {
    public:
     explicit StUpdate(UI_MultiColumnTree& ioTree);
@@ -53,7 +53,7 @@ class LUMUI_API UI_MultiColumnTree : public UI_InteractiveControlView {
     StUpdate& operator=(const StUpdate&) = delete;
 
    private:
-    boost::intrusive_ptr<UI_MultiColumnTree> mTree;
+    UI_MultiColumnTree& mTree;
   };
 
   UI_MultiColumnTree();
@@ -64,7 +64,7 @@ class LUMUI_API UI_MultiColumnTree : public UI_InteractiveControlView {
   // In the place of those that are there. Without columns no row is seen.
   void SetColumns(const std::vector<Column>& inColumns);
   int GetColumnCount() const { return static_cast<int>(mColumns.size()); }
-  // As the user has drawn it.
+  // As the user has drawn it. The last column takes what the others leave.
   float GetColumnWidth(int inColumn) const;
   void SetColumnWidth(int inColumn, float inWidth);
   // Answers the width that a column takes when the user double-clicks its edge. Without it that is
@@ -92,6 +92,8 @@ class LUMUI_API UI_MultiColumnTree : public UI_InteractiveControlView {
   bool IsRowOpen(RowID inRow) const;
   // Opens the rows above it first. A row that is hidden stays so.
   void ScrollIntoView(RowID inRow);
+  // Of a node in a cell, or within one: for a row that may be higher than the view.
+  void ScrollNodeIntoView(const ui::UI_Node& inNode);
 
   // kNoRow for none; a row that is not to be seen because of a hidden one cannot be selected.
   void SetSelectedRow(RowID inRow, bool inNotify = false);
