@@ -6,6 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include <map>
 #include <utility>
+#include <vector>
 
 #include "lumcore/Strings.h"
 #include "vek/config/Export.h"
@@ -43,6 +44,10 @@ VEK_API void RefreshAllShortcuts(CommandCaches& ioCaches);
 VEK_API bool HasText(const CommandCache& inCache, const lumcore::UTF16String& inFilter,
                      bool inMatchCase);
 
+// As users look for them: by category and command, those without a category at the end.
+VEK_API std::vector<const CommandCache*> SortedByName(const CommandCaches& inCaches);
+// The command, or the whole display name where that has no dot.
+VEK_API lumcore::UTF16String GetShownName(const CommandCache& inCache);
 // All commands by their categories, one a line, with their shortcuts behind a tab.
 VEK_API lumcore::UTF16String MakeShortcutList(const CommandCaches& inCaches);
 

@@ -3,6 +3,8 @@
 
 #include "vek/sharedui/CommandCache.h"
 
+#include <algorithm>
+#include <functional>
 #include <tuple>
 #include <unordered_map>
 #include <vector>
@@ -96,15 +98,36 @@ bool HasText(const CommandCache& inCache, const UTF16String& inFilter, bool inMa
          Holds(inCache.shortcutsLower, inFilter) || Holds(inCache.descriptionLower, inFilter);
 }
 
-UTF16String MakeShortcutList(const CommandCaches& inCaches) {
-  std::map<UTF16String, std::vector<const CommandCache*>> categories;
+std::vector<const CommandCache*> SortedByName(const CommandCaches& inCaches) {
+  const auto order = [](const CommandCache& inCache) {
+    return std::make_tuple(inCache.category.empty(), std::cref(inCache.categoryLower),
+                           std::cref(inCache.category), std::cref(inCache.commandLower),
+                           inCache.commandID);
+  };
+  std::vector<const CommandCache*> sorted;
+  sorted.reserve(inCaches.size());
   for (const auto& [command, cache] : inCaches)
-    categories[cache->category].push_back(cache.get());
+    sorted.push_back(cache.get());
+  std::sort(sorted.begin(), sorted.end(), [&](const CommandCache* inA, const CommandCache* inB) {
+    return order(*inA) < order(*inB);
+  });
+  return sorted;
+}
+
+UTF16String GetShownName(const CommandCache& inCache) {
+  if (!inCache.command.empty()) return inCache.command;
+  const CommandRegistry& registry = CommandRegistry::Get();
+  const auto found = registry.FindCommandByID(inCache.commandID);
+  return found == registry.RegistryEnd() ? UTF16String() : found->second.GetDisplayName();
+}
+
+UTF16String MakeShortcutList(const CommandCaches& inCaches) {
   lumcore::UTF16StringStream stream;
-  for (const auto& [category, commands] : categories) {
-    stream << category << "\n";
-    for (const CommandCache* cache : commands)
-      stream << "  " << cache->command << "\t" << cache->shortcuts << "\n";
+  const CommandCache* before = nullptr;
+  for (const CommandCache* cache : SortedByName(inCaches)) {
+    if (!before || before->category != cache->category) stream << cache->category << "\n";
+    stream << "  " << GetShownName(*cache) << "\t" << cache->shortcuts << "\n";
+    before = cache;
   }
   return stream.str();
 }

@@ -5,11 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 #include <vector>
 
 #include "lumcore/config/Localizer.h"
-#include "vek/uisupport/CommandRegistry.h"
 
 namespace vek::sharedui {
 
@@ -23,23 +21,6 @@ UTF16String Localized(const char* inKey) {
 
 // Of the width, for the first columns; the last one takes what is left.
 constexpr float kShares[] = {0.34f, 0.36f};
-
-// Those without a category come last.
-bool StandsBefore(const CommandCache* inA, const CommandCache* inB) {
-  const auto order = [](const CommandCache& inCache) {
-    return std::make_tuple(inCache.category.empty(), std::cref(inCache.categoryLower),
-                           std::cref(inCache.category), std::cref(inCache.commandLower),
-                           inCache.commandID);
-  };
-  return order(*inA) < order(*inB);
-}
-
-UTF16String ShownName(const CommandCache& inCache) {
-  if (!inCache.command.empty()) return inCache.command;
-  const auto& registry = uisupport::CommandRegistry::Get();
-  const auto found = registry.FindCommandByID(inCache.commandID);
-  return found == registry.RegistryEnd() ? UTF16String() : found->second.GetDisplayName();
-}
 
 }  // namespace
 
@@ -55,11 +36,6 @@ CommandsTree::~CommandsTree() = default;
 
 void CommandsTree::Fill(const CommandCaches& inCaches) {
   mCaches = &inCaches;
-  std::vector<const CommandCache*> sorted;
-  sorted.reserve(inCaches.size());
-  for (const auto& [command, cache] : inCaches)
-    sorted.push_back(cache.get());
-  std::sort(sorted.begin(), sorted.end(), &StandsBefore);
   const StUpdate update(*this);
   RemoveAllRows();
   mRows.clear();
@@ -67,13 +43,14 @@ void CommandsTree::Fill(const CommandCaches& inCaches) {
   mCategories.clear();
   RowID category = kNoRow;
   const CommandCache* first = nullptr;
-  for (const CommandCache* cache : sorted) {
+  for (const CommandCache* cache : SortedByName(inCaches)) {
     if (!first || first->category != cache->category) {
       first = cache;
       category = AddRow(kNoRow, {cache->category});
       mCategories.push_back(category);
     }
-    const RowID row = AddRow(category, {ShownName(*cache), cache->shortcuts, cache->description});
+    const RowID row =
+        AddRow(category, {GetShownName(*cache), cache->shortcuts, cache->description});
     mRows.emplace(cache->commandID, row);
     mCommands.emplace(row, cache->commandID);
   }
