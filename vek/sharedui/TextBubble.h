@@ -53,6 +53,7 @@ class VEK_API TextBubble : public lumui::controls::UI_TextButton {
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
 
  private:
+  void LetKeyGo();
   bool EditKey(lumui::ui::UI_Node* inNode, const lumui::ui::KeyboardEvent& inEvent);
 
   uisupport::KeyCommand mKey;

@@ -79,6 +79,7 @@ TextBubble::TextBubble(const uisupport::KeyCommand& inKey, bool inIsNew,
   mRemoveIcon->SetImage(RemoveImage(*UI_GetDrawSupplier()));
   mRemoveIcon->UI_SetToolTip(lumcore::config::Localizer::Get()->GetLocalizedString(
       "$$$/vek/sharedui/ShortcutDialog/CloseIcon/RemoveTT=Remove"));
+  mRemoveIcon->UI_SetWantsKeyboardFocus(false);  // the bubble has keys of its own for it
   UI_AddChild(mRemoveIcon);
   mOnPress.reset(new ChangedFunction([this](auto*) { BeginEdit(); }));
   NotifyWhenChangedInteractively(mOnPress);
@@ -126,10 +127,16 @@ void TextBubble::BeginEdit() {
   UI_SetClaimsAllKeys(true);
 }
 
+void TextBubble::LetKeyGo() {
+  mKeyHeld = false;
+  UI_SetClaimsAllKeys(mEditing);
+}
+
 void TextBubble::EndEdit() {
   mEditing = false;
   SetDownState(false);
-  UI_SetClaimsAllKeys(false);
+  // A mnemonic could take what a key that is still held down repeats.
+  UI_SetClaimsAllKeys(mKeyHeld);
 }
 
 bool TextBubble::EditKey(lumui::ui::UI_Node* inNode, const KeyboardEvent& inEvent) {
@@ -147,11 +154,11 @@ bool TextBubble::EditKey(lumui::ui::UI_Node* inNode, const KeyboardEvent& inEven
 
 bool TextBubble::UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode, const KeyboardEvent& inEvent) {
   if (IsFocusKey(inEvent)) return UI_TextButton::UI_DoKeyboardEvent(inNode, inEvent);
-  if (inEvent.IsActionKeyUp()) mKeyHeld = false;
+  if (inEvent.IsActionKeyUp()) LetKeyGo();
   if (inEvent.IsActionKeyDown()) {
     // The key that has just been assigned would be taken for the next thing to do.
     if (mKeyHeld && inEvent.IsRepeat()) return true;
-    mKeyHeld = false;
+    LetKeyGo();
     if (mEditing) return EditKey(inNode, inEvent);
     if (IsRemovingKey(inEvent.GetCode())) {
       const BubbleFunction remove = mRemove;
@@ -166,6 +173,7 @@ void TextBubble::UI_FocusChanged(int inReason) {
   UI_TextButton::UI_FocusChanged(inReason);
   if (UI_HasKeyboardFocus()) return mFocused(*this);
   // A message box about the key takes the keyboard for a while.
+  mKeyHeld = false;
   if (inReason != lumui::ui::kFocusWindow) EndEdit();
 }
 
