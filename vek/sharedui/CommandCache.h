@@ -44,8 +44,10 @@ VEK_API void RefreshAllShortcuts(CommandCaches& ioCaches);
 VEK_API bool HasText(const CommandCache& inCache, const lumcore::UTF16String& inFilter,
                      bool inMatchCase);
 
-// As users look for them: by category and command, those without a category at the end.
-VEK_API std::vector<const CommandCache*> SortedByName(const CommandCaches& inCaches);
+using CategoryOfCommands = std::vector<const CommandCache*>;
+// In the order of the categories' names, that without one at the end; the commands by their ids.
+VEK_API std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches);
+VEK_API void SortByName(CategoryOfCommands& ioCategory);
 // The command, or the whole display name where that has no dot.
 VEK_API lumcore::UTF16String GetShownName(const CommandCache& inCache);
 // All commands by their categories, one a line, with their shortcuts behind a tab.

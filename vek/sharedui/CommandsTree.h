@@ -6,6 +6,7 @@
 #include <boost/function.hpp>
 #include <map>
 #include <unordered_map>
+#include <vector>
 
 #include "lumui/controls/UI_MultiColumnTree.h"
 #include "vek/config/Export.h"
@@ -23,7 +24,8 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   CommandsTree();
   ~CommandsTree() override;
 
-  // The records are borrowed for the tree's life.
+  // The records are borrowed for the tree's life. The rows of a category are made when it is opened
+  // or searched.
   void Fill(const CommandCaches& inCaches);
   void ShowShortcuts(const CommandCache& inCache);
   void ShowAllShortcuts();
@@ -31,8 +33,8 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   // opens the rows that are left; without one they are open as they were before it.
   void Filter(bool inHasFilter, const boost::function<bool(const CommandCache&)>& inIsShown);
 
-  int GetSelectedCommand() const;      // kNoCommand, for a category as well
-  RowID FindRow(int inCommand) const;  // kNoRow for none
+  int GetSelectedCommand() const;  // kNoCommand, for a category as well
+  RowID FindRow(int inCommand);    // kNoRow for none
   // Opens its category, scrolls it into view and selects it.
   void GoToCommand(int inCommand);
 
@@ -40,13 +42,20 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
 
  private:
-  float GetBestWidth(int inColumn) const;
+  struct Category {
+    RowID row;
+    std::vector<const CommandCache*> commands;
+  };
+
+  void FillCategory(RowID inRow);
+  float GetBestWidth(int inColumn);
 
   const CommandCaches* mCaches = nullptr;
   std::unordered_map<int, RowID> mRows;
   std::unordered_map<RowID, int> mCommands;
-  std::vector<RowID> mCategories;
-  std::map<RowID, bool> mOpenBefore;  // the filter
+  std::vector<Category> mCategories;
+  std::map<lumcore::UTF16String, std::size_t> mPlaces;  // of the categories, by their names
+  std::map<RowID, bool> mOpenBefore;                    // the filter
   bool mFiltering = false;
   float mShares[2] = {0, 0};  // of the first columns, as long as nobody else gives them a width
 };

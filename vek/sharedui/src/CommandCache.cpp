@@ -4,6 +4,7 @@
 #include "vek/sharedui/CommandCache.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 #include <functional>
 #include <tuple>
 #include <unordered_map>
@@ -50,7 +51,7 @@ CommandCaches MakeCommandCaches() {
   const CommandRegistry& registry = CommandRegistry::Get();
   CommandCaches caches;
   for (auto it = registry.RegistryBegin(); it != registry.RegistryEnd(); ++it) {
-    const boost::shared_ptr<CommandCache> cache(new CommandCache);
+    const auto cache = boost::make_shared<CommandCache>();
     cache->commandID = it->first;
     std::tie(cache->category, cache->command) = SplitDisplayName(it->second.GetDisplayName());
     UTF16String name;
@@ -98,20 +99,28 @@ bool HasText(const CommandCache& inCache, const UTF16String& inFilter, bool inMa
          Holds(inCache.shortcutsLower, inFilter) || Holds(inCache.descriptionLower, inFilter);
 }
 
-std::vector<const CommandCache*> SortedByName(const CommandCaches& inCaches) {
-  const auto order = [](const CommandCache& inCache) {
-    return std::make_tuple(inCache.category.empty(), std::cref(inCache.categoryLower),
-                           std::cref(inCache.category), std::cref(inCache.commandLower),
-                           inCache.commandID);
-  };
-  std::vector<const CommandCache*> sorted;
-  sorted.reserve(inCaches.size());
+std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches) {
+  std::map<UTF16String, CategoryOfCommands> byName;
   for (const auto& [command, cache] : inCaches)
-    sorted.push_back(cache.get());
-  std::sort(sorted.begin(), sorted.end(), [&](const CommandCache* inA, const CommandCache* inB) {
-    return order(*inA) < order(*inB);
-  });
-  return sorted;
+    byName[cache->category].push_back(cache.get());
+  std::vector<CategoryOfCommands> categories;
+  for (auto& [name, commands] : byName)
+    categories.push_back(std::move(commands));
+  const auto order = [](const CategoryOfCommands& inCategory) {
+    const CommandCache& cache = *inCategory.front();
+    return std::make_tuple(cache.category.empty(), std::cref(cache.categoryLower),
+                           std::cref(cache.category));
+  };
+  std::sort(categories.begin(), categories.end(),
+            [&](const auto& inA, const auto& inB) { return order(inA) < order(inB); });
+  return categories;
+}
+
+void SortByName(CategoryOfCommands& ioCategory) {
+  std::stable_sort(ioCategory.begin(), ioCategory.end(),
+                   [](const CommandCache* inA, const CommandCache* inB) {
+                     return inA->commandLower < inB->commandLower;
+                   });
 }
 
 UTF16String GetShownName(const CommandCache& inCache) {
@@ -123,11 +132,11 @@ UTF16String GetShownName(const CommandCache& inCache) {
 
 UTF16String MakeShortcutList(const CommandCaches& inCaches) {
   lumcore::UTF16StringStream stream;
-  const CommandCache* before = nullptr;
-  for (const CommandCache* cache : SortedByName(inCaches)) {
-    if (!before || before->category != cache->category) stream << cache->category << "\n";
-    stream << "  " << GetShownName(*cache) << "\t" << cache->shortcuts << "\n";
-    before = cache;
+  for (CategoryOfCommands& category : GroupedByCategory(inCaches)) {
+    SortByName(category);
+    stream << category.front()->category << "\n";
+    for (const CommandCache* cache : category)
+      stream << "  " << GetShownName(*cache) << "\t" << cache->shortcuts << "\n";
   }
   return stream.str();
 }

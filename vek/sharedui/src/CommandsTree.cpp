@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+#include <utility>
 
 #include "lumcore/config/Localizer.h"
 
@@ -29,6 +29,7 @@ CommandsTree::CommandsTree() {
   SetColumns({{Localized("$$$/vek/sharedui/ShortcutDialog/Command=Command"), 0},
               {Localized("$$$/vek/sharedui/ShortcutDialog/Shortcut=Shortcut"), 0},
               {Localized("$$$/vek/sharedui/ShortcutDialog/Description=Description"), 100}});
+  SetFillFunction([this](RowID inRow) { FillCategory(inRow); });
   SetBestFitFunction([this](int inColumn) { return GetBestWidth(inColumn); });
 }
 
@@ -36,57 +37,63 @@ CommandsTree::~CommandsTree() = default;
 
 void CommandsTree::Fill(const CommandCaches& inCaches) {
   mCaches = &inCaches;
-  const StUpdate update(*this);
-  RemoveAllRows();
   mRows.clear();
   mCommands.clear();
   mCategories.clear();
-  RowID category = kNoRow;
-  const CommandCache* first = nullptr;
-  for (const CommandCache* cache : SortedByName(inCaches)) {
-    if (!first || first->category != cache->category) {
-      first = cache;
-      category = AddRow(kNoRow, {cache->category});
-      mCategories.push_back(category);
-    }
-    const RowID row =
-        AddRow(category, {GetShownName(*cache), cache->shortcuts, cache->description});
+  mPlaces.clear();
+  for (CategoryOfCommands& category : GroupedByCategory(inCaches)) {
+    mPlaces.emplace(category.front()->category, mCategories.size());
+    mCategories.push_back({kNoRow, std::move(category)});
+  }
+  const StUpdate update(*this);
+  RemoveAllRows();
+  for (Category& category : mCategories) {
+    category.row = AddRow(kNoRow, {category.commands.front()->category});
+    SetRowUnfilled(category.row);
+  }
+}
+
+void CommandsTree::FillCategory(RowID inRow) {
+  const auto category = std::find_if(mCategories.begin(), mCategories.end(),
+                                     [&](const Category& inOne) { return inOne.row == inRow; });
+  if (category == mCategories.end()) return;
+  SortByName(category->commands);
+  for (const CommandCache* cache : category->commands) {
+    const RowID row = AddRow(inRow, {GetShownName(*cache), cache->shortcuts, cache->description});
     mRows.emplace(cache->commandID, row);
     mCommands.emplace(row, cache->commandID);
   }
 }
 
 void CommandsTree::ShowShortcuts(const CommandCache& inCache) {
-  const RowID row = FindRow(inCache.commandID);
-  if (row == kNoRow || GetText(row, kShortcut) == inCache.shortcuts) return;
-  SetText(row, kShortcut, inCache.shortcuts);
+  const auto found = mRows.find(inCache.commandID);
+  if (found == mRows.end() || GetText(found->second, kShortcut) == inCache.shortcuts) return;
+  SetText(found->second, kShortcut, inCache.shortcuts);
 }
 
 void CommandsTree::ShowAllShortcuts() {
-  for (const auto& [command, cache] : *mCaches)
-    ShowShortcuts(*cache);
+  for (const auto& [command, row] : mRows)
+    ShowShortcuts(*mCaches->at(command));
 }
 
 void CommandsTree::Filter(bool inHasFilter,
                           const boost::function<bool(const CommandCache&)>& inIsShown) {
   const StUpdate update(*this);
-  if (inHasFilter && !mFiltering) {
-    mOpenBefore.clear();
-    for (const RowID category : mCategories)
-      mOpenBefore[category] = IsRowOpen(category);
-  }
-  for (const RowID category : mCategories) {
+  if (inHasFilter && !mFiltering) mOpenBefore.clear();
+  for (const Category& category : mCategories) {
+    if (inHasFilter && !mFiltering) mOpenBefore[category.row] = IsRowOpen(category.row);
+    FillRow(category.row);
     bool empty = true;
-    for (const RowID row : GetChildRows(category)) {
-      const bool shown = inIsShown(*mCaches->at(mCommands.at(row)));
-      SetRowHidden(row, !shown);
+    for (const CommandCache* cache : category.commands) {
+      const bool shown = inIsShown(*cache);
+      SetRowHidden(mRows.at(cache->commandID), !shown);
       empty = empty && !shown;
     }
-    SetRowHidden(category, empty);
+    SetRowHidden(category.row, empty);
     if (inHasFilter) {
-      SetRowOpen(category, true);
+      SetRowOpen(category.row, true);
     } else if (mFiltering) {
-      SetRowOpen(category, mOpenBefore[category]);
+      SetRowOpen(category.row, mOpenBefore[category.row]);
     }
   }
   mFiltering = inHasFilter;
@@ -97,9 +104,11 @@ int CommandsTree::GetSelectedCommand() const {
   return found == mCommands.end() ? kNoCommand : found->second;
 }
 
-CommandsTree::RowID CommandsTree::FindRow(int inCommand) const {
-  const auto found = mRows.find(inCommand);
-  return found == mRows.end() ? kNoRow : found->second;
+CommandsTree::RowID CommandsTree::FindRow(int inCommand) {
+  const auto cache = mCaches->find(inCommand);
+  if (cache == mCaches->end()) return kNoRow;
+  FillRow(mCategories.at(mPlaces.at(cache->second->category)).row);
+  return mRows.at(inCommand);
 }
 
 void CommandsTree::GoToCommand(int inCommand) {
@@ -118,13 +127,14 @@ void CommandsTree::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
   }
 }
 
-float CommandsTree::GetBestWidth(int inColumn) const {
+float CommandsTree::GetBestWidth(int inColumn) {
   float width = 0;
-  for (const RowID category : mCategories) {
+  for (const Category& category : mCategories) {
+    FillRow(category.row);
     if (inColumn == kCommand) {
-      width = std::max(width, MeasureCell(inColumn, GetText(category, inColumn)));
+      width = std::max(width, MeasureCell(inColumn, GetText(category.row, inColumn)));
     }
-    for (const RowID row : GetChildRows(category))
+    for (const RowID row : GetChildRows(category.row))
       width = std::max(width, MeasureCell(inColumn, GetText(row, inColumn), 1));
   }
   return width;

@@ -8,6 +8,7 @@
 
 #include "drawbot/QtConvert.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/ScopedValue.h"
 
 namespace lumui::controls {
 
@@ -130,7 +131,11 @@ RowModel::Row& RowModel::Add(RowID inParent, const Texts& inTexts) {
   mRows.push_back(std::move(row));
   Row& added = *mRows.back();
   parent->children.push_back(&added);
-  Show(added);
+  if (parent == mFilling) {
+    added.hidden = false;
+  } else {
+    Show(added);
+  }
   return added;
 }
 
@@ -174,6 +179,23 @@ void RowModel::SetHidden(Row& ioRow, bool inHidden) {
   }
 }
 
+void RowModel::Fill(Row& ioRow) {
+  if (!ioRow.unfilled || !mFill) return;
+  ioRow.unfilled = false;
+  const RowID id = ioRow.id;
+  {
+    const lumcore::utility::StScopedValue<const Row*> filling(mFilling, &ioRow);
+    mFill(id);
+  }
+  Row* const row = Find(id);
+  if (!row || NeedReset() || row->children.empty()) return;
+  const bool silent = !IsReached(*row);
+  if (!silent) beginInsertRows(IndexOf(*row, 0), 0, static_cast<int>(row->children.size()) - 1);
+  row->shown = row->children;
+  NumberShown(*row, 0);
+  if (!silent) endInsertRows();
+}
+
 void RowModel::ColumnsChanged() {
   if (NeedReset()) return;
   beginResetModel();
@@ -204,7 +226,15 @@ int RowModel::columnCount(const QModelIndex&) const {
 }
 
 bool RowModel::hasChildren(const QModelIndex& inParent) const {
-  return rowCount(inParent) > 0;
+  return RowAt(inParent).unfilled || rowCount(inParent) > 0;
+}
+
+bool RowModel::canFetchMore(const QModelIndex& inParent) const {
+  return RowAt(inParent).unfilled;
+}
+
+void RowModel::fetchMore(const QModelIndex& inParent) {
+  Fill(RowAt(inParent));
 }
 
 QVariant RowModel::data(const QModelIndex& inIndex, int inRole) const {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractItemModel>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -24,6 +25,7 @@ class RowModel : public QAbstractItemModel {
     int place = -1;  // among the shown rows of the parent
     bool hidden = false;
     bool open = false;
+    bool unfilled = false;
     Texts texts;
     std::vector<Row*> children;
     std::vector<Row*> shown;
@@ -45,6 +47,9 @@ class RowModel : public QAbstractItemModel {
   void SetText(Row& ioRow, int inColumn, const lumcore::UTF16String& inText);
   void SetHidden(Row& ioRow, bool inHidden);
   void ColumnsChanged();
+  // Calls the function that adds the rows below one that has been told to have some.
+  void Fill(Row& ioRow);
+  std::function<void(RowID)> mFill;
 
   // In between no change is told to the view but that everything is new. EndUpdate answers whether
   // anything has changed.
@@ -56,6 +61,8 @@ class RowModel : public QAbstractItemModel {
   int rowCount(const QModelIndex& inParent) const override;
   int columnCount(const QModelIndex& inParent) const override;
   bool hasChildren(const QModelIndex& inParent) const override;
+  bool canFetchMore(const QModelIndex& inParent) const override;
+  void fetchMore(const QModelIndex& inParent) override;
   QVariant data(const QModelIndex& inIndex, int inRole) const override;
   QVariant headerData(int inSection, Qt::Orientation inOrientation, int inRole) const override;
   Qt::ItemFlags flags(const QModelIndex& inIndex) const override;
@@ -75,6 +82,7 @@ class RowModel : public QAbstractItemModel {
   RowID mFirstID = 1;
   bool mUpdating = false;
   bool mResetting = false;
+  const Row* mFilling = nullptr;  // its rows are told to the view together
 };
 
 }  // namespace lumui::controls

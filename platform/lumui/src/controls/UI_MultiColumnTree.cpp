@@ -79,6 +79,20 @@ UI_MultiColumnTree::RowID UI_MultiColumnTree::AddRow(RowID inParent, const Texts
   return mModel->Add(inParent, inTexts).id;
 }
 
+void UI_MultiColumnTree::SetRowUnfilled(RowID inRow) {
+  RowModel::Row& row = mModel->Need(inRow);
+  LUM_INPUT_CONTRACT(row.children.empty());
+  row.unfilled = true;
+}
+
+void UI_MultiColumnTree::SetFillFunction(const boost::function<void(RowID)>& inFunction) {
+  mModel->mFill = inFunction;
+}
+
+void UI_MultiColumnTree::FillRow(RowID inRow) {
+  mModel->Fill(mModel->Need(inRow));
+}
+
 void UI_MultiColumnTree::RemoveRow(RowID inRow) {
   mModel->Remove(inRow);
   AfterRowsWent();

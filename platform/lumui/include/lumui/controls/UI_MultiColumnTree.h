@@ -76,6 +76,11 @@ class LUMUI_API UI_MultiColumnTree : public UI_InteractiveControlView {
 
   // At the end of the parent's rows. Missing texts are empty.
   RowID AddRow(RowID inParent, const Texts& inTexts);
+  // A row without others below it that has some for the user: when it opens, or at FillRow, the
+  // function is called and adds them. It does nothing else to the tree.
+  void SetRowUnfilled(RowID inRow);
+  void SetFillFunction(const boost::function<void(RowID)>& inFunction);
+  void FillRow(RowID inRow);
   // With those below it.
   void RemoveRow(RowID inRow);
   void RemoveAllRows();
