@@ -15,7 +15,8 @@ namespace vek::sharedui {
 
 // What the shortcut dialog shows of one command, and searches. The category is what stands before
 // the first dot of the command's display name and the command what stands behind it; a name without
-// a dot gives neither. The shortcuts are the plain ones, separated by ", ".
+// a dot gives neither. The shortcuts are the plain ones, separated by ", ". The texts in lower case
+// are made for the first search that needs them.
 struct CommandCache {
   int commandID = 0;
   lumcore::UTF16String category;
@@ -26,6 +27,7 @@ struct CommandCache {
   lumcore::UTF16String shortcutsLower;
   lumcore::UTF16String description;
   lumcore::UTF16String descriptionLower;
+  bool hasLower = false;
 };
 
 using CommandCaches = std::map<int, boost::shared_ptr<CommandCache>>;
@@ -41,10 +43,9 @@ VEK_API void RefreshAllShortcuts(CommandCaches& ioCaches);
 
 // Whether one of the four texts holds the filter: as it stands, or in lower case, which the filter
 // then is as well. An empty filter is in all of them.
-VEK_API bool HasText(const CommandCache& inCache, const lumcore::UTF16String& inFilter,
-                     bool inMatchCase);
+VEK_API bool HasText(CommandCache& ioCache, const lumcore::UTF16String& inFilter, bool inMatchCase);
 
-using CategoryOfCommands = std::vector<const CommandCache*>;
+using CategoryOfCommands = std::vector<CommandCache*>;
 // In the order of the categories' names, that without one at the end; the commands by their ids.
 VEK_API std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches);
 VEK_API void SortByName(CategoryOfCommands& ioCategory);

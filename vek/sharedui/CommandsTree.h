@@ -31,7 +31,7 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   void ShowAllShortcuts();
   // Hides what the function answers false for, and the categories that are empty then. A filter
   // opens the rows that are left; without one they are open as they were before it.
-  void Filter(bool inHasFilter, const boost::function<bool(const CommandCache&)>& inIsShown);
+  void Filter(bool inHasFilter, const boost::function<bool(CommandCache&)>& inIsShown);
 
   int GetSelectedCommand() const;  // kNoCommand, for a category as well
   RowID FindRow(int inCommand);    // kNoRow for none
@@ -44,7 +44,7 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
  private:
   struct Category {
     RowID row;
-    std::vector<const CommandCache*> commands;
+    CategoryOfCommands commands;
   };
 
   void FillCategory(RowID inRow);

@@ -74,14 +74,14 @@ class VEK_API ShortcutEditor {
 
   void SetFilter(const lumcore::UTF16String& inText, bool inMatchCase);
   bool HasFilter() const { return !mFilter.empty(); }
-  bool IsShown(const CommandCache& inCache) const;
+  bool IsShown(CommandCache& inCache) const;
   const CommandCaches& GetCaches() const { return mCaches; }
 
  private:
   using KeyCommand = uisupport::KeyCommand;
 
   void FillSets();
-  void LoadCurrentSet();
+  void LoadCurrentSet(const lumcore::UTF8String& inBefore);
   void ShowSetState(int inIndex);
   bool SaveUnder(const lumcore::UTF16String& inName, bool inOverwrite);
   void SaveToCurrent(bool inDirtyIsCustom);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <boost/make_shared.hpp>
 #include <functional>
+#include <string_view>
 #include <tuple>
 #include <unordered_map>
 #include <vector>
@@ -32,8 +33,24 @@ void AppendShortcut(UTF16String& ioText, uisupport::KeyCommand& inMapping) {
 
 void SetShortcuts(CommandCache& ioCache, const UTF16String& inText) {
   ioCache.shortcuts = inText;
-  ioCache.shortcutsLower = ToLowerCase(inText);
+  if (ioCache.hasLower) ioCache.shortcutsLower = ToLowerCase(inText);
 }
+
+void NeedLower(CommandCache& ioCache) {
+  if (ioCache.hasLower) return;
+  ioCache.categoryLower = ToLowerCase(ioCache.category);
+  ioCache.commandLower = ToLowerCase(ioCache.command);
+  ioCache.shortcutsLower = ToLowerCase(ioCache.shortcuts);
+  ioCache.descriptionLower = ToLowerCase(ioCache.description);
+  ioCache.hasLower = true;
+}
+
+struct HashOfUnits {
+  std::size_t operator()(const UTF16String& inText) const {
+    return std::hash<std::string_view>()(std::string_view(
+        reinterpret_cast<const char*>(inText.data()), inText.size() * sizeof(inText[0])));
+  }
+};
 
 bool Holds(const UTF16String& inText, const UTF16String& inFilter) {
   return inText.find(inFilter) != UTF16String::npos;
@@ -44,7 +61,7 @@ bool Holds(const UTF16String& inText, const UTF16String& inFilter) {
 std::pair<UTF16String, UTF16String> SplitDisplayName(const UTF16String& inName) {
   const std::size_t dot = inName.find('.');
   if (dot == UTF16String::npos) return {};
-  return {inName.substr(0, dot), inName.substr(dot + 1)};
+  return {UTF16String(inName, 0, dot), UTF16String(inName, dot + 1)};
 }
 
 CommandCaches MakeCommandCaches() {
@@ -54,11 +71,7 @@ CommandCaches MakeCommandCaches() {
     const auto cache = boost::make_shared<CommandCache>();
     cache->commandID = it->first;
     std::tie(cache->category, cache->command) = SplitDisplayName(it->second.GetDisplayName());
-    UTF16String name;
-    registry.CommandLookup(it->first, name, cache->description);
-    cache->categoryLower = ToLowerCase(cache->category);
-    cache->commandLower = ToLowerCase(cache->command);
-    cache->descriptionLower = ToLowerCase(cache->description);
+    cache->description = it->second.GetDescription();
     caches.emplace_hint(caches.end(), it->first, cache);
   }
   RefreshAllShortcuts(caches);
@@ -89,27 +102,27 @@ void RefreshAllShortcuts(CommandCaches& ioCaches) {
   }
 }
 
-bool HasText(const CommandCache& inCache, const UTF16String& inFilter, bool inMatchCase) {
+bool HasText(CommandCache& ioCache, const UTF16String& inFilter, bool inMatchCase) {
   if (inFilter.empty()) return true;
   if (inMatchCase) {
-    return Holds(inCache.category, inFilter) || Holds(inCache.command, inFilter) ||
-           Holds(inCache.shortcuts, inFilter) || Holds(inCache.description, inFilter);
+    return Holds(ioCache.category, inFilter) || Holds(ioCache.command, inFilter) ||
+           Holds(ioCache.shortcuts, inFilter) || Holds(ioCache.description, inFilter);
   }
-  return Holds(inCache.categoryLower, inFilter) || Holds(inCache.commandLower, inFilter) ||
-         Holds(inCache.shortcutsLower, inFilter) || Holds(inCache.descriptionLower, inFilter);
+  NeedLower(ioCache);
+  return Holds(ioCache.categoryLower, inFilter) || Holds(ioCache.commandLower, inFilter) ||
+         Holds(ioCache.shortcutsLower, inFilter) || Holds(ioCache.descriptionLower, inFilter);
 }
 
 std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches) {
-  std::map<UTF16String, CategoryOfCommands> byName;
+  std::unordered_map<UTF16String, CategoryOfCommands, HashOfUnits> byName;
   for (const auto& [command, cache] : inCaches)
     byName[cache->category].push_back(cache.get());
   std::vector<CategoryOfCommands> categories;
   for (auto& [name, commands] : byName)
     categories.push_back(std::move(commands));
   const auto order = [](const CategoryOfCommands& inCategory) {
-    const CommandCache& cache = *inCategory.front();
-    return std::make_tuple(cache.category.empty(), std::cref(cache.categoryLower),
-                           std::cref(cache.category));
+    const UTF16String& category = inCategory.front()->category;
+    return std::make_tuple(category.empty(), ToLowerCase(category), std::cref(category));
   };
   std::sort(categories.begin(), categories.end(),
             [&](const auto& inA, const auto& inB) { return order(inA) < order(inB); });
@@ -117,6 +130,8 @@ std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches)
 }
 
 void SortByName(CategoryOfCommands& ioCategory) {
+  for (CommandCache* cache : ioCategory)
+    NeedLower(*cache);
   std::stable_sort(ioCategory.begin(), ioCategory.end(),
                    [](const CommandCache* inA, const CommandCache* inB) {
                      return inA->commandLower < inB->commandLower;

@@ -76,15 +76,14 @@ void CommandsTree::ShowAllShortcuts() {
     ShowShortcuts(*mCaches->at(command));
 }
 
-void CommandsTree::Filter(bool inHasFilter,
-                          const boost::function<bool(const CommandCache&)>& inIsShown) {
+void CommandsTree::Filter(bool inHasFilter, const boost::function<bool(CommandCache&)>& inIsShown) {
   const StUpdate update(*this);
   if (inHasFilter && !mFiltering) mOpenBefore.clear();
   for (const Category& category : mCategories) {
     if (inHasFilter && !mFiltering) mOpenBefore[category.row] = IsRowOpen(category.row);
     FillRow(category.row);
     bool empty = true;
-    for (const CommandCache* cache : category.commands) {
+    for (CommandCache* cache : category.commands) {
       const bool shown = inIsShown(*cache);
       SetRowHidden(mRows.at(cache->commandID), !shown);
       empty = empty && !shown;

@@ -12,7 +12,7 @@ namespace vek::sharedui {
 void ShortcutDialog::FilterChanged() {
   mEditor.SetFilter(mSearchBox->GetText(), mMatchCase->GetDownState());
   mTree->Filter(mEditor.HasFilter(),
-                [this](const CommandCache& inCache) { return mEditor.IsShown(inCache); });
+                [this](CommandCache& inCache) { return mEditor.IsShown(inCache); });
 }
 
 void ShortcutDialog::SelectionChanged() {

@@ -203,7 +203,7 @@ void ShortcutEditor::SetFilter(const UTF16String& inText, bool inMatchCase) {
   mMatchCase = inMatchCase;
 }
 
-bool ShortcutEditor::IsShown(const CommandCache& inCache) const {
+bool ShortcutEditor::IsShown(CommandCache& inCache) const {
   return HasText(inCache, mMatchCase ? mFilter : mFilterLower, mMatchCase);
 }
 

@@ -73,9 +73,8 @@ void ShortcutEditor::Open() {
 }
 
 // A load that fails leaves no mappings at all, which the next save would write.
-void ShortcutEditor::LoadCurrentSet() {
+void ShortcutEditor::LoadCurrentSet(const lumcore::UTF8String& inBefore) {
   KeyCommandManager& manager = KeyCommandManager::Get();
-  const lumcore::UTF8String before = LiveKeys();
   const File custom = FileOf(CustomSetName());
   try {
     if (IndexOfCurrentSet() > 0) {
@@ -87,7 +86,7 @@ void ShortcutEditor::LoadCurrentSet() {
       manager.LoadKeyMappingsFromBuffer(mDefaultKeys);
     }
   } catch (...) {
-    manager.LoadKeyMappingsFromBuffer(before);
+    manager.LoadKeyMappingsFromBuffer(inBefore);
     throw;
   }
 }
@@ -106,8 +105,10 @@ void ShortcutEditor::FillSets() {
   std::vector<UTF16String> items = {LocalizedText(ShortcutText::kDefaultSet)};
   for (UTF16String& name : SetsIn(dir))
     items.push_back(std::move(name));
+  // Nothing has been edited when the dialog opens.
+  const lumcore::UTF8String before = mItems.empty() ? mSnapshot : LiveKeys();
   mItems.swap(items);
-  LoadCurrentSet();
+  LoadCurrentSet(before);
   // What is to be undone was done to other mappings.
   mUndoKind = kNothing;
   mRemovedKeys.clear();
