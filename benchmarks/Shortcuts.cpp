@@ -123,7 +123,7 @@ int main(int argc, char** argv) {
   lumui::ui::Application application(argc, argv);
   const lumcore::filesupport::Dir folder(lumcore::filesupport::Dir::TempDir(),
                                          "vek-bench-shortcuts");
-  lumcore::config::SetClientPrefsDir(folder.GetFullPath());
+  lumcore::config::SetClientPrefsDir(folder.FullPath());
   const int result = bench::Run("shortcuts", argc, argv,
                                 {
                                     {"open the shortcut dialog, painted, 5,000 commands", "ms",

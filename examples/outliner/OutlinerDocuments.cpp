@@ -31,7 +31,7 @@ namespace {
 bool AreSame(const File& inA, const File& inB) {
   if (inA.GetPath().empty() || inB.GetPath().empty()) return false;
   std::error_code ignored;  // a file that is not there is the same as none
-  return inA.GetFullPath() == inB.GetFullPath() ||
+  return inA.FullPath() == inB.FullPath() ||
          std::filesystem::equivalent(inA.GetPath(), inB.GetPath(), ignored);
 }
 
@@ -72,7 +72,7 @@ OutlineDocument& OutlinerApp::Add(std::unique_ptr<OutlineDocument> inDocument) {
       [this, &document](const File& inFile) { CheckFileOf(document, inFile); },
       [this](const File& inFile) { AddRecentFile(inFile); });
   DocumentPushBack(inDocument.release());
-  SetDocument(&document);
+  ShowOutline(document);
   return document;
 }
 
@@ -109,6 +109,7 @@ OutlineDocument& OutlinerApp::OpenOutline(const File& inFile) {
 
 void OutlinerApp::ShowOutline(OutlineDocument& inDocument) {
   SetDocument(&inDocument);
+  ShowOutlinePanel();
 }
 
 bool OutlinerApp::CloseOutline(OutlineDocument& inDocument) {

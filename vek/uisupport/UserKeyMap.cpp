@@ -49,7 +49,7 @@ bool LoadSet(const UTF16String& inName) {
   const Dir dir(Dir::PrefDir(), "Shortcuts");
   try {
     KeyCommandManager::Get().LoadKeyMappings(
-        File(dir.GetFullPath() + ToUTF16("/") + inName + ToUTF16(".xml")));
+        File(dir.FullPath() + ToUTF16("/") + inName + ToUTF16(".xml")));
     return true;
   } catch (...) {  // whatever it is: the default map takes its place, for whoever starts
     return false;

@@ -65,7 +65,7 @@ ShortcutEditor::~ShortcutEditor() = default;
 
 // Behind the path as text, so that a name that is no UTF-8 leads back to its file.
 File ShortcutEditor::FileOf(const UTF16String& inName) const {
-  return File(SetsDir().GetFullPath() + ToUTF16("/") + inName + ToUTF16(".xml"));
+  return File(SetsDir().FullPath() + ToUTF16("/") + inName + ToUTF16(".xml"));
 }
 
 void ShortcutEditor::Open() {
