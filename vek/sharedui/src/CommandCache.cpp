@@ -118,6 +118,7 @@ std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches)
   for (const auto& [command, cache] : inCaches)
     byName[cache->category].push_back(cache.get());
   std::vector<CategoryOfCommands> categories;
+  categories.reserve(byName.size());
   for (auto& [name, commands] : byName)
     categories.push_back(std::move(commands));
   const auto order = [](const CategoryOfCommands& inCategory) {
