@@ -11,6 +11,7 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Window.h"
 #include "ui/EventGate.h"
@@ -145,6 +146,13 @@ void UI_Node::UI_SetLocalRectF(const lumcore::geom::RectT<float>& inRect) {
 void UI_Node::UI_SizeChanged(const lumcore::geom::RectT<float>&) {}
 
 void UI_Node::UI_Draw(drawbot::Drawbot*) const {}
+
+void UI_Node::UI_DispatchDrawFromRoot(const drawbot::ColorRGBA& inGround,
+                                      drawbot::Drawbot* inDrawbot, bool inFill) const {
+  if (!inFill) return;
+  const lumcore::geom::RectT<float> all(0, 0, mLocalRect.width, mLocalRect.height);
+  inDrawbot->FillRect(all, inGround);
+}
 
 bool UI_Node::UI_DoMouseEvent(UI_Node*, const MouseEvent&) {
   return false;

@@ -18,6 +18,7 @@
 
 namespace lumui::drawbot {
 class Drawbot;
+struct ColorRGBA;
 class SupplierInterface;
 }  // namespace lumui::drawbot
 
@@ -92,6 +93,10 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // Draws the node itself, in its local coordinates (content coordinates in a scroll view), clipped
   // to it. The children draw themselves over it, later. The base operation draws nothing.
   virtual void UI_Draw(drawbot::Drawbot* inDrawbot) const;
+  // For a node that is a ground for others: fills all of it with the colour, if inFill says so. What
+  // it holds is drawn over that, as always.
+  void UI_DispatchDrawFromRoot(const drawbot::ColorRGBA& inGround, drawbot::Drawbot* inDrawbot,
+                               bool inFill) const;
   // For the events below inNode is where the event began, also when an ancestor is asked. True
   // takes the event; else the parent is asked. The base operations answer false.
   virtual bool UI_DoMouseEvent(UI_Node* inNode, const MouseEvent& inEvent);
