@@ -111,11 +111,11 @@ void KeyboardView::DrawKey(drawbot::Drawbot& ioDrawbot, std::size_t inKey) const
   const float line = font->GetLineHeight();
   const RectT<float> cap(body.x + kMargin, body.y + kMargin - 1, body.width - 2 * kMargin, line);
   ioDrawbot.DrawStringInRect(key.cap, font, text, cap);
-  if (use.command != 0) DrawUse(ioDrawbot, body, use);
+  if (use.command != 0) DrawUse(ioDrawbot, body, cap.Bottom(), use);
 }
 
 void KeyboardView::DrawUse(drawbot::Drawbot& ioDrawbot, const RectT<float>& inRect,
-                           const KeyUse& inUse) const {
+                           float inCapBottom, const KeyUse& inUse) const {
   const auto found = mCommands.find(inUse.command);
   if (found == mCommands.end()) return;
   const float pitch = GetPitch();
@@ -123,8 +123,11 @@ void KeyboardView::DrawUse(drawbot::Drawbot& ioDrawbot, const RectT<float>& inRe
       nullptr, std::clamp(pitch * kNameSize, kLeastText, kMostName));
   const float line = font->GetAscent() + font->GetDescent();
   const float width = inRect.width - 2 * (kMargin + kNameMargin) + 4;
-  const Lines lines = Broken(found->second.name, font, width);
-  const float height = 2 * line + 2;
+  // Small keys have room for one line below the cap.
+  const bool roomForTwo = inRect.height >= inCapBottom - inRect.y + 2 * line + 4;
+  const Lines lines = roomForTwo ? Broken(found->second.name, font, width)
+                                 : Lines{found->second.name, lumcore::UTF16String()};
+  const float height = (roomForTwo ? 2 : 1) * line + 2;
   const RectT<float> plate(inRect.x + 3, inRect.Bottom() - height - 3, inRect.width - 6, height);
   ioDrawbot.FillPath(GetRoundedRectPath(plate, kRadius - 1),
                      inUse.isProtected ? ThemeColor(colors::kColor_WarningBackground, 0.7f)

@@ -70,7 +70,7 @@ class LUMUI_API KeyboardView : public ui::UI_SubView {
   void ShowToolTip();
   void DrawKey(drawbot::Drawbot& ioDrawbot, std::size_t inKey) const;
   void DrawUse(drawbot::Drawbot& ioDrawbot, const lumcore::geom::RectT<float>& inRect,
-               const KeyUse& inUse) const;
+               float inCapBottom, const KeyUse& inUse) const;
 
   const IDelegateInterface& mDelegate;
   KeyboardForm mForm;
