@@ -20,6 +20,7 @@ class TreeWidget : public QTreeView {
   void ShowOptions(const UI_MultiColumnTree::Options& inOptions);
   // After all rows are new: the open ones, the selection, and the row at the top of the view.
   void RestoreState(UI_MultiColumnTree::RowID inTop);
+  void LayOutSoon() { scheduleDelayedItemsLayout(); }
   void ShowSelection();
   UI_MultiColumnTree::RowID GetTopRow() const;
   QRect CellRect(UI_MultiColumnTree::RowID inRow, int inColumn) const;  // null if not in view

@@ -60,6 +60,7 @@ bool RowModel::NeedReset() {
 bool RowModel::EndUpdate() {
   mUpdating = false;
   if (!std::exchange(mResetting, false)) return false;
+  CollectShown(*mRoot);
   endResetModel();
   return true;
 }
@@ -69,7 +70,21 @@ void RowModel::NumberShown(Row& ioParent, std::size_t inFirst) {
     ioParent.shown[i]->place = static_cast<int>(i);
 }
 
+// Many changes count their rows once.
+void RowModel::CollectShown(Row& ioParent) {
+  ioParent.shown.clear();
+  for (Row* child : ioParent.children) {
+    child->place = child->hidden ? -1 : static_cast<int>(ioParent.shown.size());
+    if (!child->hidden) ioParent.shown.push_back(child);
+    if (!child->children.empty()) CollectShown(*child);
+  }
+}
+
 void RowModel::Show(Row& ioRow) {
+  if (NeedReset()) {
+    ioRow.hidden = false;
+    return;
+  }
   Row& parent = *ioRow.parent;
   // Behind the last shown row that comes before it.
   std::size_t place = parent.shown.size();
@@ -81,23 +96,27 @@ void RowModel::Show(Row& ioRow) {
     }
   }
   const auto at = static_cast<int>(place);
-  const bool reset = NeedReset() || !IsReached(parent);
-  if (!reset) beginInsertRows(IndexOf(parent, 0), at, at);
+  const bool silent = !IsReached(parent);
+  if (!silent) beginInsertRows(IndexOf(parent, 0), at, at);
   ioRow.hidden = false;
   parent.shown.insert(parent.shown.begin() + at, &ioRow);
   NumberShown(parent, place);
-  if (!reset) endInsertRows();
+  if (!silent) endInsertRows();
 }
 
 void RowModel::Hide(Row& ioRow) {
+  if (NeedReset()) {
+    ioRow.hidden = true;
+    return;
+  }
   Row& parent = *ioRow.parent;
-  const bool reset = NeedReset() || !IsReached(parent);
-  if (!reset) beginRemoveRows(IndexOf(parent, 0), ioRow.place, ioRow.place);
+  const bool silent = !IsReached(parent);
+  if (!silent) beginRemoveRows(IndexOf(parent, 0), ioRow.place, ioRow.place);
   parent.shown.erase(parent.shown.begin() + ioRow.place);
   NumberShown(parent, static_cast<std::size_t>(ioRow.place));
   ioRow.hidden = true;
   ioRow.place = -1;
-  if (!reset) endRemoveRows();
+  if (!silent) endRemoveRows();
 }
 
 RowModel::Row& RowModel::Add(RowID inParent, const Texts& inTexts) {

@@ -66,6 +66,7 @@ class RowModel : public QAbstractItemModel {
   void Forget(Row& inRow);
   void Show(Row& ioRow);
   void Hide(Row& ioRow);
+  static void CollectShown(Row& ioParent);
   static void NumberShown(Row& ioParent, std::size_t inFirst);
 
   const std::vector<UI_MultiColumnTree::Column>& mColumns;

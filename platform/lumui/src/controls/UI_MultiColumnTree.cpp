@@ -11,6 +11,7 @@
 #include "controls/RowModel.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/ScopedValue.h"
 
 namespace lumui::controls {
 
@@ -186,8 +187,10 @@ void UI_MultiColumnTree::SetCellNode(RowID inRow, int inColumn,
   }
   TreeWidget* const widget = WidgetOf(*this);
   if (!widget) return;
-  if (heightBefore != inHeight) widget->doItemsLayout();
   widget->viewport()->update();
+  // A node that finds out its height by its width says so while it is being placed.
+  if (heightBefore != inHeight && mPlacing) return widget->LayOutSoon();
+  if (heightBefore != inHeight) widget->doItemsLayout();
   PlaceCellNodes();
 }
 
@@ -200,7 +203,8 @@ ui::UI_Node* UI_MultiColumnTree::GetCellNode(RowID inRow, int inColumn) const {
 
 void UI_MultiColumnTree::PlaceCellNodes() {
   const TreeWidget* const widget = WidgetOf(*this);
-  if (!widget || mUpdateDepth > 0) return;
+  if (!widget || mUpdateDepth > 0 || mPlacing) return;
+  const lumcore::utility::StScopedValue<bool> placing(mPlacing, true);
   const std::vector<Cell> cells = mCells;
   for (const Cell& cell : cells) {
     const QRect rect = widget->CellRect(cell.row, cell.column);

@@ -135,6 +135,7 @@ class LUMUI_API UI_MultiColumnTree : public UI_InteractiveControlView {
   RowID mSelected = kNoRow;
   RowID mTopRow = kNoRow;  // in view when the update began
   int mUpdateDepth = 0;
+  bool mPlacing = false;
 };
 
 }  // namespace lumui::controls

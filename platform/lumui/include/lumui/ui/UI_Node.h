@@ -122,6 +122,10 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   bool UI_SetKeyboardFocus(int inReason);
   bool UI_HasKeyboardFocus() const;
   void UI_SetWantsKeyboardFocus(bool inWants);
+  // While the node has the focus, each key is an event for it before any mnemonic: for who takes
+  // keys as such, to be stored.
+  void UI_SetClaimsAllKeys(bool inClaims) { mClaimsAllKeys = inClaims; }
+  bool UI_ClaimsAllKeys() const { return mClaimsAllKeys; }
 
   void UI_SetWantsPrePointerEvents(bool inWants);
   // Offers the event to the nodes under inRoot (itself included) that want it, in the order in
@@ -169,6 +173,7 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   bool mVisible = true;
   bool mDisabled = false;
   bool mWantsFocus = false;
+  bool mClaimsAllKeys = false;
   std::unique_ptr<NodePeer> mPeer;
 };
 
