@@ -41,6 +41,8 @@ TitleBar::TitleBar(QWidget* inParent, Actions inActions)
   row->addWidget(mLabel, 1);
   mMenuButton =
       AddButton(QStyle::SP_TitleBarUnshadeButton, "$$$/lumworkspace/Dock/Menu=Panel Menu");
+  // The picture of the style is black, which no dark ground shows; the arrow follows the palette.
+  mMenuButton->setArrowType(Qt::DownArrow);
   mFloatButton = AddButton(QStyle::SP_TitleBarNormalButton, kFloatKey);
   const auto guarded = [](const std::function<void()>& inAction) {
     lumui::ui::EventGate::Get()->RunGuarded(inAction);
