@@ -42,8 +42,8 @@ class VEK_API GenericPanelCreatorBase {
   // archive. Of two creators with one command or one type, the later one counts for it.
   GenericPanelCreatorBase(
       const lumcore::UTF8String& inTabType, const char* inTitleKey, int inCommandID,
-      const lumcore::UTF8String& inXmlResourceName,
-      const boost::function<lumui::utility::ResourceManager*()>& inResourceManager = {});
+      lumcore::UTF8String inXmlResourceName,
+      boost::function<lumui::utility::ResourceManager*()> inResourceManager = {});
   virtual ~GenericPanelCreatorBase();
   GenericPanelCreatorBase(const GenericPanelCreatorBase&) = delete;
   GenericPanelCreatorBase& operator=(const GenericPanelCreatorBase&) = delete;

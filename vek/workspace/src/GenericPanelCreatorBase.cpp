@@ -3,6 +3,8 @@
 
 #include "vek/workspace/GenericPanelCreatorBase.h"
 
+#include <utility>
+
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumworkspace/workspace/TabPanel.h"
@@ -27,13 +29,13 @@ boost::intrusive_ptr<TabPanel> GenericPanelCreatorBase::TabCreator::CreateTabPan
 
 GenericPanelCreatorBase::GenericPanelCreatorBase(
     const lumcore::UTF8String& inTabType, const char* inTitleKey, int inCommandID,
-    const lumcore::UTF8String& inXmlResourceName,
-    const boost::function<lumui::utility::ResourceManager*()>& inResourceManager)
+    lumcore::UTF8String inXmlResourceName,
+    boost::function<lumui::utility::ResourceManager*()> inResourceManager)
     : mTabType(inTabType),
       mTitleKey(lumcore::utility::ToUTF8(std::string_view(inTitleKey))),
       mCommandID(inCommandID),
-      mXmlResourceName(inXmlResourceName),
-      mResourceManager(inResourceManager) {
+      mXmlResourceName(std::move(inXmlResourceName)),
+      mResourceManager(std::move(inResourceManager)) {
   GenericPanelRegistry::GetInstance().RegisterPanelCreator(this);
 }
 

@@ -148,7 +148,10 @@ void KeyboardMap::SelectCommand(int inCommand) {
   mList->SelectCommand(inCommand);
 }
 
+// The delegate may ask the user, and the window with it and all this be closed meanwhile.
 void KeyboardMap::Assign() {
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  const boost::intrusive_ptr<ui::UI_Node> window = UI_GetWindowNode();
   const KeyboardCode key = mKeyboard->GetSelectedKey();
   const int command = mList->GetSelectedCommand();
   if (key != KeyboardCode() && command != 0) {
@@ -157,6 +160,8 @@ void KeyboardMap::Assign() {
 }
 
 void KeyboardMap::Remove() {
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  const boost::intrusive_ptr<ui::UI_Node> window = UI_GetWindowNode();
   const KeyboardCode key = mKeyboard->GetSelectedKey();
   if (key != KeyboardCode()) mDelegate.Remove(key, mKeyboard->GetModifiers());
 }
@@ -240,6 +245,7 @@ void KeyboardMap::Dragged(const PointT<float>& inPosition, bool inDone, bool inC
   if (inCancelled || !dragged || key == KeyboardCode()) return;
   mKeyboard->SetSelectedKey(key);
   ShowState();
+  const boost::intrusive_ptr<ui::UI_Node> window = UI_GetWindowNode();
   mDelegate.Assign(command, key, mKeyboard->GetModifiers());
 }
 
