@@ -15,7 +15,6 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
-#include "lumui/ui/OS_Window.h"
 #include "vek/app/DocumentApplication.h"
 
 namespace outliner {
@@ -38,6 +37,7 @@ DocumentFrame::DocumentFrame(Functions inFunctions) : mFunctions(std::move(inFun
   mTabs.reset(
       new DocumentTabs([this](std::size_t inTab) { mFunctions.show(*mPages[inTab].document); },
                        [this](std::size_t inTab) { mFunctions.close(*mPages[inTab].document); }));
+  mTabs->UI_SetNodeID("documents");
   mTabs->UI_Show(false);
   UI_AddChild(mTabs);
   vek::app::DocumentApplication::GetDocStatusNotifier().AddListener(this);
@@ -120,13 +120,17 @@ void DocumentFrame::ShowState() {
     titles.push_back(TabTitleOf(*page.document));
   const std::size_t current = mCurrent ? FindPage(*mCurrent) : titles.size();
   mTabs->SetTabs(titles, current);
-  auto* const window = UI_GetWindowNode();
-  if (!window) return;
-  window->UI_SetTitle(
-      current < titles.size()
-          ? lumcore::utility::ReplaceInString(
-                Localized("$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"), {titles[current]})
-          : Localized("$$$/outliner/Window/NoDocument=outliner"));
+  mFunctions.stateChanged();
+}
+
+UTF16String DocumentFrame::GetWindowTitle() const {
+  if (!mCurrent) return Localized("$$$/outliner/Window/NoDocument=outliner");
+  return lumcore::utility::ReplaceInString(
+      Localized("$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"), {TabTitleOf(*mCurrent)});
+}
+
+void DocumentFrame::FocusRows() {
+  if (mCurrent) mPages[FindPage(*mCurrent)].pane->FocusRows();
 }
 
 void DocumentFrame::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
