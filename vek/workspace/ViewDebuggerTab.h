@@ -62,8 +62,7 @@ class VEK_API ViewDebuggerTab : public lumworkspace::workspace::TabPanel {
   using ChangedFunction = lumui::controls::UI_InteractiveControlView::ChangedFunction;
   using RowID = int;
 
-  boost::intrusive_ptr<lumui::controls::UI_TextButton> AddButton(
-      const char* inID, const char* inTextKey, const boost::function<void()>& inPressed);
+  void AddButton(const char* inID, const char* inTextKey, const boost::function<void()>& inPressed);
   void NodeChanged(const lumui::ui::UI_Node& inNode);
   void PostRefresh() const;
   void ShowRows(const std::vector<NodeListing::Entry>& inEntries);

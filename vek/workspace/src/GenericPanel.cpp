@@ -25,7 +25,6 @@ using lumcore::UTF8String;
 using lumcore::geom::RectT;
 using lumcore::utility::StKeepAlive;
 using lumui::ui::UI_NodeBuilder;
-using lumworkspace::workspace::TabPanel;
 using ControllerP = boost::intrusive_ptr<GenericPanelController>;
 
 GenericPanel::GenericPanel(lumworkspace::workspace::Workspace* inWorkspace,

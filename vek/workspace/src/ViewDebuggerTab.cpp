@@ -115,8 +115,8 @@ ViewDebuggerTab::~ViewDebuggerTab() {
     function->clear();
 }
 
-boost::intrusive_ptr<UI_TextButton> ViewDebuggerTab::AddButton(
-    const char* inID, const char* inTextKey, const boost::function<void()>& inPressed) {
+void ViewDebuggerTab::AddButton(const char* inID, const char* inTextKey,
+                                const boost::function<void()>& inPressed) {
   const boost::intrusive_ptr<UI_TextButton> button(new UI_TextButton);
   button->UI_SetNodeID(inID);
   button->SetText(Localized(inTextKey));
@@ -124,7 +124,6 @@ boost::intrusive_ptr<UI_TextButton> ViewDebuggerTab::AddButton(
   button->NotifyWhenChanged(mFunctions.back());
   mButtons.push_back(button);
   UI_AddChild(button);
-  return button;
 }
 
 void ViewDebuggerTab::NodeChanged(const UI_Node& inNode) {
