@@ -48,6 +48,12 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }, nullptr};
   mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }, nullptr};
   mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};
+  mEntries[kCommandWorkspaceReset] = {[this] { return mApp.CanResetWorkspace(); },
+                                      [this] { mApp.ResetWorkspace(); }, nullptr};
+  for (const int panel : {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands}) {
+    mEntries[panel] = {always, [this, panel] { mApp.TogglePanel(panel); },
+                       [this, panel] { return mApp.IsPanelInFront(panel); }};
+  }
   AddBrightness();
 }
 
@@ -83,7 +89,7 @@ bool ApplicationCommands::DoUnifiedDispatch(int inCommand, CommandEnableQuery* i
     if (entry.isChecked) *ioQuery->checked = entry.isChecked();
   } else if (entry.isEnabled()) {
     // What was typed is part of its outline before anything else happens to that.
-    if (mApp.GetOutline()) mApp.GetOutline()->GetEditor().Commit();
+    if (mApp.GetOutline()) mApp.GetOutline()->CommitTyping();
     entry.execute();
   }
   return true;

@@ -28,22 +28,6 @@ UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
-// A key that has a mapping for its first press and one for being held stands here once. The key
-// that menus show comes first.
-UTF16String KeysOf(int inCommand) {
-  std::list<vek::uisupport::KeyCommand*> mappings;
-  vek::uisupport::KeyCommandManager::Get().GetShortcutList(inCommand, mappings);
-  std::vector<UTF16String> keys;
-  for (auto mapping = mappings.rbegin(); mapping != mappings.rend(); ++mapping) {
-    const UTF16String key = (*mapping)->GetAsString();
-    if (!key.empty() && std::find(keys.begin(), keys.end(), key) == keys.end()) keys.push_back(key);
-  }
-  UTF16String text;
-  for (const UTF16String& key : keys)
-    text += text.empty() ? key : ToUTF16(", ") + key;
-  return text;
-}
-
 template <class MakeRow>
 std::vector<Row> MakeRows(Row inHead, MakeRow inMakeRow) {
   std::vector<Row> rows{std::move(inHead)};
@@ -75,13 +59,29 @@ std::string EscapeForPage(const UTF16String& inText) {
 
 }  // namespace
 
+// A key that has a mapping for its first press and one for being held stands here once. The key
+// that menus show comes first.
+UTF16String KeysOfCommand(int inCommand) {
+  std::list<vek::uisupport::KeyCommand*> mappings;
+  vek::uisupport::KeyCommandManager::Get().GetShortcutList(inCommand, mappings);
+  std::vector<UTF16String> keys;
+  for (auto mapping = mappings.rbegin(); mapping != mappings.rend(); ++mapping) {
+    const UTF16String key = (*mapping)->GetAsString();
+    if (!key.empty() && std::find(keys.begin(), keys.end(), key) == keys.end()) keys.push_back(key);
+  }
+  UTF16String text;
+  for (const UTF16String& key : keys)
+    text += text.empty() ? key : ToUTF16(", ") + key;
+  return text;
+}
+
 std::string RenderCommandTable() {
   const Row head{Localized("$$$/outliner/List/Id=id"), Localized("$$$/outliner/List/Name=name"),
                  Localized("$$$/outliner/List/Text=text"),
                  Localized("$$$/outliner/List/Keys=keys")};
   const auto rows = MakeRows(head, [](const auto& inCommand) {
     return Row{ToUTF16(std::to_string(inCommand.GetCommandID())), inCommand.GetName(),
-               inCommand.GetDisplayName(), KeysOf(inCommand.GetCommandID())};
+               inCommand.GetDisplayName(), KeysOfCommand(inCommand.GetCommandID())};
   });
   std::vector<std::size_t> widths(head.size());
   for (const Row& row : rows) {
@@ -100,7 +100,7 @@ std::string RenderCommandPage() {
                  Localized("$$$/outliner/Page/Keys=Keys")};
   const auto rows = MakeRows(head, [](const auto& inCommand) {
     return Row{inCommand.GetName(), inCommand.GetDisplayName(), inCommand.GetDescription(),
-               KeysOf(inCommand.GetCommandID())};
+               KeysOfCommand(inCommand.GetCommandID())};
   });
   std::string page =
       "# " + ToStdString(Localized("$$$/outliner/Page/Title=Commands of the outliner")) + "\n\n";

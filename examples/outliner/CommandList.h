@@ -5,7 +5,12 @@
 
 #include <string>
 
+#include "lumcore/Strings.h"
+
 namespace outliner {
+
+// The keys of a command, the one that menus show first: "Return, Enter".
+lumcore::UTF16String KeysOfCommand(int inCommand);
 
 // All commands of the registry with their keys, in the order of their ids, in UTF-8. Keys of
 // contexts are not among them, as in menus.

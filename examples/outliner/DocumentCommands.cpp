@@ -45,7 +45,7 @@ bool DocumentCommands::DoUnifiedDispatch(int inCommand,
     *ioQuery->enabled = entry.isEnabled();
     if (entry.title) *ioQuery->title = entry.title();
   } else {
-    if (inCommand != kCommandGiveUpText) mDocument.GetEditor().Commit();
+    if (inCommand != kCommandGiveUpText) mDocument.CommitTyping();
     if (entry.isEnabled()) entry.execute();
   }
   return true;
@@ -93,16 +93,14 @@ void DocumentCommands::AddTextCommands() {
 // A text that is being typed is the newest edit already, though it is no deed yet: it is what Undo
 // takes back, and it leaves nothing to redo.
 void DocumentCommands::AddUndo() {
-  mEntries[kCommandUndo] = {
-      [this] { return mDocument.GetEditor().IsModified() || edits::CanUndo(mDocument); },
-      [this] { edits::Undo(mDocument); }, [this] { return UndoTitle(); }};
-  mEntries[kCommandRedo] = {
-      [this] { return !mDocument.GetEditor().IsModified() && edits::CanRedo(mDocument); },
-      [this] { edits::Redo(mDocument); }, [this] { return RedoTitle(); }};
+  mEntries[kCommandUndo] = {[this] { return mDocument.IsTyping() || edits::CanUndo(mDocument); },
+                            [this] { edits::Undo(mDocument); }, [this] { return UndoTitle(); }};
+  mEntries[kCommandRedo] = {[this] { return !mDocument.IsTyping() && edits::CanRedo(mDocument); },
+                            [this] { edits::Redo(mDocument); }, [this] { return RedoTitle(); }};
 }
 
 UTF16String DocumentCommands::UndoTitle() const {
-  if (mDocument.GetEditor().IsModified()) {
+  if (mDocument.IsTyping()) {
     return lumcore::config::Localizer::Get()->GetLocalizedString(
         "$$$/outliner/Command/UndoTyping=Undo Typing");
   }
@@ -112,7 +110,7 @@ UTF16String DocumentCommands::UndoTitle() const {
 
 UTF16String DocumentCommands::RedoTitle() const {
   const vek::undo::Deed* deed =
-      mDocument.GetEditor().IsModified() ? nullptr : mDocument.GetUndoer().CouldRedoDeed();
+      mDocument.IsTyping() ? nullptr : mDocument.GetUndoer().CouldRedoDeed();
   return deed ? deed->GetRedoDescription() : NameOf(kCommandRedo);
 }
 

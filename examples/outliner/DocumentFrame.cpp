@@ -15,7 +15,6 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
-#include "lumui/ui/OS_Window.h"
 #include "vek/app/DocumentApplication.h"
 
 namespace outliner {
@@ -120,13 +119,17 @@ void DocumentFrame::ShowState() {
     titles.push_back(TabTitleOf(*page.document));
   const std::size_t current = mCurrent ? FindPage(*mCurrent) : titles.size();
   mTabs->SetTabs(titles, current);
-  auto* const window = UI_GetWindowNode();
-  if (!window) return;
-  window->UI_SetTitle(
-      current < titles.size()
-          ? lumcore::utility::ReplaceInString(
-                Localized("$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"), {titles[current]})
-          : Localized("$$$/outliner/Window/NoDocument=outliner"));
+  mFunctions.stateChanged();
+}
+
+UTF16String DocumentFrame::GetWindowTitle() const {
+  if (!mCurrent) return Localized("$$$/outliner/Window/NoDocument=outliner");
+  return lumcore::utility::ReplaceInString(
+      Localized("$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"), {TabTitleOf(*mCurrent)});
+}
+
+void DocumentFrame::FocusRows() {
+  if (mCurrent) mPages[FindPage(*mCurrent)].pane->FocusRows();
 }
 
 void DocumentFrame::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {

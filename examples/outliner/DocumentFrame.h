@@ -19,9 +19,9 @@ class DocumentPane;
 class DocumentTabs;
 class OutlineDocument;
 
-// The middle of the main window: the pane of the current document, over it the tabs once there is
-// more than one, and words of help while there is none. It follows the application's messages about
-// documents, and keeps the window's title.
+// What stands in the panel of the outline: the pane of the current document, over it the tabs once
+// there is more than one, and words of help while there is none. It follows the application's
+// messages about documents, also while its panel is closed.
 class DocumentFrame final : public lumui::ui::UI_SubView,
                             private vek::messaging::Listener<const vek::app::DocStatusMessage> {
  public:
@@ -30,13 +30,16 @@ class DocumentFrame final : public lumui::ui::UI_SubView,
     std::function<void(OutlineDocument&)> show;
     std::function<void(OutlineDocument&)> close;
     std::function<void(const lumcore::geom::PointT<int>&)> openRowMenu;
+    // After each change of the documents and of what is selected, typed or done in one.
+    std::function<void()> stateChanged;
   };
 
   explicit DocumentFrame(Functions inFunctions);
   ~DocumentFrame() override;
 
-  // Sets the title of the window that the frame has come into.
-  void ShowState();
+  lumcore::UTF16String GetWindowTitle() const;
+  // Gives the keyboard to the current document's rows, if there is one and it is on screen.
+  void FocusRows();
   // The tab's title: the document's, with "*" before it when there is something to save.
   static lumcore::UTF16String TabTitleOf(const OutlineDocument& inDocument);
 
@@ -53,6 +56,7 @@ class DocumentFrame final : public lumui::ui::UI_SubView,
 
   void ListenToMessage(const vek::app::DocStatusMessage inMessage) override;
 
+  void ShowState();
   std::size_t FindPage(const OutlineDocument& inDocument) const;
   void ShowPage(OutlineDocument& inDocument);
   void DropPage(const OutlineDocument& inDocument);

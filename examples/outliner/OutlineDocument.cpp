@@ -9,6 +9,7 @@
 
 #include "DocumentCommands.h"
 #include "FileQuestions.h"
+#include "NoteEditor.h"
 #include "OpmlReader.h"
 #include "OpmlWriter.h"
 #include "RowEditor.h"
@@ -36,10 +37,12 @@ OutlineDocument::OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File
       mSelection(new vek::selection::Manager(&mJunction)),
       mUndoer(new vek::undo::MultiUndoer(kUndoLevels)),
       mEditor(std::make_unique<RowEditor>(*this)),
+      mNoteEditor(std::make_unique<NoteEditor>(*this)),
       mCommands(std::make_unique<DocumentCommands>(*this)),
       mSavedSerial(mUndoer->GetCurSerialNumber()) {
   SetFile(inFile);
   mUndoer->SetHooks(this);
+  mNoteEditor->SetChangedFunction([this] { Changed(); });
 }
 
 OutlineDocument::~OutlineDocument() {
@@ -96,13 +99,22 @@ vek::uisupport::CommandAttachment* OutlineDocument::GetCommandAttachment() const
   return mCommands.get();
 }
 
+void OutlineDocument::CommitTyping() {
+  mEditor->Commit();
+  mNoteEditor->Commit();
+}
+
+bool OutlineDocument::IsTyping() const {
+  return mEditor->IsModified() || mNoteEditor->IsModified();
+}
+
 void OutlineDocument::Close() {
   SetFileFunctions(nullptr, nullptr);
   SetChangedFunction(nullptr);
 }
 
 bool OutlineDocument::DoIsDirty() const {
-  return mEditor->IsModified() || mSerialIsStale || mUndoer->GetCurSerialNumber() != mSavedSerial;
+  return IsTyping() || mSerialIsStale || mUndoer->GetCurSerialNumber() != mSavedSerial;
 }
 
 void OutlineDocument::SetDirty(bool inDirty) {
@@ -118,6 +130,7 @@ void OutlineDocument::Changed() {
 void OutlineDocument::LoadFromFile(const File& inFile) {
   std::unique_ptr<OutlineTree> tree = ReadOpml(inFile);
   mEditor->Cancel();
+  mNoteEditor->Cancel();
   mSelection->DeselectAll();
   mUndoer->PostDeed(std::auto_ptr<vek::undo::Deed>(new vek::undo::ClearUndoStackDeed));
   mTree = std::move(tree);
@@ -131,7 +144,7 @@ void OutlineDocument::SaveToFile(const File& inFile) {
 }
 
 void OutlineDocument::Save() {
-  mEditor->Commit();
+  CommitTyping();
   const File file = GetProjectFile();
   FileBasedDocument::Save();
   // SaveAs has told of a new one.
@@ -142,7 +155,7 @@ void OutlineDocument::Save() {
 bool OutlineDocument::CanClose() {
   if (mIsAsking) return false;
   const lumcore::utility::StScopedValue<bool> asking(mIsAsking, true);
-  mEditor->Commit();
+  CommitTyping();
   return FileBasedDocument::CanClose();
 }
 
@@ -153,7 +166,7 @@ void OutlineDocument::SaveAs() {
 }
 
 void OutlineDocument::SaveAsFile(const File& inFile) {
-  mEditor->Commit();
+  CommitTyping();
   if (mCheckFile) mCheckFile(inFile);
   SaveToFile(inFile);
   SetFile(inFile);

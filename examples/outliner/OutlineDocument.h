@@ -20,6 +20,7 @@
 namespace outliner {
 
 class DocumentCommands;
+class NoteEditor;
 class RowEditor;
 
 // An open outline: its tree, what is selected in it, its edits, the text that is being typed, its
@@ -50,7 +51,13 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::undo::MultiUndoer& GetUndoer() { return *mUndoer; }
   const vek::undo::MultiUndoer& GetUndoer() const { return *mUndoer; }
   vek::selection::Manager& GetSelection() { return *mSelection; }
+  const OutlineTree& GetTree() const { return *mTree; }
   RowEditor& GetEditor() { return *mEditor; }
+  NoteEditor& GetNoteEditor() { return *mNoteEditor; }
+  // Makes deeds of what is being typed, in a row or in a note: before anything else happens to the
+  // outline. What the second of them throws leaves the first done.
+  void CommitTyping();
+  bool IsTyping() const;  // whether that would post anything
   DocumentCommands& GetCommands() { return *mCommands; }
 
   // In document order.
@@ -111,6 +118,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   boost::intrusive_ptr<vek::selection::Manager> mSelection;
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
   std::unique_ptr<RowEditor> mEditor;
+  std::unique_ptr<NoteEditor> mNoteEditor;
   std::unique_ptr<DocumentCommands> mCommands;
   std::function<void()> mChanged;
   std::function<void(const File&)> mCheckFile;

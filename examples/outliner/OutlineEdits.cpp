@@ -14,6 +14,7 @@
 #include "OutlineDocument.h"
 #include "OutlineRestorer.h"
 #include "RemoveRowsDeed.h"
+#include "SetNoteDeed.h"
 #include "SetTextDeed.h"
 #include "lumcore/config/Localizer.h"
 #include "vek/undo/MultiDeed.h"
@@ -227,6 +228,32 @@ void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& 
   Edit edit(ioDocument, "$$$/outliner/Edit/ChangeText=Change Text");
   edit.Add<SetTextDeed>(ioRow, text);
   edit.PostSelecting(ioRow);
+}
+
+UTF16String GetNote(const OutlineDocument& inDocument, const OutlineRow& inRow) {
+  const UTF16String* const note = inDocument.GetTree().FindAttribute(inRow, SetNoteDeed::Name());
+  UTF16String lines;
+  for (std::size_t at = 0; note && at < note->size(); ++at) {
+    const unsigned short unit = (*note)[at];
+    const bool isOneEnd = unit == '\r' && at + 1 < note->size() && (*note)[at + 1] == '\n';
+    if (!isOneEnd) lines += unit == '\r' ? static_cast<unsigned short>('\n') : unit;
+  }
+  return lines;
+}
+
+void SetNote(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& inNote) {
+  if (inNote == GetNote(ioDocument, ioRow)) return;
+  const UTF16String* const old = ioDocument.GetTree().FindAttribute(ioRow, SetNoteDeed::Name());
+  const bool hasCR = old && old->find('\r') != old->npos;
+  const bool hasLF = old && old->find('\n') != old->npos;
+  UTF16String note;
+  for (const unsigned short unit : inNote) {
+    if (unit == '\n' && hasCR) note += '\r';
+    if (unit != '\n' || hasLF || !hasCR) note += unit;
+  }
+  Edit edit(ioDocument, "$$$/outliner/Edit/ChangeNote=Change Note");
+  edit.Add<SetNoteDeed>(ioRow, note);
+  edit.PostKeepingSelection();
 }
 
 bool CanUndo(const OutlineDocument& inDocument) {

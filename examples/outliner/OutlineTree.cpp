@@ -171,6 +171,33 @@ void OutlineTree::AddAttribute(OutlineRow& inRow, TextPool::Id inName, UTF16Stri
   Extras(inRow).attributes.push_back({inName, std::move(inValue)});
 }
 
+void OutlineTree::ExchangeAttribute(OutlineRow& inRow, const UTF16String& inName,
+                                    AttributeState& ioState) {
+  auto& extras = Extras(inRow);
+  auto& attributes = extras.attributes;
+  const TextPool::Id name = mNames.Intern(inName);
+  const auto found = std::find_if(attributes.begin(), attributes.end(),
+                                  [&](const auto& inEach) { return inEach.name == name; });
+  AttributeState old;
+  if (found != attributes.end()) {
+    const auto place = static_cast<std::size_t>(found - attributes.begin());
+    old = {std::move(found->value), place, place < extras.textPlace};
+  }
+  if (!ioState.value) {
+    if (!old.value) return;
+    attributes.erase(found);
+    if (old.isBeforeText) --extras.textPlace;
+  } else if (old.value) {
+    found->value = CleanText(*ioState.value);
+  } else {
+    const std::size_t place = std::min(ioState.place, attributes.size());
+    attributes.insert(attributes.begin() + static_cast<std::ptrdiff_t>(place),
+                      {name, CleanText(*ioState.value)});
+    if (ioState.isBeforeText) ++extras.textPlace;
+  }
+  ioState = std::move(old);
+}
+
 void OutlineTree::SetTextPlace(OutlineRow& inRow, std::size_t inPlace) {
   Extras(inRow).textPlace = static_cast<std::uint32_t>(inPlace);
 }

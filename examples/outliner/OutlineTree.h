@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -79,6 +80,19 @@ class OutlineTree {
   void AddAttribute(OutlineRow& inRow, TextPool::Id inName, lumcore::UTF16String inValue);
   void SetTextPlace(OutlineRow& inRow, std::size_t inPlace);
   void MarkTextMissing(OutlineRow& inRow);
+
+  // An attribute as it stands in a row, or as it could: without a value it is not there.
+  struct AttributeState {
+    std::optional<lumcore::UTF16String> value;
+    std::size_t place = kLastPlace;  // among the row's attributes, the text not counted
+    bool isBeforeText = false;
+  };
+  static constexpr std::size_t kLastPlace = static_cast<std::size_t>(-1);
+  // Gives the row's attribute of that name the other state, and tells the one that it had: done
+  // twice, all is as it was. A new attribute comes where the state says, and a place beyond the end
+  // is the end. Characters that XML does not allow become U+FFFD.
+  void ExchangeAttribute(OutlineRow& inRow, const lumcore::UTF16String& inName,
+                         AttributeState& ioState);
 
   // Null where the row has none of that name.
   const lumcore::UTF16String* FindAttribute(const OutlineRow& inRow, TextView inName) const;

@@ -149,7 +149,7 @@ bool OutlineView::UI_DoMouseEvent(lumui::ui::UI_Node*, const MouseEvent& inEvent
 
 // A row that is selected already stays so with all others: the menu is for them together.
 void OutlineView::OpenMenu(const MouseEvent& inEvent) {
-  mEditor->Commit();
+  mDocument->CommitTyping();
   OutlineRow* const row = RowAt(inEvent.GetPosition().y);
   if (row && !mDocument->IsSelected(*row)) mDocument->SelectRows({row});
   if (!mOpenMenu) return;
@@ -164,7 +164,7 @@ void OutlineView::OpenMenu(const MouseEvent& inEvent) {
 void OutlineView::Press(const MouseEvent& inEvent) {
   OutlineRow* row = RowAt(inEvent.GetPosition().y);
   if (!row) {
-    mEditor->Commit();
+    mDocument->CommitTyping();
     if (inEvent.GetModKey().IsEmpty()) mDocument->SelectRows({});
     return;
   }
@@ -180,7 +180,7 @@ void OutlineView::Press(const MouseEvent& inEvent) {
     placeCaret();
   } else {
     // Before the selection changes: what is committed selects its own row.
-    mEditor->Commit();
+    mDocument->CommitTyping();
     SelectWithMouse(*row, inEvent.GetModKey());
   }
 }

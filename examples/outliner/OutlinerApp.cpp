@@ -21,6 +21,7 @@
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/uisupport/ReportError.h"
 #include "vek/workspace/Workspace.h"
+#include "vek/workspace/WorkspaceUtils.h"
 
 // The application's life cycle. Its documents are in OutlinerDocuments.cpp.
 namespace outliner {
@@ -30,8 +31,6 @@ using lumcore::utility::ToUTF16;
 
 namespace {
 
-constexpr int kWidth = 900;
-constexpr int kHeight = 640;
 constexpr int kMenuBar = 1;
 constexpr int kRecentFiles = 10;
 constexpr const char* kBrightnessKey = "brightness";
@@ -64,7 +63,6 @@ void OutlinerApp::Start() {
   args.windowClassName = L"outliner";
   args.menuResourceID = kMenuBar;
   args.iconResourceID = 0;
-  args.showMainWindow = false;  // not before it has its size and its nodes
   if (!Initialize(args, lumcore::config::FindProgramLocalizationDir("outliner"))) {
     lumcore::config::ThrowError("$$$/outliner/App/NoWindow=the main window could not be made");
   }
@@ -120,31 +118,29 @@ void OutlinerApp::RegisterApplicationCommands() {
   AutoDisableUserCmds(kCommandsBegin);
 }
 
-// The registry is loaded by now, which a key map takes its commands from.
+// The registry is loaded by now, which a key map takes its commands from. The workspace that the
+// base applies wants the frame of the documents for its panel.
 bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
   mCommandSystem->LoadKeys();
   if (!mOptions.keys.empty()) mCommandSystem->LoadUserKeys(File(mOptions.keys));
   if (const float* const brightness = GetAppSettings().Find<float>(kBrightnessKey)) {
     SetBrightness(*brightness);
   }
+  MakeFrame();
   if (!MultiDocApplication::InitApplication(inArgs)) return false;
-  BuildFrame();
+  DocumentStateChanged();
   return true;
 }
 
-void OutlinerApp::BuildFrame() {
+void OutlinerApp::MakeFrame() {
   DocumentFrame::Functions functions;
   functions.show = [this](OutlineDocument& inDocument) { ShowOutline(inDocument); };
   functions.close = [this](OutlineDocument& inDocument) { CloseOutline(inDocument); };
   functions.openRowMenu = [this](const auto& inPlace) {
     mMenus->OpenRowMenu(*FindMainWindow(), inPlace);
   };
+  functions.stateChanged = [this] { DocumentStateChanged(); };
   mFrame.reset(new DocumentFrame(functions));
-  auto& window = *GetWorkspace()->GetMainTopLevelWindow();
-  window.SetCentralNode(mFrame);
-  window.UI_SetSize(kWidth, kHeight);
-  mFrame->ShowState();
-  window.UI_Activate();
 }
 
 void OutlinerApp::SetBrightness(float inBrightness) {
@@ -157,6 +153,7 @@ void OutlinerApp::SetBrightness(float inBrightness) {
 void OutlinerApp::TerminateApplication() {
   MultiDocApplication::TerminateApplication();
   SaveAppSettings();
+  RemoveWorkspaceCommands();
   mFrame.reset();
   mMenus.reset();
   mCommandSystem.reset();

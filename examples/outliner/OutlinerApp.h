@@ -17,6 +17,10 @@ namespace lumui::ui {
 class OS_Window;
 }
 
+namespace vek::workspaceutils {
+class WorkspacesCmdAttachment;
+}
+
 namespace outliner {
 
 class DocumentFrame;
@@ -66,6 +70,14 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   // From 0, the darkest, to 1; kept in the settings.
   void SetBrightness(float inBrightness);
 
+  // Panels, each by the command that shows it. One in front is closed by that, one that is not is
+  // brought to the front and gets the keyboard.
+  bool IsPanelInFront(int inCommand) const;
+  void TogglePanel(int inCommand);
+  // Puts the panels of a built-in workspace back, if the user agrees.
+  bool CanResetWorkspace() const;
+  void ResetWorkspace();
+
   CommandSystem& GetCommandSystem() { return *mCommandSystem; }  // from Start to End
   lumui::ui::OS_Window* FindMainWindow() const;                  // null while there is none
 
@@ -81,7 +93,16 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   bool UseCustomPrefsDir() const override { return !mOptions.settingsFolder.empty(); }
   lumcore::UTF16String GetAppPrefsDir() override;
 
-  void OnWorkspaceReady(lumworkspace::workspace::Workspace*) override {}
+  void OnWorkspaceReady(lumworkspace::workspace::Workspace* inWorkspace) override;
+  lumworkspace::workspace::BuiltInWorkspaceProviderBase* InitWorkspaceProvider() override;
+  lumworkspace::workspace::ManagerBase* InitWorkspaceManager() override;
+  lumworkspace::workspace::PlatformMenuHelperBase* InitWorkspaceMenuHelper(
+      lumworkspace::workspace::ManagerBase& inManager) override;
+  lumcore::UTF16String GetDefaultWorkspaceName() const override;
+  void ApplyDefaultWorkspace() override;
+  void SaveDefaultWorkSpace() override;
+  void DoIdle() override;
+  void DoPostEventProcessing(const lumui::ui::OS_Event& inEvent) override;
   void RegisterApplicationCommands() override;
   bool InitApplication(vek::app::AppInitArgs& inArgs) override;
   void TerminateApplication() override;
@@ -104,15 +125,22 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   std::unique_ptr<OutlineDocument> Make(const File& inFile);
   OutlineDocument* FindOutline(const File& inFile) const;  // null where none has it
   void CheckFileOf(const OutlineDocument& inDocument, const File& inFile) const;
-  void BuildFrame();
+  void MakeFrame();
+  void ShowOutlinePanel();
+  void RunFromList(int inCommand);
+  void DocumentStateChanged();
+  void RemoveWorkspaceCommands();
 
   Options mOptions;
   std::unique_ptr<CommandSystem> mCommandSystem;
   ApplicationCommands mCommands{*this};
   std::unique_ptr<OutlinerMenus> mMenus;
+  std::unique_ptr<vek::workspaceutils::WorkspacesCmdAttachment> mWorkspaceCommands;
   boost::intrusive_ptr<DocumentFrame> mFrame;
   bool mSettingsAreRead = false;
   bool mIsAskingToQuit = false;
+  bool mCommandStatesAreStale = true;
+  bool mWorkspaceFailureIsTold = false;
 };
 
 }  // namespace outliner

@@ -37,14 +37,25 @@ enum Command : int {
   kCommandDark,
   kCommandLight,
   kCommandLightest,
+  kCommandShowOutline,
+  kCommandShowNotes,
+  kCommandShowCommands,
+  kCommandWorkspaceNew,
+  kCommandWorkspaceSave,
+  kCommandWorkspaceRevert,
+  kCommandWorkspaceReset,
+  kCommandWorkspaceDelete,
+  kCommandWorkspaceEdit,
   kCommandsEnd,
 
-  // Menu items that have neither a name nor keys: the recent files and the open documents, in the
-  // order of their menus. Menus send no more than 16 bits of an id.
+  // Menu items that have neither a name nor keys: the recent files, the open documents and the
+  // workspaces, in the order of their menus. Menus send no more than 16 bits of an id.
   kRecentFilesBegin = 2000,
   kRecentFilesEnd = 2050,
   kDocumentsBegin = 2100,
   kDocumentsEnd = 2600,
+  kWorkspacesBegin = 2700,
+  kWorkspacesEnd = 2800,
 };
 
 constexpr bool IsOwnCommand(int inCommand) {

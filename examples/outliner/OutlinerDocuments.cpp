@@ -72,7 +72,7 @@ OutlineDocument& OutlinerApp::Add(std::unique_ptr<OutlineDocument> inDocument) {
       [this, &document](const File& inFile) { CheckFileOf(document, inFile); },
       [this](const File& inFile) { AddRecentFile(inFile); });
   DocumentPushBack(inDocument.release());
-  SetDocument(&document);
+  ShowOutline(document);
   return document;
 }
 
@@ -109,6 +109,7 @@ OutlineDocument& OutlinerApp::OpenOutline(const File& inFile) {
 
 void OutlinerApp::ShowOutline(OutlineDocument& inDocument) {
   SetDocument(&inDocument);
+  ShowOutlinePanel();
 }
 
 bool OutlinerApp::CloseOutline(OutlineDocument& inDocument) {

@@ -21,6 +21,8 @@ using namespace vek::uisupport;
 
 namespace {
 
+constexpr std::size_t kWorkspaceMenu = 3;  // in the bar
+
 constexpr int kSeparator = 0;
 constexpr int kRecentFilesHere = -1;
 constexpr int kDocumentsHere = -2;
@@ -54,8 +56,16 @@ const Items& RowItems() {
 }
 
 const Items& ViewItems() {
-  static const Items sItems = {kBrightnessHere, kSeparator, kCommandNextDocument,
-                               kCommandPreviousDocument, kDocumentsHere};
+  static const Items sItems = {kCommandShowOutline, kCommandShowNotes,    kCommandShowCommands,
+                               kSeparator,          kCommandNextDocument, kCommandPreviousDocument,
+                               kDocumentsHere,      kSeparator,           kBrightnessHere};
+  return sItems;
+}
+
+const Items& WorkspaceItems() {
+  static const Items sItems = {
+      kCommandWorkspaceSave, kCommandWorkspaceRevert, kCommandWorkspaceReset, kSeparator,
+      kCommandWorkspaceNew,  kCommandWorkspaceDelete, kCommandWorkspaceEdit};
   return sItems;
 }
 
@@ -143,6 +153,7 @@ void OutlinerMenus::Build(HMENU inBar) {
   } menus[] = {{Localized("$$$/outliner/Menu/File=File"), FileItems()},
                {Localized("$$$/outliner/Menu/Edit=Edit"), EditItems()},
                {Localized("$$$/outliner/Menu/View=View"), ViewItems()},
+               {Localized("$$$/outliner/Menu/Workspace=Workspace"), WorkspaceItems()},
                {Localized("$$$/outliner/Menu/Help=Help"), {kCommandAbout}}};
   for (const auto& entry : menus) {
     const HMENU menu = AppendSubMenu(inBar, entry.title, 0);
@@ -159,6 +170,7 @@ void OutlinerMenus::Build(HMENU inBar) {
         AppendItem(menu, NameOf(item), static_cast<unsigned>(item), false);
       }
     }
+    if (&entry == &menus[kWorkspaceMenu]) mWorkspaces = menu;
     SetMnemonics(menu);
   }
   SetMnemonics(inBar);

@@ -27,6 +27,8 @@ class OutlinerMenus {
 
   // Fills an empty bar, which stays its window's.
   void Build(HMENU inBar);
+  // The one whose front the workspaces are listed at.
+  HMENU GetWorkspaceMenu() const { return mWorkspaces; }
   // Lists the recent files, by their paths, or the open documents, by their titles, where it is
   // their menu that is about to open.
   void ListRecentFiles(HMENU inMenu, const std::vector<lumcore::UTF16String>& inPaths) const;
@@ -41,6 +43,7 @@ class OutlinerMenus {
   static void AddBrightness(HMENU inMenu);
 
   HMENU mRowMenu;  // owned
+  HMENU mWorkspaces = nullptr;
   HMENU mRecentFiles = nullptr;
   HMENU mDocuments = nullptr;
 };

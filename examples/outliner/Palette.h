@@ -36,6 +36,9 @@ inline auto RowInk() {
 inline auto FaintInk() {
   return Of(lumui::ui::themev5::kColor_TextSecondary);
 }
+inline auto DisabledInk() {
+  return Of(lumui::ui::themev5::kColor_TextDisabled);
+}
 inline auto Accent() {
   return Of(lumui::ui::themev5::kColor_LinkText);
 }

@@ -5,6 +5,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTextDocument>
 #include <algorithm>
 #include <memory>
 
@@ -40,6 +41,19 @@ bool IsEditingKey(QKeyEvent& inEvent) {
       return !chord && !inEvent.text().isEmpty() && inEvent.text().at(0).isPrint();
   }
 }
+
+namespace {
+
+// As it was typed: toPlainText makes plain blanks of those that do not break.
+QString TextOf(const QPlainTextEdit& inArea) {
+  QString text = inArea.document()->toRawText();
+  for (QChar& unit : text) {
+    if (unit == QChar::ParagraphSeparator || unit == QChar::LineSeparator) unit = u'\n';
+  }
+  return text;
+}
+
+}  // namespace
 
 class TextEditPeer : public ControlPeer {
  private:
@@ -80,7 +94,7 @@ class TextEditPeer : public ControlPeer {
     ConnectEscape(*edit);
     edit->mOnFocusLost = [this] { ByUser([&] { Edit().Commit(); }); };
     QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this, edit] {
-      const lumcore::UTF16String text = drawbot::FromQt(edit->toPlainText());
+      const lumcore::UTF16String text = drawbot::FromQt(TextOf(*edit));
       // Composing with an input method changes how the text looks, and not the text.
       if (text != Edit().GetText()) ByUser([&] { Edit().HandleEdited(text); });
     });
@@ -204,7 +218,7 @@ void UI_TextEdit::DoShowState() {
     return;
   }
   auto* const area = static_cast<QPlainTextEdit*>(widget);
-  if (area->toPlainText() != text) area->setPlainText(text);
+  if (TextOf(*area) != text) area->setPlainText(text);
   area->setReadOnly(mReadOnly);
   area->setPlaceholderText(drawbot::ToQt(mPlaceholder));
   QTextCursor cursor = area->textCursor();

@@ -5,8 +5,8 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPalette>
-#include <QStyle>
 #include <QToolButton>
 #include <utility>
 
@@ -24,10 +24,54 @@ QString Localized(const char* inKey) {
 
 constexpr const char* kFloatKey = "$$$/lumworkspace/Dock/Float=Move to Own Window";
 constexpr const char* kDockKey = "$$$/lumworkspace/Dock/Dock=Move to Main Window";
-constexpr int kMargin = 4;
-constexpr int kIconSize = 14;
+constexpr int kMargin = 10;
+constexpr int kButtonSize = 20;
+constexpr qreal kGlyphSize = 8;
+constexpr qreal kLineWidth = 1.4;
 
 }  // namespace
+
+// Draws what it is for in the colour of the title: the style's own pictures are made for one
+// ground.
+class TitleBar::Button : public QToolButton {
+ public:
+  Button(QWidget* inParent, Glyph inGlyph) : QToolButton(inParent), mGlyph(inGlyph) {
+    setAutoRaise(true);
+    setFixedSize(kButtonSize, kButtonSize);
+    // The keyboard stays where it is.
+    setFocusPolicy(Qt::NoFocus);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* inEvent) override {
+    QToolButton::paintEvent(inEvent);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::WindowText), kLineWidth, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    const QPointF offset(kGlyphSize / 2, kGlyphSize / 2);
+    const QPointF middle = QRectF(rect()).center();
+    DrawGlyph(painter, QRectF(middle - offset, middle + offset));
+  }
+
+ private:
+  void DrawGlyph(QPainter& ioPainter, const QRectF& inBox) const {
+    if (mGlyph == Glyph::kClose) {
+      ioPainter.drawLine(inBox.topLeft(), inBox.bottomRight());
+      ioPainter.drawLine(inBox.bottomLeft(), inBox.topRight());
+    } else if (mGlyph == Glyph::kMenu) {
+      for (const qreal y : {inBox.top(), inBox.center().y(), inBox.bottom()})
+        ioPainter.drawLine(QPointF(inBox.left(), y), QPointF(inBox.right(), y));
+    } else {
+      const qreal step = kGlyphSize / 4;
+      ioPainter.drawRect(inBox.adjusted(0, step, -step, 0));
+      ioPainter.drawPolyline(QPolygonF({inBox.topLeft() + QPointF(step, 0), inBox.topRight(),
+                                        inBox.bottomRight() - QPointF(0, step)}));
+    }
+  }
+
+  Glyph mGlyph;
+};
 
 TitleBar::TitleBar(QWidget* inParent, Actions inActions)
     : QWidget(inParent), mLabel(new QLabel(this)) {
@@ -39,9 +83,8 @@ TitleBar::TitleBar(QWidget* inParent, Actions inActions)
   mLabel->setTextFormat(Qt::PlainText);
   mLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   row->addWidget(mLabel, 1);
-  mMenuButton =
-      AddButton(QStyle::SP_TitleBarUnshadeButton, "$$$/lumworkspace/Dock/Menu=Panel Menu");
-  mFloatButton = AddButton(QStyle::SP_TitleBarNormalButton, kFloatKey);
+  mMenuButton = AddButton(Glyph::kMenu, "$$$/lumworkspace/Dock/Menu=Panel Menu");
+  mFloatButton = AddButton(Glyph::kFloat, kFloatKey);
   const auto guarded = [](const std::function<void()>& inAction) {
     lumui::ui::EventGate::Get()->RunGuarded(inAction);
   };
@@ -51,18 +94,12 @@ TitleBar::TitleBar(QWidget* inParent, Actions inActions)
   connect(mFloatButton, &QToolButton::clicked, this, [=] { guarded(actions.toggleFloating); });
   mMenuButton->hide();
   if (!actions.close) return;
-  QToolButton* const close =
-      AddButton(QStyle::SP_TitleBarCloseButton, "$$$/lumworkspace/Dock/Close=Close Panel");
+  QToolButton* const close = AddButton(Glyph::kClose, "$$$/lumworkspace/Dock/Close=Close Panel");
   connect(close, &QToolButton::clicked, this, [=] { guarded(actions.close); });
 }
 
-QToolButton* TitleBar::AddButton(int inIcon, const char* inNameKey) {
-  auto* const button = new QToolButton(this);
-  button->setAutoRaise(true);
-  // The keyboard stays where it is.
-  button->setFocusPolicy(Qt::NoFocus);
-  button->setIconSize(QSize(kIconSize, kIconSize));
-  button->setIcon(style()->standardIcon(static_cast<QStyle::StandardPixmap>(inIcon)));
+QToolButton* TitleBar::AddButton(Glyph inGlyph, const char* inNameKey) {
+  auto* const button = new Button(this, inGlyph);
   button->setToolTip(Localized(inNameKey));
   button->setAccessibleName(Localized(inNameKey));
   layout()->addWidget(button);

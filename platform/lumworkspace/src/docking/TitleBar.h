@@ -31,7 +31,10 @@ class TitleBar : public QWidget {
   void resizeEvent(QResizeEvent* inEvent) override;
 
  private:
-  QToolButton* AddButton(int inIcon, const char* inNameKey);
+  enum class Glyph { kMenu, kFloat, kClose };
+  class Button;
+
+  QToolButton* AddButton(Glyph inGlyph, const char* inNameKey);
   void FitText();
 
   QString mTitle;

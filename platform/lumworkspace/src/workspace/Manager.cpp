@@ -53,7 +53,7 @@ Manager::Manager(Workspace& inWorkspace, const lumcore::filesupport::Dir& inFold
 
 Manager::~Manager() = default;
 
-File Manager::FileOf(const Name& inName) const {
+File Manager::GetFile(const Name& inName) const {
   return File(mFolder, WorkspaceFileName(inName));
 }
 
@@ -126,7 +126,7 @@ PropList Manager::LoadBuiltIn(const Name& inName) const {
 }
 
 PropList Manager::Load(const Name& inName) const {
-  const File file = FileOf(inName);
+  const File file = GetFile(inName);
   if (file.IsAbsent() && IsBuiltIn(inName)) return LoadBuiltIn(inName);
   PropList layout;
   lumcore::proplist::utils::LoadPropList(file, layout, false);
@@ -135,7 +135,7 @@ PropList Manager::Load(const Name& inName) const {
 
 void Manager::Write(const Name& inName, const PropList& inLayout) {
   mFolder.Create();
-  lumcore::proplist::utils::SavePropList(FileOf(inName), inLayout);
+  lumcore::proplist::utils::SavePropList(GetFile(inName), inLayout);
 }
 
 // Of the current workspace, what the user has done to it since.
@@ -146,7 +146,7 @@ void Manager::KeepCurrent() {
 }
 
 void Manager::Apply(const PropList& inLayout, const Name& inName) {
-  const File file = FileOf(inName);
+  const File file = GetFile(inName);
   mWorkspace.SetLayout(inLayout, file.Exists() ? file.GetFullPath() : inName);
   mCurrent = inName;
   mApplied = mWorkspace.GetLayout();
@@ -188,7 +188,7 @@ void Manager::RevertWorkspace(const Name& inName) {
 }
 
 bool Manager::CanRevertToBuiltIn(const Name& inName) const {
-  return IsBuiltIn(inName) && !IsHidden(inName) && FileOf(inName).Exists();
+  return IsBuiltIn(inName) && !IsHidden(inName) && GetFile(inName).Exists();
 }
 
 bool Manager::RevertToBuiltIn(const Name& inName) {
@@ -198,7 +198,7 @@ bool Manager::RevertToBuiltIn(const Name& inName) {
     mWorkspace.SetLayout(LoadBuiltIn(inName), inName);
     mApplied = mWorkspace.GetLayout();
   }
-  FileOf(inName).Remove();
+  GetFile(inName).Remove();
   mUnsaved.erase(inName);
   NotifyWorkspacesChanged();
   return true;
@@ -210,7 +210,7 @@ void Manager::DeleteWorkspace(const Name& inName) {
     mHidden.push_back(inName);
     WriteIndex();
   }
-  FileOf(inName).Remove();
+  GetFile(inName).Remove();
   mUnsaved.erase(inName);
   if (inName == mCurrent) mCurrent.clear();
   NotifyWorkspacesChanged();
@@ -221,11 +221,11 @@ bool Manager::RenameWorkspace(const Name& inName, const Name& inNewName) {
   if (inName == inNewName) return true;
   Names names = GetWorkspaceNames();
   // The bytes as they are, so that also a file that cannot be read keeps what it holds.
-  const File old = FileOf(inName);
+  const File old = GetFile(inName);
   if (old.Exists()) {
     const lumcore::UTF8String bytes = old.ReadAll();
     const std::string copy(bytes.begin(), bytes.end());
-    FileOf(inNewName).ReplaceContents(copy);
+    GetFile(inNewName).ReplaceContents(copy);
   } else {
     Write(inNewName, LoadBuiltIn(inName));
   }

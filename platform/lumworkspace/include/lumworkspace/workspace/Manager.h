@@ -26,7 +26,8 @@ class Workspace;
 //
 // A file that is damaged, or none of ours, is an error that names the path and the cause, when the
 // workspace is applied: the panels and the current workspace stay as they were, and the file too,
-// until the user saves a workspace of its name or deletes it.
+// until the user saves a workspace of its name or deletes it. A host that would rather go on with
+// the built-in one puts the file (GetFile) aside and applies the workspace again.
 class LUMWORKSPACE_API Manager : public ManagerBase {
  public:
   // The workspace and the provider, which may be null, are borrowed. A default size of 0 leaves the
@@ -56,11 +57,13 @@ class LUMWORKSPACE_API Manager : public ManagerBase {
                        const lumcore::UTF16String& inNewName) override;
   void SetWorkspaceOrder(const std::vector<lumcore::UTF16String>& inNames) override;
 
+  // Where the workspace is kept once it was saved; it need not be there.
+  lumcore::filesupport::File GetFile(const lumcore::UTF16String& inName) const;
+
  private:
   using Name = lumcore::UTF16String;
   using PropList = lumcore::proplist::PropList;
 
-  lumcore::filesupport::File FileOf(const Name& inName) const;
   bool IsBuiltIn(const Name& inName) const;
   bool IsHidden(const Name& inName) const;
   // What is stored, else the built-in one; throws with the path and the cause.

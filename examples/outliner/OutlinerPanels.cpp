@@ -1,0 +1,201 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+// The application's panels, and the workspaces that they stand in.
+
+#include "BuiltInWorkspaces.h"
+#include "CommandsPane.h"
+#include "CommandsView.h"
+#include "DocumentFrame.h"
+#include "NotesView.h"
+#include "OutlinerApp.h"
+#include "OutlinerCommands.h"
+#include "OutlinerMenus.h"
+#include "OutlinerWorkspaces.h"
+#include "Panels.h"
+#include "Reports.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/dialogs/MessageDialog.h"
+#include "lumui/ui/OS_Event.h"
+#include "lumworkspace/workspace/PlatformMenuHelper.h"
+#include "lumworkspace/workspace/TopLevelWindow.h"
+#include "lumworkspace/workspace/Workspace.h"
+#include "lumworkspace/workspace/WorkspaceFrameBase.h"
+#include "vek/uisupport/ReportError.h"
+#include "vek/workspace/WorkspaceUtils.h"
+
+namespace outliner {
+
+using lumcore::UTF16String;
+using lumcore::UTF8String;
+using namespace lumworkspace::workspace;
+
+namespace {
+
+// Of panels that the workspace has no place for.
+constexpr int kNotesHeight = 170;
+constexpr int kCommandsWidth = 380;
+
+UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+}
+
+template <class View>
+View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {
+  auto* const panel =
+      inWorkspace ? dynamic_cast<ViewPanel*>(inWorkspace->FindTab(inTabType)) : nullptr;
+  return panel ? dynamic_cast<View*>(&panel->GetView()) : nullptr;
+}
+
+const UTF8String& PanelOf(int inCommand) {
+  return inCommand == kCommandShowOutline ? OutlinePanel()
+         : inCommand == kCommandShowNotes ? NotesPanel()
+                                          : CommandsPanel();
+}
+
+}  // namespace
+
+// Only what makes the panels is registered here: the window that they stand in comes later.
+void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
+  TabPlace place;
+  place.area = kDockLeft;
+  inWorkspace->RegisterTabCreator(new PanelCreator(
+      OutlinePanel(), "$$$/outliner/Panel/Outline=Outline", place, [this] { return mFrame; }));
+  place.besideType = OutlinePanel();
+  place.where = TabPlace::kBelow;
+  place.size = kNotesHeight;
+  inWorkspace->RegisterTabCreator(new PanelCreator(
+      NotesPanel(), "$$$/outliner/Panel/Notes=Notes", place,
+      [this] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new NotesView(GetOutline())); }));
+  place.where = TabPlace::kRightOf;
+  place.size = kCommandsWidth;
+  inWorkspace->RegisterTabCreator(
+      new PanelCreator(CommandsPanel(), "$$$/outliner/Panel/Commands=Commands", place, [this] {
+        return boost::intrusive_ptr<lumui::ui::UI_SubView>(
+            new CommandsPane([this](int inCommand) { RunFromList(inCommand); }));
+      }));
+}
+
+BuiltInWorkspaceProviderBase* OutlinerApp::InitWorkspaceProvider() {
+  return new BuiltInWorkspaces;
+}
+
+ManagerBase* OutlinerApp::InitWorkspaceManager() {
+  return new OutlinerWorkspaces(*GetWorkspace(), *GetWorkspaceProvider());
+}
+
+PlatformMenuHelperBase* OutlinerApp::InitWorkspaceMenuHelper(ManagerBase& inManager) {
+  auto* const helper = new PlatformMenuHelper(inManager, mMenus->GetWorkspaceMenu(),
+                                              kWorkspacesBegin, kWorkspacesEnd - 1);
+  RemoveWorkspaceCommands();
+  mWorkspaceCommands = std::make_unique<vek::workspaceutils::WorkspacesCmdAttachment>(
+      *GetWorkspace(), inManager, *helper, kCommandWorkspaceNew, kCommandWorkspaceRevert,
+      kCommandWorkspaceDelete, kCommandWorkspaceSave, kCommandWorkspaceEdit);
+  AddAttachment(mWorkspaceCommands.get());
+  return helper;
+}
+
+// Before what they work with goes.
+void OutlinerApp::RemoveWorkspaceCommands() {
+  if (mWorkspaceCommands) RemoveAttachment(mWorkspaceCommands.get());
+  mWorkspaceCommands.reset();
+}
+
+UTF16String OutlinerApp::GetDefaultWorkspaceName() const {
+  return BuiltInWorkspaces::GetDefaultName();
+}
+
+// A workspace that cannot be read must not keep the program from starting: there is an outline to
+// work on in any case.
+void OutlinerApp::ApplyDefaultWorkspace() {
+  try {
+    MultiDocApplication::ApplyDefaultWorkspace();
+  } catch (const lumcore::config::Error& error) {
+    vek::uisupport::ReportError(error.GetText(), 0, true);
+    GetWorkspace()->OpenTab(OutlinePanel());
+  }
+}
+
+// What cannot be written must not keep the program from ending. It is tried once more when the
+// window goes; the user has heard of it then.
+void OutlinerApp::SaveDefaultWorkSpace() {
+  try {
+    MultiDocApplication::SaveDefaultWorkSpace();
+  } catch (...) {
+    if (!mWorkspaceFailureIsTold) ReportFailure(std::current_exception());
+    mWorkspaceFailureIsTold = true;
+  }
+}
+
+bool OutlinerApp::CanResetWorkspace() const {
+  return static_cast<const OutlinerWorkspaces&>(*GetWorkspaceManager()).CanReset();
+}
+
+void OutlinerApp::ResetWorkspace() {
+  auto& workspaces = static_cast<OutlinerWorkspaces&>(*GetWorkspaceManager());
+  lumui::dialogs::MessageDialogArgs args;
+  args.title = Localized("$$$/outliner/Workspaces/ResetTitle=Reset the Workspace");
+  args.text = lumcore::utility::ReplaceInString(
+      Localized("$$$/outliner/Workspaces/Reset=Put all panels of the workspace \"@0\" back to "
+                "where they stood at first?"),
+      {workspaces.GetCurrentWorkspace()});
+  args.buttons = {Localized("$$$/outliner/Workspaces/ResetButton=Reset"),
+                  Localized("$$$/outliner/Workspaces/Cancel=Cancel")};
+  args.cancelButton = 1;
+  args.icon = lumui::dialogs::MessageIcon::kQuestion;
+  args.owner = FindMainWindow();
+  if (lumui::dialogs::RunMessageDialog(args) == 0) workspaces.Reset();
+}
+
+bool OutlinerApp::IsPanelInFront(int inCommand) const {
+  const TabPanel* const panel = GetWorkspace()->FindTab(PanelOf(inCommand));
+  return panel && panel->GetFrame() && panel->GetFrame()->IsInFront();
+}
+
+// A document that is shown is to be seen.
+void OutlinerApp::ShowOutlinePanel() {
+  if (IsPanelInFront(kCommandShowOutline)) return;
+  GetWorkspace()->OpenTab(OutlinePanel());
+  mFrame->FocusRows();
+}
+
+void OutlinerApp::TogglePanel(int inCommand) {
+  const UTF8String& type = PanelOf(inCommand);
+  if (IsPanelInFront(inCommand)) {
+    GetWorkspace()->CloseTab(type);
+    mFrame->FocusRows();
+    return;
+  }
+  GetWorkspace()->OpenTab(type);
+  if (auto* const notes = FindView<NotesView>(GetWorkspace(), type)) notes->FocusField();
+  if (auto* const commands = FindView<CommandsPane>(GetWorkspace(), type)) commands->FocusList();
+  if (type == OutlinePanel()) mFrame->FocusRows();
+}
+
+// The command finds the keyboard where it would be if it came from a menu.
+void OutlinerApp::RunFromList(int inCommand) {
+  mFrame->FocusRows();
+  CallCommandChain(inCommand);
+}
+
+void OutlinerApp::DocumentStateChanged() {
+  mCommandStatesAreStale = true;
+  if (auto* const window = FindMainWindow()) window->UI_SetTitle(mFrame->GetWindowTitle());
+}
+
+void OutlinerApp::DoPostEventProcessing(const lumui::ui::OS_Event& inEvent) {
+  MultiDocApplication::DoPostEventProcessing(inEvent);
+  if (inEvent.message != lumui::ui::kMessageMouseMove) mCommandStatesAreStale = true;
+}
+
+// The list of commands asks the chain once for many changes, and not at all while nobody sees it.
+void OutlinerApp::DoIdle() {
+  MultiDocApplication::DoIdle();
+  if (!mCommandStatesAreStale || !IsPanelInFront(kCommandShowCommands)) return;
+  mCommandStatesAreStale = false;
+  FindView<CommandsPane>(GetWorkspace(), CommandsPanel())->GetList().Update();
+}
+
+}  // namespace outliner
