@@ -1,6 +1,7 @@
 vek_test(vek_trackview_tests
   SOURCES
     trackview/CoordinatesTest.cpp
+    trackview/DragsTest.cpp
     trackview/GesturesTest.cpp
     trackview/OverlaysTest.cpp
     trackview/PlatformViewTest.cpp

@@ -57,9 +57,12 @@ IntRect Covering(const Rect& inRect) {
 
 LUMPlatformView::LUMPlatformView() {
   UI_SetNodeID("PlatformScrollView");
+  // A tracker dies before its view; of a mouse gesture the contract takes care.
+  SetBeforeTrackViewGoes([this] { mDropGesture.DeleteTracker(); });
 }
 
 LUMPlatformView::~LUMPlatformView() {
+  mDropGesture.DeleteAll();
   mGesture.DeleteTracker();
   std::auto_ptr<TrackView> none;
   SetTrackView(none);

@@ -7,6 +7,7 @@
 
 #include "lumui/ui/UI_SubView.h"
 #include "vek/config/Export.h"
+#include "vek/trackview/DropGesture.h"
 #include "vek/trackview/Gesture.h"
 #include "vek/trackview/PlatformView.h"
 
@@ -29,7 +30,7 @@ namespace vek::trackview {
 class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformView {
  public:
   LUMPlatformView();
-  // Deletes the tracker and then the track view, while their calls are still answered.
+  // Deletes the trackers and then the track view, while their calls are still answered.
   ~LUMPlatformView() override;
 
   void UI_SetLocalRectF(const Rect& inRect) override;
@@ -43,6 +44,15 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   bool UI_WantsKeyboardFocus() const override;
   void UI_DoTimerNotify(unsigned int inTimerID) override;
   void UI_FocusChanged(int inReason) override;
+  // Drags go to the trackers of the overlays that want them; positions are local.
+  bool UI_WantsDragDropEvents() const override;
+  bool UI_HandleDragEnter(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                          int& ioEffect) override;
+  bool UI_HandleDragOver(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                         int& ioEffect) override;
+  void UI_HandleDragLeave(lumui::datatransfer::OS_ReceiveData& inData) override;
+  bool UI_HandleDrop(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                     int& ioEffect) override;
 
   virtual void UpdateNow();
   // What the scroll view shows, in local space. Not TrackView::LocalArea, which goes through data.
@@ -100,6 +110,7 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   const lumui::ui::OS_Event* mCurrentOSEvent = nullptr;
   Point mLastDataPoint;
   Modifiers mLastModifiers;
+  DropGesture mDropGesture;
   std::set<unsigned int> mTimers;  // that run
 };
 

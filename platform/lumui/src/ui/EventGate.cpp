@@ -3,6 +3,7 @@
 
 #include "ui/EventGate.h"
 
+#include <QDrag>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -15,6 +16,8 @@
 #include <exception>
 #include <utility>
 
+#include "datatransfer/DragWatch.h"
+#include "datatransfer/HeadlessDrag.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
@@ -66,6 +69,12 @@ bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
          inWindow.GetPeer()->GetChromeHeight();
 }
 
+// Qt sends it when the drag's loop is over.
+bool IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent) {
+  return inEvent.type() == QEvent::MouseButtonRelease && !inEvent.spontaneous() &&
+         FindWindowOf(inNative);
+}
+
 // What a key types by itself: no control characters, and nothing of a chord.
 bool IsTyped(QChar inCharacter) {
   const char16_t unit = inCharacter.unicode();
@@ -78,6 +87,9 @@ EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
     : QApplication(ioArgumentCount, ioArguments) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
+  mDragWatch = std::make_unique<datatransfer::DragWatch>([] {
+    if (auto* const manager = NodeManagerImplIfAny()) manager->drops.Leave();
+  });
   connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
     if (!AskSessionEnd()) ioSession.cancel();
   });
@@ -134,6 +146,13 @@ bool EventGate::RouteMarked(QWindow& inNative, QEvent& inEvent) {
 bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
     NodeManagerImpl().capture.End(true);
+  }
+  if (mDragTakesInput && IsRoutedToNodes(inEvent.type())) return HandleInDrag(inNative, inEvent);
+  if (inEvent.type() == QEvent::Drop) mDropCameHere = true;
+  if (IsReleaseOfDrag(inNative, inEvent)) {
+    // Qt's idea of the held buttons wants it, but the gesture has ended as the drag began.
+    const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
+    return QApplication::notify(&inNative, &inEvent);
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
   if (!window) return RouteForeign(inNative, inEvent);
@@ -363,6 +382,41 @@ void EventGate::EndSession() {
   mSessionEnding = false;
   ForEachWindow([](OS_Window& inWindow) { inWindow.UI_SendMessage(kMessageEndSession, 1, 0); });
   if (mQuitFunction) mQuitFunction(0);
+}
+
+// Qt's own drags take what they need in a filter that comes before the widgets.
+bool EventGate::HandleInDrag(QWindow& inNative, QEvent& inEvent) {
+  datatransfer::HeadlessDrag* const headless = datatransfer::HeadlessDrag::GetRunning();
+  if (!headless) return QApplication::notify(&inNative, &inEvent);
+  headless->HandleEvent(inEvent);
+  if (!IsPointerEvent(inEvent.type())) return true;
+  const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
+  return QApplication::notify(&inNative, &inEvent);
+}
+
+int EventGate::RunDrag(const std::function<int()>& inLoop) {
+  const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, true);
+  mDragging = true;
+  mDropCameHere = false;
+  mDragWatch->Forget();
+  int effect = inLoop();
+  if (!mDropCameHere) effect = mDragWatch->AwaitFinish(effect);
+  mDragging = false;
+  return effect;
+}
+
+void EventGate::RunDrop(const std::function<void()>& inDrop) {
+  const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, false);
+  inDrop();
+}
+
+void EventGate::CancelDrag() {
+  if (!mDragging) return;
+  const auto cancel = [] {
+    if (auto* const headless = datatransfer::HeadlessDrag::GetRunning()) return headless->Cancel();
+    QDrag::cancel();
+  };
+  QMetaObject::invokeMethod(this, cancel, Qt::QueuedConnection);
 }
 
 void EventGate::TellDisplayChange() {

@@ -7,6 +7,7 @@
 #include <boost/shared_ptr.hpp>
 #include <vector>
 
+#include "datatransfer/DropState.h"
 #include "lumui/Export.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/UI_NodeManager.h"
@@ -24,6 +25,7 @@ class UI_NodeManager::Impl {
   void ApplyCursor();
 
   CaptureState capture;
+  DropState drops;
   TimerQueue timers;
   Executor executor;
   std::vector<UI_Node*> prePointerNodes;

@@ -88,6 +88,7 @@ bool NodePeer::HandleEvent(QEvent& inEvent) {
     case QEvent::EnabledChange:
       if (!mWidget->isEnabled() || inEvent.type() == QEvent::Hide) {
         NodeManagerImpl().capture.CancelFor(*mNode);
+        NodeManagerImpl().drops.LeaveFor(*mNode);
       }
       return false;
     default:

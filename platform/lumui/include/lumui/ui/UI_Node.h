@@ -15,6 +15,7 @@
 #include "lumcore/utility/Flags.h"
 #include "lumcore/utility/RefCounted.h"
 #include "lumui/Export.h"
+#include "lumui/ui/UI_DragDropHandler.h"
 
 namespace lumui::drawbot {
 class Drawbot;
@@ -44,7 +45,7 @@ enum FocusChangeReason : int {
 // Every event operation may remove the node it is called on, drop the last reference to it, or
 // destroy its window: the caller holds it until the operation returns, and the event ends there.
 // What an operation throws goes to the application's error function and counts as an event taken.
-class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
+class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_DragDropHandler {
  public:
   UI_Node(const UI_Node&) = delete;
   UI_Node& operator=(const UI_Node&) = delete;
