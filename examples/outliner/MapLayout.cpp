@@ -117,9 +117,10 @@ void MapLayout::PlaceBranches() {
   }
   for (Index index = static_cast<Index>(mNodes.size()); index-- > 0;) {
     Node& node = mNodes[index];
-    node.middle = node.childCount == 0
-                      ? (node.top + node.bottom) / 2
-                      : (mNodes[node.firstChild].middle + mNodes[EndOfChildren(node) - 1].middle) / 2;
+    node.middle =
+        node.childCount == 0
+            ? (node.top + node.bottom) / 2
+            : (mNodes[node.firstChild].middle + mNodes[EndOfChildren(node) - 1].middle) / 2;
   }
 }
 
@@ -148,9 +149,9 @@ MapLayout::Index MapLayout::NextChildBelow(const Node& inParent, Index inFrom, f
     low += step;
     step *= 2;
   }
-  const auto found = std::partition_point(mNodes.begin() + low,
-                                          mNodes.begin() + low + std::min(step, end - low),
-                                          [&](const Node& inNode) { return inNode.bottom <= inY; });
+  const auto found =
+      std::partition_point(mNodes.begin() + low, mNodes.begin() + low + std::min(step, end - low),
+                           [&](const Node& inNode) { return inNode.bottom <= inY; });
   return static_cast<Index>(found - mNodes.begin());
 }
 

@@ -17,8 +17,8 @@ namespace outliner {
 using lumui::ui::KeyboardCode;
 using lumui::ui::KeyboardEvent;
 
-MapOverlay::MapOverlay(vek::trackview::TrackView& inTrackView,
-                       vek::sharedui::MarqeeOverlay& inBand, Functions inFunctions)
+MapOverlay::MapOverlay(vek::trackview::TrackView& inTrackView, vek::sharedui::MarqeeOverlay& inBand,
+                       Functions inFunctions)
     : Overlay(maplayers::kMap, kStateActive),
       mTrackView(inTrackView),
       mBand(inBand),
@@ -75,8 +75,8 @@ void MapOverlay::SelectWithPointer(OutlineRow& inRow, Modifiers inModifiers) {
     mAnchor = anchor->GetId();
     const auto [from, to] = std::minmax(tree.GetLine(*anchor), tree.GetLine(inRow));
     const auto first = tree.GetLines().begin();
-    document.SelectRows({first + static_cast<std::ptrdiff_t>(from),
-                         first + static_cast<std::ptrdiff_t>(to) + 1});
+    document.SelectRows(
+        {first + static_cast<std::ptrdiff_t>(from), first + static_cast<std::ptrdiff_t>(to) + 1});
     return;
   }
   mAnchor = inRow.GetId();
@@ -89,7 +89,7 @@ void MapOverlay::SelectWithPointer(OutlineRow& inRow, Modifiers inModifiers) {
 
 bool MapOverlay::DoKeyEvent(const KeyboardEvent& inEvent) {
   if (!inEvent.IsActionKeyDown() || !inEvent.GetModKey().IsEmpty()) return false;
-  switch (inEvent.GetKeyCode().GetControlCode(false)) {
+  switch (inEvent.GetCode().GetControlCode(false)) {
     case KeyboardCode::kEscape:
       if (!mTrackView.GetPlatformView().IsTracking()) return false;
       mIsGivenUp = true;

@@ -94,9 +94,9 @@ struct MapPainter::Frame {
 MapPainter::MapPainter() {
   const auto* supplier = lumui::drawbot::GetDefaultSupplier();
   for (std::size_t level = 0; level < kLevels; ++level) {
-    mFonts.push_back(supplier->NewFont(nullptr, kTextSizes[level],
-                                       level < 2 ? lumui::drawbot::FontStyle::kBold
-                                                 : lumui::drawbot::FontStyle::kPlain));
+    mFonts.push_back(supplier->NewFont(
+        nullptr, kTextSizes[level],
+        level < 2 ? lumui::drawbot::FontStyle::kBold : lumui::drawbot::FontStyle::kPlain));
   }
 }
 
@@ -142,8 +142,8 @@ void MapPainter::DrawFromFar(Drawbot& inDrawbot, const MapLayout& inLayout, cons
                              const MapLayout::Point& inScale) const {
   const lumui::drawbot::StDrawbotState state(inDrawbot);
   inDrawbot.Scale(inScale.x, inScale.y);
-  Frame frame{inDrawbot, inLayout, nullptr, inDamage, inDrawbot.GetScale(), false, false,
-              {MapLayout::kRoot}, {}, {}, {}};
+  Frame frame{inDrawbot,          inLayout, nullptr, inDamage, inDrawbot.GetScale(), false, false,
+              {MapLayout::kRoot}, {},       {},      {}};
   while (!frame.waiting.empty()) {
     const Index index = frame.waiting.back();
     frame.waiting.pop_back();
@@ -157,8 +157,8 @@ void MapPainter::Visit(Frame& ioFrame, Index inIndex) const {
   Rect box = ioFrame.layout.GetBox(inIndex);
   const Rect reach(box.x - kRing, box.y - kRing, box.width + 2 * kRing, box.height + 2 * kRing);
   if (reach.Intersects(ioFrame.damage)) {
-    const bool isPlain = !ioFrame.hasBends &&
-                         (!ioFrame.source || ioFrame.source->mark(node) == MapMark::kNone);
+    const bool isPlain =
+        !ioFrame.hasBends && (!ioFrame.source || ioFrame.source->mark(node) == MapMark::kNone);
     if (isPlain) {
       ioFrame.specks[LevelOf(node.depth)].push_back(box);
     } else {
@@ -268,14 +268,14 @@ void MapPainter::DrawBoxes(const Frame& inFrame) const {
     const Rect box = inFrame.layout.GetBox(index);
     const MapMark mark = inFrame.source->mark(node);
     const float radius = node.depth == 0 ? box.height / 2 : kRadius;
-    Path& path = mark == MapMark::kSelected        ? selected
+    Path& path = mark == MapMark::kSelected       ? selected
                  : mark == MapMark::kIdleSelected ? idle
                                                   : boxes[LevelOf(node.depth)];
     path.AddRoundedRect(box, radius);
     if (mark == MapMark::kDropTarget) {
-      target.AddRoundedRect({box.x - kRing / 2, box.y - kRing / 2, box.width + kRing,
-                             box.height + kRing},
-                            radius + kRing / 2);
+      target.AddRoundedRect(
+          {box.x - kRing / 2, box.y - kRing / 2, box.width + kRing, box.height + kRing},
+          radius + kRing / 2);
     }
   }
   for (std::size_t level = 0; level < kLevels; ++level)
@@ -290,8 +290,7 @@ void MapPainter::DrawTexts(const Frame& inFrame) const {
     const Node& node = inFrame.layout.GetNode(index);
     const UTF16String& text = inFrame.source->text(node);
     if (text.empty()) continue;
-    const bool isOnAccent =
-        node.depth == 0 || inFrame.source->mark(node) == MapMark::kSelected;
+    const bool isOnAccent = node.depth == 0 || inFrame.source->mark(node) == MapMark::kSelected;
     const FontP& font = FontOf(node.depth);
     const float padding = node.depth == 0 ? kRootPadding : kPadding;
     const float height = font->GetAscent() + font->GetDescent();

@@ -103,8 +103,8 @@ MapMark MapScene::MarkOf(const MapPainter::Node& inNode) const {
 }
 
 void MapScene::Invalidate(Rect inRect) {
-  inRect = Rect(inRect.x - kRing, inRect.y - kRing, inRect.width + 2 * kRing,
-                inRect.height + 2 * kRing);
+  inRect =
+      Rect(inRect.x - kRing, inRect.y - kRing, inRect.width + 2 * kRing, inRect.height + 2 * kRing);
   mTrackView.GetPlatformView().InvalidateDataRect(inRect);
 }
 

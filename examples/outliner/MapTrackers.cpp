@@ -56,9 +56,8 @@ OutlineRow* MapMoveTracker::FindTarget(const Point& inDataPoint) const {
   if (!scene.GetDocument()) return nullptr;
   const MapLayout::Index index = scene.GetLayout().FindBox(inDataPoint);
   if (index == MapLayout::kNone) return nullptr;
-  OutlineRow* const target = index == MapLayout::kRoot
-                                 ? &scene.GetDocument()->GetTree().GetRoot()
-                                 : scene.RowOf(index);
+  OutlineRow* const target =
+      index == MapLayout::kRoot ? &scene.GetDocument()->GetTree().GetRoot() : scene.RowOf(index);
   return target && edits::CanMoveBelow(*scene.GetDocument(), *target) ? target : nullptr;
 }
 
@@ -76,8 +75,7 @@ void MapMoveTracker::ContinueTracking(Modifiers inModifiers, const Point& inData
   const OutlineRow* const target = FindTarget(inDataPoint);
   scene.SetDropTarget(target ? scene.GetLayout().FindRow(target->GetId()) : MapLayout::kNone);
   scene.ShowGhost(dragged, inDataPoint);
-  const bool isRefused =
-      !target && scene.GetLayout().FindBox(inDataPoint) != MapLayout::kNone;
+  const bool isRefused = !target && scene.GetLayout().FindBox(inDataPoint) != MapLayout::kNone;
   lumui::ui::UI_NodeManager::Get(true)->SetCursor(isRefused ? lumui::ui::CursorShape::kForbidden
                                                             : lumui::ui::CursorShape::kMove);
 }

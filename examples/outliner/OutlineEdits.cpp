@@ -222,6 +222,22 @@ void MoveDown(OutlineDocument& ioDocument) {
   edit.PostKeepingSelection();
 }
 
+bool CanMoveBelow(OutlineDocument& inDocument, const OutlineRow& inTarget) {
+  for (const OutlineRow* row = &inTarget; row->GetParent(); row = row->GetParent()) {
+    if (inDocument.IsSelected(*row)) return false;
+  }
+  return AnyRun(inDocument, [&](const Run& inRun) { return inRun.parent != &inTarget; });
+}
+
+void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget) {
+  if (!CanMoveBelow(ioDocument, inTarget)) return;
+  Edit edit(ioDocument, "$$$/outliner/Edit/MoveBelow=Move");
+  for (const Run& run : SelectedRuns(ioDocument)) {
+    if (run.parent != &inTarget) MoveRun(edit, run, MoveTarget::kLastBelow, inTarget);
+  }
+  edit.PostKeepingSelection();
+}
+
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& inText) {
   const UTF16String text = CleanText(inText);
   if (text == ioRow.GetText()) return;

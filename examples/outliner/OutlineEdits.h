@@ -39,6 +39,11 @@ void MoveUp(OutlineDocument& ioDocument);
 bool CanMoveDown(OutlineDocument& inDocument);
 void MoveDown(OutlineDocument& ioDocument);
 
+// The selected branches become the last ones below the target, which may be the root. Not onto a
+// row that is selected or below one, and not where all of them are already.
+bool CanMoveBelow(OutlineDocument& inDocument, const OutlineRow& inTarget);
+void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget);
+
 // The same text as before posts nothing.
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const lumcore::UTF16String& inText);
 

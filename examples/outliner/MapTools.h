@@ -1,0 +1,44 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "lumui/ui/UI_NodeManager.h"
+#include "vek/sharedui/PanOverlay.h"
+#include "vek/sharedui/ZoomOverlay.h"
+
+namespace outliner {
+
+// The tools of a map that lie over it while they are chosen; without one the map itself selects.
+enum class MapTool { kSelect, kHand, kZoom };
+
+// One of the framework's tools, with a cursor that tells of it.
+template <class Base>
+class MapToolOverlay final : public Base {
+ public:
+  using CursorShape = lumui::ui::CursorShape;
+
+  MapToolOverlay(vek::trackview::TrackView* inTrackView, vek::trackview::Overlay::LayerType inLayer,
+                 CursorShape inHovering, CursorShape inPressed)
+      : Base(inTrackView, inLayer, vek::trackview::Overlay::kStateActive),
+        mHovering(inHovering),
+        mPressed(inPressed) {}
+
+  // Drags of files and text are for the map.
+  std::auto_ptr<vek::trackview::Tracker> DoAcquireTracker(
+      const vek::trackview::Point& inDataPoint, bool inHover,
+      vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) override {
+    if (inDragAndDrop) return std::auto_ptr<vek::trackview::Tracker>();
+    lumui::ui::UI_NodeManager::Get(true)->SetCursor(inHover ? mHovering : mPressed);
+    return Base::DoAcquireTracker(inDataPoint, inHover, inDragAndDrop);
+  }
+
+ private:
+  const CursorShape mHovering;
+  const CursorShape mPressed;
+};
+
+using MapHand = MapToolOverlay<vek::sharedui::PanOverlay>;
+using MapZoom = MapToolOverlay<vek::sharedui::ZoomOverlay>;
+
+}  // namespace outliner
