@@ -8,6 +8,7 @@ vek_test(outliner_tests
     hosts/OutlineEditsTest.cpp
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
+    hosts/PanelsTest.cpp
     hosts/RunningOutliner.cpp
     hosts/ScriptRunTest.cpp
     support/UIApplication.cpp

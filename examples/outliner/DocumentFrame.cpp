@@ -37,6 +37,7 @@ DocumentFrame::DocumentFrame(Functions inFunctions) : mFunctions(std::move(inFun
   mTabs.reset(
       new DocumentTabs([this](std::size_t inTab) { mFunctions.show(*mPages[inTab].document); },
                        [this](std::size_t inTab) { mFunctions.close(*mPages[inTab].document); }));
+  mTabs->UI_SetNodeID("documents");
   mTabs->UI_Show(false);
   UI_AddChild(mTabs);
   vek::app::DocumentApplication::GetDocStatusNotifier().AddListener(this);

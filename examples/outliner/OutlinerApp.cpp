@@ -70,7 +70,9 @@ void OutlinerApp::Start() {
   }
 }
 
+// The loop saves the workspace when it ends; a run by a script has had another.
 void OutlinerApp::End() {
+  SaveDefaultWorkSpace();
   CloseAnyOpenDocuments();
   Terminate();
 }

@@ -22,11 +22,11 @@ function findRow(text) {
   throw new Error("there is no row \"" + text + "\"");
 }
 
-Outliner.setSize(900, 640);
+Outliner.setSize(960, 680);
 Outliner.print(Outliner.title);
 
 // A row behind "Read the drawings twice", and one below the new one.
-Outliner.click(300, 94);
+Outliner.click(300, 116);
 Outliner.key("Return");
 Outliner.type("Make a model of card, one to ten");
 Outliner.key("Ctrl+Return");
@@ -58,9 +58,9 @@ try {
 }
 
 // Rows in two places are selected, and each place moves its rows up.
-Outliner.click(300, 166);
-Outliner.click(300, 310, "Ctrl");
-Outliner.click(300, 334, "Ctrl");
+Outliner.click(300, 188);
+Outliner.click(300, 332, "Ctrl");
+Outliner.click(300, 356, "Ctrl");
 Outliner.print("selected: " + Outliner.selection);
 Outliner.key("Alt+Up");
 Outliner.picture("build/run/outliner.png");

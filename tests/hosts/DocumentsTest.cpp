@@ -56,11 +56,11 @@ TEST(Documents, AreOpenedOnceAndSwitchedByKeysAndTabs) {
   EXPECT_EQ(host.Show(), "p*");
 
   // The last tab of three, then its cross.
-  lumui::testing::ClickMouse(host.GetWindow(), {500, 16});
+  lumui::testing::ClickMouse(host.GetWindow(), host.PlaceIn("documents", 500, 16));
   EXPECT_EQ(host.ShowDocuments(), "*o.opml p.opml [Untitled]");
-  lumui::testing::ClickMouse(host.GetWindow(), {645, 16});
+  lumui::testing::ClickMouse(host.GetWindow(), host.PlaceIn("documents", 645, 16));
   EXPECT_EQ(host.ShowDocuments(), "[*o.opml] p.opml");
-  lumui::testing::ClickMouse(host.GetWindow(), {300, 16});
+  lumui::testing::ClickMouse(host.GetWindow(), host.PlaceIn("documents", 300, 16));
   EXPECT_EQ(host.ShowDocuments(), "*o.opml [p.opml]");
 }
 
@@ -146,12 +146,13 @@ TEST(Menus, TheRightButtonSelectsTheRowAndOpensItsMenu) {
   host.Click(0);
   host.Click(1, "Ctrl");
   const auto press = [&](float inY) {
-    lumui::testing::ClickMouse(host.GetWindow(), {300, inY}, lumui::ui::PointerEvent::kRightButton);
+    lumui::testing::ClickMouse(host.GetWindow(), host.PlaceIn("rows", 300, inY),
+                               lumui::ui::PointerEvent::kRightButton);
   };
-  press(94);
+  press(44);
   EXPECT_EQ(host.Show(), "a* b* c") << "what is selected together stays so";
   lumui::testing::CloseMenus(host.GetWindow());
-  press(118);
+  press(68);
   EXPECT_EQ(host.Show(), "a b c*");
   lumui::testing::ChooseMenuItem(host.GetWindow(), {ToUTF16("Move Up")});
   EXPECT_EQ(host.Show(), "a c* b");

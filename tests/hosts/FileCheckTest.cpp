@@ -52,9 +52,9 @@ TEST(FileCheck, NamesWhatACommandFileHasWrongByLineAndCause) {
     std::string record;
     const char* finding;  // in line 4
   } kCases[] = {
-      {"<cmd id='1029'><name>a&amp;b</name>%</cmd>",
+      {"<cmd id='1099'><name>a&amp;b</name>%</cmd>",
        "the name \"a&b\" holds \"&\", \"<\" or a quote, which a saved key map cannot carry\n"
-       "c:4: nobody answers for the command 1029"},
+       "c:4: nobody answers for the command 1099"},
       {"<cmd id='61440'><name>a</name>%</cmd>", "\"61440\" is no id from 1 to 61439"},
       {"<cmd id='10'><id>x</id><name>a</name>%</cmd>", "\"10x\" is no id from 1 to 61439"},
       {"<cmd><name>a</name>%</cmd>", "\"\" is no id from 1 to 61439"},

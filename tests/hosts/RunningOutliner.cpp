@@ -17,7 +17,6 @@
 #include "outliner/Reports.h"
 #include "outliner/RowEditor.h"
 #include "outliner/RowPainter.h"
-#include "outliner/TitleStrip.h"
 #include "vek/uisupport/ReportError.h"
 
 namespace tests {
@@ -29,12 +28,6 @@ using lumui::testing::Position;
 namespace {
 
 constexpr float kAboveRows = 8;
-
-Position PlaceOf(std::size_t inLine, float inX) {
-  const float row = outliner::RowPainter::kRowHeight;
-  return {inX,
-          outliner::TitleStrip::kHeight + kAboveRows + (static_cast<float>(inLine) + 0.5f) * row};
-}
 
 outliner::KeyChord Chord(const std::string& inName) {
   outliner::KeyChord chord;
@@ -124,6 +117,24 @@ std::string RunningOutliner::ShowDocuments() {
         (text.empty() ? "" : " ") + (document == mApp->GetOutline() ? "[" + title + "]" : title);
   }
   return text;
+}
+
+Position RunningOutliner::PlaceIn(const std::string& inNode, float inX, float inY) {
+  const auto* const node = GetWindow().UI_GetNodeForID(lumcore::utility::ToUTF8(inNode));
+  if (!node) throw std::invalid_argument(inNode);
+  lumcore::geom::PointT<int> corner(0, 0);
+  node->UI_LocalToGlobal(corner);
+  // The pointer's positions begin below the menu bar, where the docks do.
+  lumcore::geom::PointT<int> docks(0, 0);
+  GetWindow().UI_GetChild(0)->UI_LocalToGlobal(docks);
+  corner = corner - docks;
+  return {static_cast<float>(corner.x) + inX, static_cast<float>(corner.y) + inY};
+}
+
+// All documents have theirs at the same place.
+Position RunningOutliner::PlaceOf(std::size_t inLine, float inX) {
+  const float line = static_cast<float>(inLine) + 0.5f;
+  return PlaceIn("rows", inX, kAboveRows + line * outliner::RowPainter::kRowHeight);
 }
 
 void RunningOutliner::Keys(const std::string& inChords) {

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/OS_Window.h"
 #include "outliner/OutlineDocument.h"
 #include "outliner/OutlinerApp.h"
@@ -38,6 +39,9 @@ class RunningOutliner {
   void Click(std::size_t inLine, const std::string& inModifier = "", float inX = 300);
   void DoubleClick(std::size_t inLine, float inX);
 
+  // In coordinates of the window, from the left upper corner of the first node of that name.
+  lumui::testing::Position PlaceIn(const std::string& inNode, float inX, float inY);
+
   // The rows, and behind them the text that is being typed, with "|" for the caret.
   std::string Show();
   std::string GetTitle();
@@ -60,6 +64,7 @@ class RunningOutliner {
 
  private:
   void Start();
+  lumui::testing::Position PlaceOf(std::size_t inLine, float inX);
   std::optional<std::string> TakeAnswer();
 
   std::unique_ptr<TemporaryFolder> mOwnFolder;

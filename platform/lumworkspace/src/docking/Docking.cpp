@@ -210,12 +210,13 @@ void Docking::LetGo(const UTF8String& inType) {
   if (auto* const parent = frame->UI_GetParentNode()) parent->UI_RemoveChild(frame.get());
 }
 
-Layout Docking::Capture() {
+// Changes nothing: who looks at a layout takes no change of the user from whoever looks next.
+Layout Docking::Capture() const {
   TopLevelWindow* const main = GetMain();
   if (!main || mShowing) return mLayout;
   Layout now = mLayout;
   const Rect rect = RectOf(*main);
-  if (rect != mMainPlaced || now.mainWindow.IsEmpty()) now.mainWindow = mMainPlaced = rect;
+  if (rect != mMainPlaced || now.mainWindow.IsEmpty()) now.mainWindow = rect;
   DockArea& area = main->GetDockArea();
   if (area.IsEdited()) {
     now.areas = area.Capture();
@@ -230,7 +231,7 @@ Layout Docking::Capture() {
     const TopLevelWindow* const window = mFloating[i].window.get();
     if (!window) continue;
     const Rect placed = RectOf(*window);
-    if (placed != mFloating[i].placed) now.floating[i].rect = mFloating[i].placed = placed;
+    if (placed != mFloating[i].placed) now.floating[i].rect = placed;
     const DockArea& each = window->GetDockArea();
     if (each.IsEdited()) {
       now.floating[i].root = each.Capture()[workspace::kDockLeft];

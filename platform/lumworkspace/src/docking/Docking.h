@@ -54,7 +54,7 @@ class Docking {
   void ForEachPanel(const std::function<void(workspace::TabPanel&)>& inFunction) const;
 
   // As it is now.
-  layout::Layout Capture();
+  layout::Layout Capture() const;
   // Makes what is open and not there, lets go what is not open, and moves the rest. If a creator
   // throws, everything stays as it was.
   void Show(const layout::Layout& inLayout);
