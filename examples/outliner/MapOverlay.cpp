@@ -56,7 +56,8 @@ std::auto_ptr<vek::trackview::Tracker> MapOverlay::DoAcquireTracker(
     const Point& inDataPoint, bool inHover,
     vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) {
   using TrackerP = std::auto_ptr<vek::trackview::Tracker>;
-  if (inHover || inDragAndDrop || !mScene.GetDocument()) return TrackerP();
+  if (inHover || !mScene.GetDocument()) return TrackerP();
+  if (inDragAndDrop) return TrackerP(new MapDropTracker(*this, *inDragAndDrop));
   if (OutlineRow* const row = mScene.RowAt(inDataPoint)) {
     return TrackerP(new MapMoveTracker(*this, *row));
   }
@@ -92,11 +93,7 @@ bool MapOverlay::DoKeyEvent(const KeyboardEvent& inEvent) {
   switch (inEvent.GetCode().GetControlCode(false)) {
     case KeyboardCode::kEscape:
       if (!mTrackView.GetPlatformView().IsTracking()) return false;
-      mIsGivenUp = true;
-      mScene.SetDropTarget(MapLayout::kNone);
-      mScene.HideGhost();
-      mScene.SetBand({});
-      mBand.SetMarqueeRect(vek::trackview::Rect());
+      GiveUpGesture();
       return true;
     case KeyboardCode::kLeftArrow:
       return StepSideways(false);
@@ -105,6 +102,18 @@ bool MapOverlay::DoKeyEvent(const KeyboardEvent& inEvent) {
     default:
       return false;
   }
+}
+
+void MapOverlay::GiveUpGesture() {
+  mIsGivenUp = true;
+  mScene.SetDropTarget(MapLayout::kNone);
+  mScene.HideGhost();
+  mScene.SetBand({});
+  mBand.SetMarqueeRect(vek::trackview::Rect());
+}
+
+bool MapOverlay::DoWantsDragDropEvents() const {
+  return mScene.GetDocument() != nullptr;
 }
 
 // To the parent of the first selected row, or to its first child.

@@ -52,6 +52,7 @@ class MapOverlay final : public vek::trackview::Overlay {
   std::auto_ptr<vek::trackview::Tracker> DoAcquireTracker(
       const Point& inDataPoint, bool inHover,
       vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) override;
+  bool DoWantsDragDropEvents() const override;
   // Escape gives up the gesture that runs; the arrows go from box to box.
   bool DoKeyEvent(const lumui::ui::KeyboardEvent& inEvent) override;
 
@@ -61,7 +62,11 @@ class MapOverlay final : public vek::trackview::Overlay {
   void SelectWithPointer(OutlineRow& inRow, Modifiers inModifiers);
   // A gesture that was given up does nothing more, and looks as if it had ended.
   void BeginGesture() { mIsGivenUp = false; }
+  void GiveUpGesture();
   bool IsGivenUp() const { return mIsGivenUp; }
+  // Whether the selected rows are being dragged out of the map, and nobody in it has taken them
+  // back. Who drags them keeps it, as the map may go meanwhile.
+  const std::shared_ptr<bool>& GetSending() const { return mIsSending; }
   vek::sharedui::MarqeeOverlay& GetBand() { return mBand; }
   vek::trackview::TrackView& GetTrackView() { return mTrackView; }
 
@@ -74,6 +79,7 @@ class MapOverlay final : public vek::trackview::Overlay {
   MapScene mScene;
   OutlineRow::Id mAnchor = 0;
   bool mIsGivenUp = false;
+  const std::shared_ptr<bool> mIsSending = std::make_shared<bool>(false);
 };
 
 }  // namespace outliner

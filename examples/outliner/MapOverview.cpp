@@ -144,6 +144,7 @@ MapOverview::MapOverview(const MapScene& inScene, TrackView& inMap) : mMap(&inMa
   trackView->InstallOverlay(overlay, false);
   SetTrackView(trackView);
   UI_SetNodeID("overview");
+  UI_SetOpaque(true);
   SetWantsKeyboardFocus(false);
 }
 

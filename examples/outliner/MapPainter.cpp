@@ -23,6 +23,7 @@ using lumui::drawbot::Pen;
 namespace {
 
 using Node = MapLayout::Node;
+using Point = MapLayout::Point;
 using Rect = MapLayout::Rect;
 
 constexpr std::size_t kLevels = 4;  // that look different: the root and three more
@@ -73,22 +74,73 @@ ColorRGBA LineColorOf(std::size_t inLevel) {
 
 }  // namespace
 
-// One paint: what is to be drawn, sorted by how it looks, so that everything of one colour is drawn
-// at once.
+// One paint: what is to be drawn, sorted by how it looks. Each piece is drawn by itself: a path of
+// all of them would cost the rasteriser more than it saves.
 struct MapPainter::Frame {
+  // A line that bends, in units of the map.
+  struct Curve {
+    std::size_t level;
+    Point start, handle, otherHandle, end;
+  };
+
+  Frame(Drawbot& inDrawbot, const MapLayout& inLayout, const Source* inSource, const Rect& inDamage,
+        const Point& inScale, const Point& inOrigin)
+      : drawbot(inDrawbot),
+        layout(inLayout),
+        source(inSource),
+        damage(inDamage),
+        scale(inScale),
+        origin(inOrigin),
+        ratio(inDrawbot.GetScale()),
+        hasBends(inSource && inScale.y * ratio * MapLayout::kBoxHeight >= kLeastRoundBox),
+        hasTexts(inSource && inScale.y * kTextSizes[kLevels - 1] >= kLeastTextSize),
+        lineWidth(std::max(kLineWidth, kLeastLinePixels / (inScale.x * ratio))) {}
+
+  // In units of the view, with edges on whole pixels: what is this small would blur between them.
+  Rect Snapped(const Rect& inRect) const {
+    const auto snap = [this](float inLocal) { return std::round(inLocal * ratio) / ratio; };
+    const float left = snap(inRect.x * scale.x + origin.x);
+    const float top = snap(inRect.y * scale.y + origin.y);
+    const float least = 1 / ratio;
+    return Rect(left, top, std::max(least, snap(inRect.Right() * scale.x + origin.x) - left),
+                std::max(least, snap(inRect.Bottom() * scale.y + origin.y) - top));
+  }
+  void AddSpeck(std::size_t inLevel, const Rect& inRect) {
+    specks[inLevel].push_back(Snapped(inRect));
+  }
+  // An upright or level line between two points.
+  void AddLine(std::size_t inLevel, const Point& inStart, const Point& inEnd) {
+    const float half = lineWidth / 2;
+    const bool isUpright = inStart.x == inEnd.x;
+    const auto [left, right] = std::minmax(inStart.x, inEnd.x);
+    const auto [top, bottom] = std::minmax(inStart.y, inEnd.y);
+    const Rect line = isUpright ? Rect(left - half, top, lineWidth, bottom - top)
+                                : Rect(left, top - half, right - left, lineWidth);
+    if (line.Intersects(damage)) lines[inLevel].push_back(line);
+  }
+  void AddCurve(const Curve& inCurve) {
+    const auto [top, bottom] = std::minmax(inCurve.start.y, inCurve.end.y);
+    const float half = lineWidth / 2;
+    const Rect bounds(inCurve.start.x, top - half, inCurve.end.x - inCurve.start.x,
+                      bottom - top + lineWidth);
+    if (bounds.Intersects(damage)) curves.push_back(inCurve);
+  }
+
   Drawbot& drawbot;
   const MapLayout& layout;
-  const Source* source;
-  Rect damage;
-  float scaleY;
-  bool hasBends;
-  bool hasTexts;
-  std::vector<Index> waiting;
+  const Source* source;  // null for boxes and branches alone
+  const Rect damage;
+  const Point scale;
+  const Point origin;
+  const float ratio;  // pixels in a unit of the view
+  const bool hasBends;
+  const bool hasTexts;
+  const float lineWidth;
+  std::vector<Index> waiting{MapLayout::kRoot};
   std::vector<Index> boxes;
-  std::array<std::vector<Rect>, kLevels> specks;  // that are drawn without corners
-  std::array<Path, kLevels> lines;
-
-  float Pixels(float inUnits) const { return inUnits * scaleY; }
+  std::array<std::vector<Rect>, kLevels> specks;  // small boxes and branches, in view units
+  std::array<std::vector<Rect>, kLevels> lines;
+  std::vector<Curve> curves;
 };
 
 MapPainter::MapPainter() {
@@ -112,55 +164,43 @@ float MapPainter::MeasureBox(const UTF16String& inText, std::size_t inDepth) con
 }
 
 void MapPainter::Draw(Drawbot& inDrawbot, const MapLayout& inLayout, const Source& inSource,
-                      const Rect& inDamage, float inScale, const MapLayout::Point& inOrigin) const {
+                      const Rect& inDamage, float inScale, const Point& inOrigin) const {
+  Frame frame(inDrawbot, inLayout, &inSource, inDamage, Point(inScale, inScale), inOrigin);
+  VisitAll(frame);
+  DrawSpecks(frame);
+  if (!frame.hasBends && frame.boxes.empty()) return;
   const lumui::drawbot::StDrawbotState state(inDrawbot);
   inDrawbot.Translate(inOrigin.x, inOrigin.y);
   inDrawbot.Scale(inScale, inScale);
-  const float pixels = inDrawbot.GetScale();
-  Frame frame{inDrawbot,
-              inLayout,
-              &inSource,
-              inDamage,
-              pixels,
-              pixels * MapLayout::kBoxHeight >= kLeastRoundBox,
-              inScale * kTextSizes[kLevels - 1] >= kLeastTextSize,
-              {MapLayout::kRoot},
-              {},
-              {},
-              {}};
-  while (!frame.waiting.empty()) {
-    const Index index = frame.waiting.back();
-    frame.waiting.pop_back();
-    Visit(frame, index);
-  }
-  DrawLines(frame);
+  DrawCurves(frame);
   DrawBoxes(frame);
   if (frame.hasTexts) DrawTexts(frame);
 }
 
 void MapPainter::DrawFromFar(Drawbot& inDrawbot, const MapLayout& inLayout, const Rect& inDamage,
-                             const MapLayout::Point& inScale) const {
-  const lumui::drawbot::StDrawbotState state(inDrawbot);
-  inDrawbot.Scale(inScale.x, inScale.y);
-  Frame frame{inDrawbot,          inLayout, nullptr, inDamage, inDrawbot.GetScale(), false, false,
-              {MapLayout::kRoot}, {},       {},      {}};
-  while (!frame.waiting.empty()) {
-    const Index index = frame.waiting.back();
-    frame.waiting.pop_back();
-    Visit(frame, index);
+                             const Point& inScale) const {
+  Frame frame(inDrawbot, inLayout, nullptr, inDamage, inScale, Point());
+  VisitAll(frame);
+  DrawSpecks(frame);
+}
+
+void MapPainter::VisitAll(Frame& ioFrame) const {
+  while (!ioFrame.waiting.empty()) {
+    const Index index = ioFrame.waiting.back();
+    ioFrame.waiting.pop_back();
+    Visit(ioFrame, index);
   }
-  DrawBoxes(frame);
 }
 
 void MapPainter::Visit(Frame& ioFrame, Index inIndex) const {
   const Node& node = ioFrame.layout.GetNode(inIndex);
-  Rect box = ioFrame.layout.GetBox(inIndex);
+  const Rect box = ioFrame.layout.GetBox(inIndex);
   const Rect reach(box.x - kRing, box.y - kRing, box.width + 2 * kRing, box.height + 2 * kRing);
   if (reach.Intersects(ioFrame.damage)) {
     const bool isPlain =
         !ioFrame.hasBends && (!ioFrame.source || ioFrame.source->mark(node) == MapMark::kNone);
     if (isPlain) {
-      ioFrame.specks[LevelOf(node.depth)].push_back(box);
+      ioFrame.AddSpeck(LevelOf(node.depth), box);
     } else {
       ioFrame.boxes.push_back(inIndex);
     }
@@ -178,16 +218,16 @@ void MapPainter::VisitChildren(Frame& ioFrame, Index inIndex) const {
   const bool showsLines = ioFrame.source && damage.x < childLeft;
   if (showsLines) AddTrunk(ioFrame, parent);
   // A line reaches out of its child's band by as much as it bends.
-  const float reach = std::max(showsLines ? 2 * kBend : 0, kRing);
-  const float leastBand = kLeastBranchPixels / ioFrame.scaleY;
+  const float reach = showsLines ? 2 * kBend : kRing;
+  const float leastBand = kLeastBranchPixels / (ioFrame.scale.y * ioFrame.ratio);
   const Index end = MapLayout::EndOfChildren(parent);
   Index index = layout.FirstChildBelow(parent, damage.y - reach);
   while (index < end && layout.GetNode(index).top < damage.Bottom() + reach) {
     const Node& child = layout.GetNode(index);
     if (child.bottom - child.top < leastBand) {
       // All that ends in this line of pixels.
-      ioFrame.specks[LevelOf(child.depth)].emplace_back(child.left, child.top,
-                                                        child.right - child.left, leastBand);
+      ioFrame.AddSpeck(LevelOf(child.depth),
+                       Rect(child.left, child.top, child.right - child.left, leastBand));
       index = layout.NextChildBelow(parent, index, child.top + leastBand);
       continue;
     }
@@ -202,87 +242,102 @@ void MapPainter::VisitChildren(Frame& ioFrame, Index inIndex) const {
 // What all children have in common: the way out of the parent, and up and down beside it.
 void MapPainter::AddTrunk(Frame& ioFrame, const Node& inNode) const {
   const auto& layout = ioFrame.layout;
+  const std::size_t level = LevelOf(inNode.depth);
   const float start = inNode.left + inNode.width;
   const float trunk = start + kBend;
   const float y = inNode.middle;
-  Path& path = ioFrame.lines[LevelOf(inNode.depth)];
-  // Only as much of it as the damage touches: far points would cost the rasteriser precision.
-  const float top = ioFrame.damage.y - kBend;
-  const float bottom = ioFrame.damage.Bottom() + kBend;
+  const float first = layout.GetNode(inNode.firstChild).middle;
+  const float last = layout.GetNode(MapLayout::EndOfChildren(inNode) - 1).middle;
+  if (!ioFrame.hasBends) {
+    ioFrame.AddLine(level, {start, y}, {trunk, y});
+    ioFrame.AddLine(level, {trunk, first}, {trunk, last});
+    return;
+  }
   const auto add = [&](float inEnd, float inSign) {
     const float bend = y + inSign * kBend;
-    const float last = inEnd - inSign * kBend;
-    if ((last - bend) * inSign < 0) return;  // near enough for a line of its own
-    if (y > top && y < bottom) {
-      path.MoveTo({start, y});
-      path.BezierTo({start + kRound * kBend, y}, {trunk, bend - inSign * kRound * kBend},
-                    {trunk, bend});
-    }
-    const float from = std::clamp(bend, top, bottom);
-    const float to = std::clamp(last, top, bottom);
-    if (from == to) return;
-    path.MoveTo({trunk, from});
-    path.LineTo({trunk, to});
+    const float end = inEnd - inSign * kBend;
+    if ((end - bend) * inSign < 0) return;  // near enough for a line of its own
+    ioFrame.AddCurve({level,
+                      {start, y},
+                      {start + kRound * kBend, y},
+                      {trunk, bend - inSign * kRound * kBend},
+                      {trunk, bend}});
+    ioFrame.AddLine(level, {trunk, bend}, {trunk, end});
   };
-  add(layout.GetNode(inNode.firstChild).middle, -1);
-  add(layout.GetNode(MapLayout::EndOfChildren(inNode) - 1).middle, 1);
+  add(first, -1);
+  add(last, 1);
 }
 
 // The way into a child: from the trunk, or from the parent itself where that is near.
 void MapPainter::AddTwig(Frame& ioFrame, const Node& inParent, const Node& inChild) const {
+  const std::size_t level = LevelOf(inParent.depth);
   const float start = inParent.left + inParent.width;
   const float trunk = start + kBend;
+  const Point end(inChild.left, inChild.middle);
   const float distance = inChild.middle - inParent.middle;
-  Path& path = ioFrame.lines[LevelOf(inParent.depth)];
-  if (std::abs(distance) < 2 * kBend) {
-    path.MoveTo({start, inParent.middle});
-    path.BezierTo({trunk, inParent.middle}, {trunk, inChild.middle},
-                  {inChild.left, inChild.middle});
-    return;
+  if (!ioFrame.hasBends) {
+    ioFrame.AddLine(level, {trunk, end.y}, end);
+  } else if (std::abs(distance) < 2 * kBend) {
+    ioFrame.AddCurve(
+        {level, {start, inParent.middle}, {trunk, inParent.middle}, {trunk, end.y}, end});
+  } else {
+    const float bend = end.y - std::copysign(kBend, distance);
+    ioFrame.AddCurve({level,
+                      {trunk, bend},
+                      {trunk, bend + kRound * (end.y - bend)},
+                      {end.x - kRound * kBend, end.y},
+                      end});
   }
-  const float bend = inChild.middle - std::copysign(kBend, distance);
-  path.MoveTo({trunk, bend});
-  path.BezierTo({trunk, bend + kRound * (inChild.middle - bend)},
-                {inChild.left - kRound * kBend, inChild.middle}, {inChild.left, inChild.middle});
 }
 
-void MapPainter::DrawLines(const Frame& inFrame) const {
-  if (!inFrame.source) return;
-  const float width = std::max(kLineWidth, kLeastLinePixels / inFrame.scaleY);
-  for (std::size_t level = kLevels; level-- > 0;)
-    inFrame.drawbot.StrokePath(inFrame.lines[level], Pen(LineColorOf(level), width));
-}
-
-void MapPainter::DrawBoxes(const Frame& inFrame) const {
+void MapPainter::DrawSpecks(const Frame& inFrame) const {
   Drawbot& drawbot = inFrame.drawbot;
-  std::array<Path, kLevels> boxes;
-  Path selected, idle, target;
+  for (std::size_t level = kLevels; level-- > 0;) {
+    const ColorRGBA color = LineColorOf(level);
+    for (const Rect& line : inFrame.lines[level])
+      drawbot.FillRect(inFrame.Snapped(line.Intersection(inFrame.damage)), color);
+  }
   for (std::size_t level = 0; level < kLevels; ++level) {
-    const ColorRGBA fill =
-        inFrame.source ? FillOf(level) : Mixed(palette::Paper(), LineColorOf(level), 0.8f);
+    // Specks are too small for pale colours.
+    const ColorRGBA fill = Mixed(palette::Paper(), LineColorOf(level), 0.8f);
     for (const Rect& speck : inFrame.specks[level])
       drawbot.FillRect(speck, fill);
   }
+}
+
+void MapPainter::DrawCurves(const Frame& inFrame) const {
+  std::array<Pen, kLevels> pens;
+  for (std::size_t level = 0; level < kLevels; ++level)
+    pens[level] = Pen(LineColorOf(level), inFrame.lineWidth);
+  for (const auto& curve : inFrame.curves) {
+    Path path;
+    path.MoveTo(curve.start);
+    path.BezierTo(curve.handle, curve.otherHandle, curve.end);
+    inFrame.drawbot.StrokePath(path, pens[curve.level]);
+  }
+}
+
+void MapPainter::DrawBoxes(const Frame& inFrame) const {
+  std::array<ColorRGBA, kLevels> fills;
+  for (std::size_t level = 0; level < kLevels; ++level)
+    fills[level] = FillOf(level);
   for (const Index index : inFrame.boxes) {
     const Node& node = inFrame.layout.GetNode(index);
     const Rect box = inFrame.layout.GetBox(index);
     const MapMark mark = inFrame.source->mark(node);
     const float radius = node.depth == 0 ? box.height / 2 : kRadius;
-    Path& path = mark == MapMark::kSelected       ? selected
-                 : mark == MapMark::kIdleSelected ? idle
-                                                  : boxes[LevelOf(node.depth)];
+    Path path;
     path.AddRoundedRect(box, radius);
-    if (mark == MapMark::kDropTarget) {
-      target.AddRoundedRect(
-          {box.x - kRing / 2, box.y - kRing / 2, box.width + kRing, box.height + kRing},
-          radius + kRing / 2);
-    }
+    inFrame.drawbot.FillPath(path, mark == MapMark::kSelected       ? palette::Selection()
+                                   : mark == MapMark::kIdleSelected ? palette::IdleSelection()
+                                                                    : fills[LevelOf(node.depth)]);
+    if (mark != MapMark::kDropTarget) continue;
+    Path ring;
+    ring.AddRoundedRect(
+        {box.x - kRing / 2, box.y - kRing / 2, box.width + kRing, box.height + kRing},
+        radius + kRing / 2);
+    inFrame.drawbot.StrokePath(ring, Pen(palette::DropTarget(), kRing));
   }
-  for (std::size_t level = 0; level < kLevels; ++level)
-    drawbot.FillPath(boxes[level], FillOf(level));
-  drawbot.FillPath(selected, palette::Selection());
-  drawbot.FillPath(idle, palette::IdleSelection());
-  drawbot.StrokePath(target, Pen(palette::DropTarget(), kRing));
 }
 
 void MapPainter::DrawTexts(const Frame& inFrame) const {

@@ -27,6 +27,7 @@ enum class MapMark : unsigned char { kNone, kSelected, kIdleSelected, kDropTarge
 // rows the outline has. It holds the fonts.
 class MapPainter {
  public:
+  using Point = MapLayout::Point;
   using Rect = MapLayout::Rect;
   using Node = MapLayout::Node;
   using Index = MapLayout::Index;
@@ -48,10 +49,10 @@ class MapPainter {
   // Without its ground. inDamage is in units of the map, the drawbot in those of the view, where
   // the map is scaled by inScale and lies at inOrigin.
   void Draw(lumui::drawbot::Drawbot& inDrawbot, const MapLayout& inLayout, const Source& inSource,
-            const Rect& inDamage, float inScale, const MapLayout::Point& inOrigin) const;
+            const Rect& inDamage, float inScale, const Point& inOrigin) const;
   // The same, but boxes and branches alone, as they are seen from far: each axis has its own scale.
   void DrawFromFar(lumui::drawbot::Drawbot& inDrawbot, const MapLayout& inLayout,
-                   const Rect& inDamage, const MapLayout::Point& inScale) const;
+                   const Rect& inDamage, const Point& inScale) const;
   // A box that is on its way to another place, over the map; in units of the view.
   void DrawGhost(lumui::drawbot::Drawbot& inDrawbot, const lumcore::UTF16String& inText,
                  std::size_t inDepth, const Rect& inBox, float inScale) const;
@@ -63,7 +64,9 @@ class MapPainter {
   void VisitChildren(Frame& ioFrame, Index inIndex) const;
   void AddTrunk(Frame& ioFrame, const Node& inNode) const;
   void AddTwig(Frame& ioFrame, const Node& inParent, const Node& inChild) const;
-  void DrawLines(const Frame& inFrame) const;
+  void VisitAll(Frame& ioFrame) const;
+  void DrawSpecks(const Frame& inFrame) const;
+  void DrawCurves(const Frame& inFrame) const;
   void DrawBoxes(const Frame& inFrame) const;
   void DrawTexts(const Frame& inFrame) const;
   const lumui::drawbot::FontP& FontOf(std::size_t inDepth) const;

@@ -12,10 +12,6 @@
 #include "MapView.h"
 #include "OutlineDocument.h"
 #include "OutlinerCommands.h"
-#include "Palette.h"
-#include "lumcore/config/Localizer.h"
-#include "lumui/drawbot/Drawbot.h"
-#include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Window.h"
 #include "vek/app/DocumentApplication.h"
 #include "vek/sharedui/MarqeeOverlay.h"
@@ -96,6 +92,7 @@ void MapPane::BuildNodes() {
       new vek::trackview::PlatformScrollView(lumcore::utility::Flags<unsigned int>(), mView));
   mScrollView->UI_SetNodeID("map");
   mScrollView->SetLineStep(kLineStep);
+  mScrollView->SetMovesPicture(true);
   mOverview.reset(new MapOverview(mOverlay->GetScene(), *mTrackView));
   mOverview->UI_Show(false);
   mView->NotifyWhenDataPosChanged(mMoved);
@@ -277,11 +274,6 @@ bool MapPane::DoCommandEnabled(int, bool&, bool&, lumcore::UTF16String&) {
 
 const lumcore::UTF8String& MapPane::DoGetCommandContext() {
   return MapContext();
-}
-
-void MapPane::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
-  const Rect& area = UI_GetLocalRectF();
-  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::Paper());
 }
 
 }  // namespace outliner

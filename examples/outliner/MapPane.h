@@ -62,8 +62,6 @@ class MapPane final
   vek::trackview::TrackView& GetTrackView() { return *mTrackView; }
   MapScene& GetScene() { return mOverlay->GetScene(); }
 
-  void UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const override;
-
  protected:
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
   bool DoHandleCommand(int inCommand) override;

@@ -5,15 +5,22 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <list>
 
 #include "MapOverlay.h"
 #include "OutlineDocument.h"
 #include "OutlineEdits.h"
+#include "lumcore/utility/ScopedValue.h"
+#include "lumui/datatransfer/OS_ReceiveData.h"
+#include "lumui/datatransfer/OS_SendData.h"
 #include "lumui/ui/ModifierKeys.h"
+#include "lumui/ui/UI_DragDropHandler.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "vek/sharedui/MarqeeOverlay.h"
+#include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
+#include "vek/trackview/TrackerDragAndDropInterface.h"
 
 namespace outliner {
 
@@ -21,6 +28,9 @@ using vek::trackview::Rect;
 
 namespace {
 
+// Local units beyond the view's edge, up to which a drag scrolls and behind which it leaves.
+constexpr float kLeaveDistance = 48;
+constexpr const char* kOpmlFormat = "text/x-opml";
 constexpr float kDragDistance = 4;  // local units; a hand that clicks moves less
 
 Rect RectBetween(const vek::trackview::Point& inA, const vek::trackview::Point& inB) {
@@ -42,6 +52,8 @@ MapMoveTracker::~MapMoveTracker() = default;
 
 void MapMoveTracker::BeginTracking(Modifiers inModifiers, const Point& inDataPoint, bool) {
   mOverlay.BeginGesture();
+  mExitCheck = true;
+  mExitMargin = kLeaveDistance / mTrackView->GetCoordScale();
   mStart = inDataPoint;
   mTrackView->DataToLocal(mStart);
   OutlineDocument& document = *mOverlay.GetScene().GetDocument();
@@ -71,6 +83,8 @@ void MapMoveTracker::ContinueTracking(Modifiers inModifiers, const Point& inData
   if (!mIsDragging) return;
   const MapLayout::Index dragged = scene.GetLayout().FindRow(mRow);
   if (!scene.RowOf(dragged)) return;  // it was deleted meanwhile
+  CheckForExit(inDataPoint);
+  if (mExited) return Send();
   Tracker::ContinueTracking(inModifiers, inDataPoint);
   const OutlineRow* const target = FindTarget(inDataPoint);
   scene.SetDropTarget(target ? scene.GetLayout().FindRow(target->GetId()) : MapLayout::kNone);
@@ -78,6 +92,29 @@ void MapMoveTracker::ContinueTracking(Modifiers inModifiers, const Point& inData
   const bool isRefused = !target && scene.GetLayout().FindBox(inDataPoint) != MapLayout::kNone;
   lumui::ui::UI_NodeManager::Get(true)->SetCursor(isRefused ? lumui::ui::CursorShape::kForbidden
                                                             : lumui::ui::CursorShape::kMove);
+}
+
+// The system's drag takes the place of this gesture, which ends in the middle of it: to that end
+// there is nothing left to do.
+void MapMoveTracker::Send() {
+  MapOverlay& overlay = mOverlay;
+  overlay.GiveUpGesture();
+  OutlineDocument* const document = overlay.GetScene().GetDocument();
+  const auto selected = document->GetSelectedRows();
+  const LooseRows rows = RowsOfSelection(*document);
+  const auto data = mTrackView->GetPlatformView().GetSendData();
+  data->AddBytes(kOpmlFormat, OpmlOfRows(rows));
+  data->AddText(TextOfRows(rows));
+  const std::shared_ptr<bool> isSending = overlay.GetSending();
+  const lumcore::utility::StScopedValue<bool> sending(*isSending, true);
+  const int done =
+      data->SendByDrag(lumui::ui::kDropCopy | lumui::ui::kDropMove, lumui::ui::kDropCopy);
+  // Somebody else has them now, and the map is still there.
+  const bool isGone = done == lumui::ui::kDropMove && *isSending && isSending.use_count() > 1;
+  if (isGone && overlay.GetScene().GetDocument() == document &&
+      document->GetSelectedRows() == selected) {
+    edits::Delete(*document);
+  }
 }
 
 void MapMoveTracker::EndTracking(Modifiers inModifiers, const Point& inDataPoint,
@@ -96,6 +133,80 @@ void MapMoveTracker::EndTracking(Modifiers inModifiers, const Point& inDataPoint
   if (OutlineRow* const target = FindTarget(inDataPoint)) {
     edits::MoveBelow(*scene.GetDocument(), *target);
   }
+}
+
+MapDropTracker::MapDropTracker(MapOverlay& inOverlay,
+                               vek::trackview::TrackerDragAndDropInterface& inDrag)
+    : Tracker(&inOverlay.GetTrackView(), false, false), mOverlay(inOverlay), mDrag(inDrag) {}
+
+MapDropTracker::~MapDropTracker() = default;
+
+OutlineRow* MapDropTracker::FindTarget(const Point& inDataPoint) const {
+  MapScene& scene = mOverlay.GetScene();
+  if (!scene.GetDocument()) return nullptr;
+  OutlineRow* const row = scene.RowAt(inDataPoint);
+  return row ? row : &scene.GetDocument()->GetTree().GetRoot();
+}
+
+// What was dragged out of the map and comes back is moved after all.
+unsigned MapDropTracker::FindEffect(const OutlineRow* inTarget) const {
+  const auto* const data = mDrag.GetReceiveData();
+  if (!inTarget || !data) return lumui::ui::kDropNone;
+  if (*mOverlay.GetSending()) {
+    return edits::CanMoveBelow(*mOverlay.GetScene().GetDocument(), *inTarget)
+               ? lumui::ui::kDropMove
+               : lumui::ui::kDropNone;
+  }
+  const bool canTake = (data->OffersFiles() || data->OffersText()) &&
+                       (data->GetAllowedEffects() & lumui::ui::kDropCopy) != 0;
+  return canTake ? lumui::ui::kDropCopy : lumui::ui::kDropNone;
+}
+
+void MapDropTracker::BeginTracking(Modifiers inModifiers, const Point& inDataPoint, bool) {
+  ContinueTracking(inModifiers, inDataPoint);
+}
+
+void MapDropTracker::ContinueTracking(Modifiers, const Point& inDataPoint) {
+  MapScene& scene = mOverlay.GetScene();
+  const OutlineRow* const target = FindTarget(inDataPoint);
+  const unsigned effect = FindEffect(target);
+  const bool isTaken = effect != lumui::ui::kDropNone;
+  scene.SetDropTarget(isTaken ? scene.GetLayout().FindRow(target->GetId()) : MapLayout::kNone);
+  mDrag.SetDropEffect(effect);
+}
+
+void MapDropTracker::EndTracking(Modifiers, const Point& inDataPoint, bool inCompleted) {
+  mOverlay.GetScene().SetDropTarget(MapLayout::kNone);
+  if (!inCompleted) return;
+  OutlineRow* const target = FindTarget(inDataPoint);
+  const unsigned effect = FindEffect(target);
+  if (effect == lumui::ui::kDropNone) return;
+  Drop(*target);
+  mDrag.SetDropEffect(effect);
+}
+
+void MapDropTracker::Drop(OutlineRow& ioTarget) {
+  OutlineDocument& document = *mOverlay.GetScene().GetDocument();
+  if (*mOverlay.GetSending()) {
+    *mOverlay.GetSending() = false;
+    return edits::MoveBelow(document, ioTarget);
+  }
+  const auto& data = *mDrag.GetReceiveData();
+  LooseRows rows;
+  std::vector<lumcore::UTF16String> paths;
+  lumcore::UTF16String text;
+  if (data.OffersFiles()) data.ReadFiles(paths);
+  for (const lumcore::UTF16String& path : paths) {
+    LooseRows branch = RowsOfFile(lumcore::filesupport::File(path));
+    rows.insert(rows.end(), std::make_move_iterator(branch.begin()),
+                std::make_move_iterator(branch.end()));
+  }
+  if (rows.empty() && data.OffersText()) {
+    data.ReadText(text);
+    rows = RowsOfText(text);
+  }
+  document.CommitTyping();
+  edits::InsertBelow(document, ioTarget, rows);
 }
 
 MapBandTracker::MapBandTracker(MapOverlay& inOverlay)

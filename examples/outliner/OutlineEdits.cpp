@@ -238,6 +238,17 @@ void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget) {
   edit.PostKeepingSelection();
 }
 
+void InsertBelow(OutlineDocument& ioDocument, OutlineRow& ioTarget, const LooseRows& inRows) {
+  if (inRows.empty()) return;
+  Edit edit(ioDocument, "$$$/outliner/Edit/InsertBelow=Insert");
+  OutlineTree::Rows rows = MakeRows(ioDocument.GetTree(), inRows);
+  std::vector<OutlineRow::Id> inserted;
+  for (const auto& row : rows)
+    inserted.push_back(row->GetId());
+  edit.Add<InsertRowsDeed>(ioTarget, ioTarget.GetChildCount(), std::move(rows));
+  edit.Post(std::make_unique<OutlineRestorer>(ioDocument, inserted));
+}
+
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& inText) {
   const UTF16String text = CleanText(inText);
   if (text == ioRow.GetText()) return;

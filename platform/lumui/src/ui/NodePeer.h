@@ -77,6 +77,7 @@ class LUMUI_API NodePeer {
   void ApplySize(int inWidth, int inHeight);
   void ApplyVisible();
   void ApplyDisabled();
+  void SetOpaque(bool inOpaque);
   virtual void ApplyToolTip();
   // After UI_SetWantsKeyboardFocus; a drawn node is asked when it matters.
   virtual void ApplyWantsFocus() {}
@@ -131,6 +132,7 @@ class LUMUI_API NodePeer {
   NodeWidgetLink* mLink = nullptr;
   bool mApplyingRect = false;
   int mChromeHeight = 0;
+  bool mIsOpaque = false;
   lumcore::geom::PointT<double> mContentOrigin;
   lumcore::geom::PointT<float> mLastPosition;
 };

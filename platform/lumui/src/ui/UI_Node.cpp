@@ -130,6 +130,10 @@ void UI_Node::UI_SetDisabled(bool inDisabled) {
   mPeer->ApplyDisabled();
 }
 
+void UI_Node::UI_SetOpaque(bool inOpaque) {
+  mPeer->SetOpaque(inOpaque);
+}
+
 void UI_Node::UI_SetToolTip(const lumcore::UTF16String& inText) {
   mToolTip = inText;
   mPeer->ApplyToolTip();
