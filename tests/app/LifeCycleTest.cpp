@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "lumcore/config/ClientInfo.h"
+#include "lumui/ui/UI_NodeAdapter.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "support/RecordingApp.h"
 #include "support/TemporaryFolder.h"
@@ -73,6 +74,7 @@ TEST_F(LifeCycle, ASecondApplicationIsRefusedAndTheFirstStaysWhole) {
     EXPECT_STREQ(error.what(), "App object already initialized");
   }
   EXPECT_EQ(App::GetApp(), &app);
+  EXPECT_NE(lumui::ui::UI_NodeAdapterRegistry::Get().Find("vek::LUMPlatformView"), nullptr);
   EXPECT_EQ(lumcore::config::Localizer::Get(), localizer);
   EXPECT_EQ(vek::uisupport::CommandHandlerBase::GetDefaultCommandHandler(), &app);
   app.Terminate();

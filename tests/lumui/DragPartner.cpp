@@ -13,8 +13,8 @@
 #include <utility>
 
 // Another program, at the other end of a drag: a window in the corner of the screen from which a
-// press drags, and which takes what is dropped if there is a text. It tells on its output when it
-// is ready and what has come of each drag.
+// press drags, and which takes what is dropped if there are files in it. It tells on its output
+// when it is ready and what has come of each drag.
 namespace {
 
 class Partner : public QWidget {
@@ -37,12 +37,13 @@ class Partner : public QWidget {
   }
   void dragEnterEvent(QDragEnterEvent* inEvent) override {
     inEvent->acceptProposedAction();
+    if (inEvent->source()) return;
     // Behind the answer.
     QTimer::singleShot(0, this, [] { Say("entered"); });
   }
   void dropEvent(QDropEvent* inEvent) override {
     const QMimeData& got = *inEvent->mimeData();
-    if (!got.hasFormat("text/plain")) {
+    if (!got.hasUrls()) {
       inEvent->ignore();
       return Say("got refused");
     }

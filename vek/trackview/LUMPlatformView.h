@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <memory>
 #include <set>
 
 #include "lumui/ui/UI_SubView.h"
@@ -16,8 +17,9 @@ class UI_InteractiveControlChangedMessage;
 class UI_ScrollView;
 }  // namespace lumui::controls
 namespace lumui::ui {
+class AccessibleItems;
 struct OS_Event;
-}
+}  // namespace lumui::ui
 
 namespace vek::trackview {
 
@@ -44,6 +46,8 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   bool UI_WantsKeyboardFocus() const override;
   void UI_DoTimerNotify(unsigned int inTimerID) override;
   void UI_FocusChanged(int inReason) override;
+  // What the overlays offer that are AccessibleOverlays, the nearest first.
+  lumui::ui::AccessibleItems* UI_GetAccessibleItems() override;
   // Drags go to the trackers of the overlays that want them; positions are local.
   bool UI_WantsDragDropEvents() const override;
   bool UI_HandleDragEnter(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
@@ -112,6 +116,7 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   Modifiers mLastModifiers;
   DropGesture mDropGesture;
   std::set<unsigned int> mTimers;  // that run
+  const std::unique_ptr<lumui::ui::AccessibleItems> mAccessibleItems;
 };
 
 }  // namespace vek::trackview

@@ -31,6 +31,7 @@
 #include "lumworkspace/workspace/WorkspaceUIManager.h"
 #include "vek/app/App.h"
 #include "vek/app/src/MenuState.h"
+#include "vek/trackview/LUMPlatformViewAdapter.h"
 #include "vek/uisupport/DeferredActionManager.h"
 #include "vek/uisupport/KeyCommandManager.h"
 #include "vek/uisupport/MainWindowLookup.h"
@@ -212,6 +213,7 @@ void AppBase::StartLook(AppInitArgs& inArgs) {
   Delete(mWorkspaceUIManager);  // there is one at a time
   mWorkspaceUIManager = new lumworkspace::workspace::WorkspaceUIManager;
   mLastStage = kStageModules;
+  trackview::LUMPlatformViewAdapter::RegisterOnce();
   InitModules();
   InitPreferences();
   mLastStage = kStageResources;

@@ -26,6 +26,7 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/UI_NodeManager.h"
+#include "ui/AccessibleNode.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 #include "ui/QtEvents.h"
@@ -87,6 +88,7 @@ EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
     : QApplication(ioArgumentCount, ioArguments) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
+  InstallAccessibleNodes();
   mDragWatch = std::make_unique<datatransfer::DragWatch>([] {
     if (auto* const manager = NodeManagerImplIfAny()) manager->drops.Leave();
   });

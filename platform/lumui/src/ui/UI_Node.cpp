@@ -178,6 +178,10 @@ bool UI_Node::UI_DoPrePointerEvent(const MouseEvent&) {
   return false;
 }
 
+AccessibleItems* UI_Node::UI_GetAccessibleItems() {
+  return nullptr;
+}
+
 bool UI_Node::UI_SupportsDrawbot() const {
   return true;
 }

@@ -24,6 +24,7 @@ class SupplierInterface;
 
 namespace lumui::ui {
 
+class AccessibleItems;
 class KeyboardEvent;
 class MouseEvent;
 class NodePeer;
@@ -113,6 +114,9 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_D
   // so. True swallows the press.
   virtual bool UI_DoPrePointerEvent(const MouseEvent& inEvent);
   virtual bool UI_SupportsDrawbot() const;
+  // What the node draws, for those who do not see it; null, as the base operation answers, for
+  // nothing. Asked when the node is first read, and then each time.
+  virtual AccessibleItems* UI_GetAccessibleItems();
   // What makes images, fonts and paths for drawing on this node. Borrowed, never null.
   drawbot::SupplierInterface* UI_GetDrawSupplier() const;
 
