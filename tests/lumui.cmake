@@ -18,6 +18,7 @@ vek_test(lumui_tests
     support/UIApplication.cpp
   LIBRARIES lumui Qt6::Widgets)
 set_tests_properties(lumui_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+vek_embed_resources(lumui_tests FILES lumui/resources/ICON_7.svg lumui/resources/ICON_8.svg)
 
 # The same on a real X server with a window manager, where the tools for one are installed.
 foreach(tool Xvfb openbox xdotool xprop setxkbmap)

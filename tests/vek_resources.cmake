@@ -2,6 +2,7 @@ vek_test(vek_resources_tests
   SOURCES
     support/UIApplication.cpp
     utility/EmbeddingTest.cpp
+    utility/ResourceTablesTest.cpp
     utility/ResourcesTest.cpp
     utility/ThemeDocumentsTest.cpp
     utility/ThemedControlsTest.cpp

@@ -5,3 +5,10 @@ vek_test(vek_sharedui_tools_tests
     support/UIApplication.cpp
   LIBRARIES vek)
 set_tests_properties(vek_sharedui_tools_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+vek_test(vek_sharedui_lists_tests
+  SOURCES
+    sharedui/MultiTreeListTest.cpp
+    lumui/UITest.cpp
+    support/UIApplication.cpp
+  LIBRARIES vek)
+set_tests_properties(vek_sharedui_lists_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)

@@ -124,7 +124,7 @@ bool ApplicationCommands::DispatchDocument(std::size_t inIndex, CommandEnableQue
 void ApplicationCommands::AskForFile() {
   const OutlineDocument* const current = mApp.GetOutline();
   const UTF16String folder = current && !current->GetProjectFile().GetPath().empty()
-                                 ? current->Parent().GetFullPath()
+                                 ? current->Parent().FullPath()
                                  : UTF16String();
   const UTF16String path = AskForFileToOpen(folder, mApp.FindMainWindow());
   if (!path.empty()) mApp.OpenOutline(File(path));

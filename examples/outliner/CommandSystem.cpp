@@ -110,7 +110,7 @@ bool HasAnyKey() {
 CommandFiles FindCommandFiles() {
   const Dir program = Dir::AppDir();
   Dir folder(program, "Resources");
-  if (!folder.Exists()) folder = Dir(Dir(program, OUTLINER_INSTALLED_RESOURCES).GetFullPath());
+  if (!folder.Exists()) folder = Dir(Dir(program, OUTLINER_INSTALLED_RESOURCES).FullPath());
   return {File(folder, kCommandFileName), File(folder, kKeyMapName)};
 }
 

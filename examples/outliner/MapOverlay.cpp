@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "MapTools.h"
 #include "MapTrackers.h"
 #include "OutlineDocument.h"
 #include "lumui/ui/KeyboardEvent.h"
@@ -58,6 +59,7 @@ std::auto_ptr<vek::trackview::Tracker> MapOverlay::DoAcquireTracker(
   using TrackerP = std::auto_ptr<vek::trackview::Tracker>;
   if (inHover || !mScene.GetDocument()) return TrackerP();
   if (inDragAndDrop) return TrackerP(new MapDropTracker(*this, *inDragAndDrop));
+  if (!IsLeftPress(mTrackView)) return TrackerP();
   if (OutlineRow* const row = mScene.RowAt(inDataPoint)) {
     return TrackerP(new MapMoveTracker(*this, *row));
   }
@@ -74,7 +76,8 @@ void MapOverlay::SelectWithPointer(OutlineRow& inRow, Modifiers inModifiers) {
       anchor = selected.empty() ? &inRow : selected.front();
     }
     mAnchor = anchor->GetId();
-    const auto [from, to] = std::minmax(tree.GetLine(*anchor), tree.GetLine(inRow));
+    const std::size_t from = std::min(tree.GetLine(*anchor), tree.GetLine(inRow));
+    const std::size_t to = std::max(tree.GetLine(*anchor), tree.GetLine(inRow));
     const auto first = tree.GetLines().begin();
     document.SelectRows(
         {first + static_cast<std::ptrdiff_t>(from), first + static_cast<std::ptrdiff_t>(to) + 1});

@@ -164,8 +164,10 @@ void MapOverview::FrameChanged() {
 }
 
 void MapOverview::UI_SetLocalRectF(const Rect& inRect) {
+  const Rect& old = UI_GetLocalRectF();
+  const bool isOfOtherSize = inRect.width != old.width || inRect.height != old.height;
   LUMPlatformView::UI_SetLocalRectF(inRect);
-  if (mMap) Fit();
+  if (mMap && isOfOtherSize) Fit();
 }
 
 void MapOverview::Fit() {

@@ -72,16 +72,42 @@ ColorRGBA LineColorOf(std::size_t inLevel) {
   return Mixed(palette::Paper(), palette::Accent(), kShares[inLevel]);
 }
 
+// The quarter of a ring between two circles, which is what a pen of that width draws along the
+// quarter of a circle, without the work of finding that out.
+Path RingOf(const Point& inUpright, const Point& inLevel, float inWidth) {
+  const Point centre(inLevel.x, inUpright.y);
+  const Point out(std::copysign(inWidth / 2, inUpright.x - centre.x),
+                  std::copysign(inWidth / 2, inLevel.y - centre.y));
+  Path path;
+  for (const float side : {1.0f, -1.0f}) {
+    const Point upright(inUpright.x + side * out.x, inUpright.y);
+    const Point level(inLevel.x, inLevel.y + side * out.y);
+    const Point uprightHandle(upright.x, upright.y + kRound * (level.y - centre.y));
+    const Point levelHandle(level.x + kRound * (upright.x - centre.x), level.y);
+    if (side > 0) {
+      path.MoveTo(upright);
+      path.BezierTo(uprightHandle, levelHandle, level);
+    } else {
+      path.LineTo(level);
+      path.BezierTo(levelHandle, uprightHandle, upright);
+    }
+  }
+  path.Close();
+  return path;
+}
+
 }  // namespace
 
 // One paint: what is to be drawn, sorted by how it looks. Each piece is drawn by itself: a path of
 // all of them would cost the rasteriser more than it saves.
 struct MapPainter::Frame {
-  // A line that bends, in units of the map.
+  // Lines that bend, in units of the map: a curve is level at both ends, a bend is the quarter of a
+  // circle from where it is upright to where it is level.
   struct Curve {
     std::size_t level;
-    Point start, handle, otherHandle, end;
+    Point start, end;
   };
+  using Bend = Curve;
 
   Frame(Drawbot& inDrawbot, const MapLayout& inLayout, const Source* inSource, const Rect& inDamage,
         const Point& inScale, const Point& inOrigin)
@@ -118,12 +144,18 @@ struct MapPainter::Frame {
                                 : Rect(left, top - half, right - left, lineWidth);
     if (line.Intersects(damage)) lines[inLevel].push_back(line);
   }
-  void AddCurve(const Curve& inCurve) {
+  bool IsDamaged(const Curve& inCurve) const {
+    const auto [left, right] = std::minmax(inCurve.start.x, inCurve.end.x);
     const auto [top, bottom] = std::minmax(inCurve.start.y, inCurve.end.y);
-    const float half = lineWidth / 2;
-    const Rect bounds(inCurve.start.x, top - half, inCurve.end.x - inCurve.start.x,
-                      bottom - top + lineWidth);
-    if (bounds.Intersects(damage)) curves.push_back(inCurve);
+    return Rect(left - lineWidth, top - lineWidth, right - left + 2 * lineWidth,
+                bottom - top + 2 * lineWidth)
+        .Intersects(damage);
+  }
+  void AddCurve(const Curve& inCurve) {
+    if (IsDamaged(inCurve)) curves.push_back(inCurve);
+  }
+  void AddBend(const Bend& inBend) {
+    if (IsDamaged(inBend)) bends.push_back(inBend);
   }
 
   Drawbot& drawbot;
@@ -141,6 +173,7 @@ struct MapPainter::Frame {
   std::array<std::vector<Rect>, kLevels> specks;  // small boxes and branches, in view units
   std::array<std::vector<Rect>, kLevels> lines;
   std::vector<Curve> curves;
+  std::vector<Bend> bends;
 };
 
 MapPainter::MapPainter() {
@@ -257,11 +290,7 @@ void MapPainter::AddTrunk(Frame& ioFrame, const Node& inNode) const {
     const float bend = y + inSign * kBend;
     const float end = inEnd - inSign * kBend;
     if ((end - bend) * inSign < 0) return;  // near enough for a line of its own
-    ioFrame.AddCurve({level,
-                      {start, y},
-                      {start + kRound * kBend, y},
-                      {trunk, bend - inSign * kRound * kBend},
-                      {trunk, bend}});
+    ioFrame.AddBend({level, {trunk, bend}, {start, y}});
     ioFrame.AddLine(level, {trunk, bend}, {trunk, end});
   };
   add(first, -1);
@@ -278,15 +307,10 @@ void MapPainter::AddTwig(Frame& ioFrame, const Node& inParent, const Node& inChi
   if (!ioFrame.hasBends) {
     ioFrame.AddLine(level, {trunk, end.y}, end);
   } else if (std::abs(distance) < 2 * kBend) {
-    ioFrame.AddCurve(
-        {level, {start, inParent.middle}, {trunk, inParent.middle}, {trunk, end.y}, end});
+    ioFrame.AddCurve({level, {start, inParent.middle}, end});
   } else {
     const float bend = end.y - std::copysign(kBend, distance);
-    ioFrame.AddCurve({level,
-                      {trunk, bend},
-                      {trunk, bend + kRound * (end.y - bend)},
-                      {end.x - kRound * kBend, end.y},
-                      end});
+    ioFrame.AddBend({level, {trunk, bend}, end});
   }
 }
 
@@ -310,11 +334,15 @@ void MapPainter::DrawCurves(const Frame& inFrame) const {
   for (std::size_t level = 0; level < kLevels; ++level)
     pens[level] = Pen(LineColorOf(level), inFrame.lineWidth);
   for (const auto& curve : inFrame.curves) {
+    const float middle = (curve.start.x + curve.end.x) / 2;
     Path path;
     path.MoveTo(curve.start);
-    path.BezierTo(curve.handle, curve.otherHandle, curve.end);
+    path.BezierTo({middle, curve.start.y}, {middle, curve.end.y}, curve.end);
     inFrame.drawbot.StrokePath(path, pens[curve.level]);
   }
+  for (const auto& bend : inFrame.bends)
+    inFrame.drawbot.FillPath(RingOf(bend.start, bend.end, inFrame.lineWidth),
+                             pens[bend.level].color);
 }
 
 void MapPainter::DrawBoxes(const Frame& inFrame) const {

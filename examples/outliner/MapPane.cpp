@@ -54,7 +54,7 @@ SomeOverlay* Install(TrackView& ioTrackView, SomeOverlay* inOverlay) {
 MapPane::MapPane(OutlineDocument* inDocument, Functions inFunctions)
     : mFunctions(std::move(inFunctions)),
       mMoved(new boost::function<void(vek::trackview::PlatformView*)>(
-          [this](auto*) { mOverview->FrameChanged(); })) {
+          [this](auto*) { PlaceOverview(); })) {
   BuildNodes();
   vek::app::DocumentApplication::GetDocStatusNotifier().AddListener(
       static_cast<Listener<const DocStatusMessage>*>(this));

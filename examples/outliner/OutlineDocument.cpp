@@ -176,7 +176,7 @@ void OutlineDocument::SaveAsFile(const File& inFile) {
 
 lumcore::UTF16String OutlineDocument::GetSaveFileNameFromDialog(TopLevelWindow* inWindow) {
   const File file = GetProjectFile();
-  return AskForFileToSave(file.GetPath().empty() ? GetTitle() : file.GetFullPath(), inWindow);
+  return AskForFileToSave(file.GetPath().empty() ? GetTitle() : file.FullPath(), inWindow);
 }
 
 Response OutlineDocument::SaveBeforeCloseMessage() const {

@@ -31,7 +31,7 @@ namespace {
 bool AreSame(const File& inA, const File& inB) {
   if (inA.GetPath().empty() || inB.GetPath().empty()) return false;
   std::error_code ignored;  // a file that is not there is the same as none
-  return inA.GetFullPath() == inB.GetFullPath() ||
+  return inA.FullPath() == inB.FullPath() ||
          std::filesystem::equivalent(inA.GetPath(), inB.GetPath(), ignored);
 }
 

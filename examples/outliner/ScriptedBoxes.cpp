@@ -91,7 +91,7 @@ UTF16String StScriptedBoxes::AnswerFileDialog(const lumui::dialogs::FileDialogAr
         {inDialog.title, lumcore::utility::ToUTF16(file.GetPath())}));
     return {};
   }
-  return file.GetFullPath();
+  return file.FullPath();
 }
 
 void StScriptedBoxes::Fail(const UTF16String& inFailure) {

@@ -18,7 +18,7 @@ File SetAside(const File& inFile) {
   const std::size_t dot = std::min(name.rfind('.'), name.size());
   const auto numbered = [&](int inNumber) {
     const std::string number = inNumber > 1 ? "-" + std::to_string(inNumber) : "";
-    return File(inFile.GetParent(), name.substr(0, dot) + ".defective" + number + name.substr(dot));
+    return File(inFile.Parent(), name.substr(0, dot) + ".defective" + number + name.substr(dot));
   };
   int number = 1;
   while (!numbered(number).IsAbsent())

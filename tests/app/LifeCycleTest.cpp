@@ -6,7 +6,13 @@
 #include <stdexcept>
 
 #include "lumcore/config/ClientInfo.h"
+#include "lumui/testing/SyntheticInput.h"
+#include "lumui/ui/Executor.h"
+#include "lumui/ui/Theme.h"
+#include "lumui/ui/ThemeColors.h"
 #include "lumui/ui/UI_NodeAdapter.h"
+#include "lumui/ui/UI_NodeManager.h"
+#include "lumui/ui/UI_SubView.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "support/RecordingApp.h"
 #include "support/TemporaryFolder.h"
@@ -61,6 +67,95 @@ TEST_F(LifeCycle, CallsEveryHookInItsOrder) {
   EXPECT_EQ(vek::uisupport::FindMainWindow(), nullptr);
   EXPECT_EQ(lumui::ui::Theme::Get(), nullptr);
   EXPECT_EQ(lumui::skins::core::SkinManager::GetDefaultSet(), nullptr);
+}
+
+class LoggingSplash : public lumui::sharedui::LUMAboutDlog {
+ public:
+  explicit LoggingSplash(test_support::EventLog& outLog)
+      : LUMAboutDlog(test_support::Text("Recorder"), {}), mLog(outLog) {}
+  ~LoggingSplash() override { mLog.Add("~splash"); }
+  void UI_Draw(lumui::drawbot::Drawbot*) const override { mLog.Add("splash"); }
+
+ private:
+  test_support::EventLog& mLog;
+};
+
+class LoggingView : public lumui::ui::UI_SubView {
+ public:
+  explicit LoggingView(test_support::EventLog& outLog) : mLog(outLog) {}
+  void UI_Draw(lumui::drawbot::Drawbot*) const override { mLog.Add("main"); }
+
+ private:
+  test_support::EventLog& mLog;
+};
+
+TEST_F(LifeCycle, TheFirstPaintComesBehindTheSplashScreenAndBeforeTheFirstTurnOfTheLoop) {
+  RecordingApp app(mFolder.GetPath("prefs"));
+  test_support::EventLog painted;
+  app.mSplashScreen = [&] { return new LoggingSplash(painted); };
+  app.mWhenApplied = [&] {
+    const boost::intrusive_ptr<lumui::ui::UI_Node> view(new LoggingView(painted));
+    view->UI_SetLocalRectF(lumcore::geom::RectT<float>(0, 0, 50, 50));
+    app.GetWorkspace()->GetMainTopLevelWindow()->UI_AddChild(view);
+    lumui::ui::UI_NodeManager::Get(true)->GetExecutor()->Post([&] { painted.Add("turn"); });
+  };
+  ASSERT_TRUE(app.Start());
+  EXPECT_EQ(painted.Take(), "splash main ~splash");
+  lumui::testing::ProcessEvents();
+  EXPECT_EQ(painted.Take(), "turn");
+  app.Terminate();
+}
+
+// With the framework's own themes and, where it is asked for, those of more contrast over them.
+class ThemedApp : public RecordingApp {
+ public:
+  using RecordingApp::RecordingApp;
+  const char* mFurtherTheme = nullptr;
+  bool mDesigns = false;
+
+ protected:
+  void LoadDefaultTheme(vek::app::AppInitArgs& inArgs) override {
+    inArgs.designAppTheme = mDesigns;
+    MultiDocApplication::LoadDefaultTheme(inArgs);
+    if (mFurtherTheme) InitThemeEditorFromResource(test_support::Text(mFurtherTheme), 0.9f, true);
+  }
+};
+
+TEST_F(LifeCycle, ThemesAreLoadedInLayersAndTheHighContrastOneLast) {
+  constexpr int kOfTrees = 233;
+  constexpr int kOfTheDesignAlone = 5000106;
+  const auto text = [] {
+    return lumui::ui::Theme::Get()->GetColor(lumui::ui::themev5::kColor_Text);
+  };
+  for (const bool designs : {false, true}) {
+    ThemedApp app(mFolder.GetPath("prefs"));
+    app.mDesigns = designs;
+    ASSERT_TRUE(app.Start());
+    const auto theme = lumui::ui::Theme::Get();
+    EXPECT_TRUE(theme->HasColor(kOfTrees) && theme->HasColor(4000000));
+    EXPECT_EQ(theme->HasColor(kOfTheDesignAlone), designs);
+    EXPECT_LT(text().red, 1.0f);
+    EXPECT_GT(text().red, 0.0f);
+    app.Terminate();
+  }
+  ThemedApp app(mFolder.GetPath("prefs"));
+  app.mFurtherTheme = "HighContrastColorThemeV5";
+  ASSERT_TRUE(app.Start());
+  const float first = text().red;
+  EXPECT_TRUE(first == 0.0f || first == 1.0f) << "black or white, and nothing between";
+  lumui::ui::Theme::SetBrightness(0.1f);
+  EXPECT_EQ(text().red, first) << "the same at each brightness";
+  EXPECT_TRUE(lumui::ui::Theme::Get()->HasColor(kOfTrees)) << "the layers below stay";
+  app.Terminate();
+  app.mFurtherTheme = "NoTheme";
+  try {
+    app.Start();
+    FAIL() << "a theme that is not there";
+  } catch (const lumcore::config::Error& error) {
+    EXPECT_NE(std::string(error.what()).find("NoTheme"), std::string::npos) << error.what();
+  }
+  EXPECT_EQ(app.GetLastStage(), AppBase::kStageDefaultTheme);
+  app.Terminate();
 }
 
 TEST_F(LifeCycle, ASecondApplicationIsRefusedAndTheFirstStaysWhole) {

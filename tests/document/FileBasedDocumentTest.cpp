@@ -76,7 +76,7 @@ TEST_F(Closing, FollowsTheAnswer) {
   EXPECT_EQ(ToStdString(mNote.GetTitle()), "Untitled");
 
   const File file(mFolder.GetDir(), "kept.txt");
-  mPath = file.GetFullPath();
+  mPath = file.FullPath();
   mNote.mClears = false;
   EXPECT_FALSE(mNote.CanClose()) << "the document is still dirty";
   mNote.mClears = true;

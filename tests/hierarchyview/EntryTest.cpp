@@ -107,6 +107,36 @@ TEST(Removing, TakesTheFirstThatIsTheEntryAndFollowsNoPointer) {
   EXPECT_EQ(log.Take(), "x:r [b y a] y:r");
 }
 
+// Each outlives the destructors of the ones above it, and the last but one lives on without a
+// parent.
+TEST(Dying, GoesDownTheDeepestTreeWithoutRecursion) {
+  struct Noted : NamedEntry {
+    using NamedEntry::NamedEntry;
+    ~Noted() override { mLog->Add(mName + (GetParent() ? "!" : "")); }
+    EventLog* mLog = nullptr;
+  };
+  EventLog log;
+  EntryP root(new NamedEntry("r", nullptr));
+  EntryP last = root;
+  for (int level = 0; level < 100000; ++level) {
+    const EntryP child(new NamedEntry("e", last.get()));
+    last->AddChild(child, false);
+    last = child;
+  }
+  for (const char* name : {"x", "y"}) {
+    auto* const child = new Noted(name, last.get());
+    child->mLog = &log;
+    last->AddChild(child, false);
+  }
+  const EntryP kept = last->GetChildren().front();
+  root.reset();
+  EXPECT_EQ(log.Take(), "");
+  last.reset();
+  EXPECT_EQ(log.Take(), "y");
+  EXPECT_EQ(kept->GetParent(), nullptr);
+  kept->SetParent(nullptr);
+}
+
 TEST(DynamicEntries, BuildAndDropTheirChildrenAtEverySetting) {
   struct Folder : Named<DynamicHierarchyEntry> {
     using Named::Named;

@@ -266,9 +266,9 @@ TEST(OutlinersWorkspaces, ThatAreDamagedAreSetAsideAndBeginAnew) {
     const std::string text = start(kMine, bad);
     EXPECT_EQ(text.find("left[outline / notes] Writing\nerror: "), 0u) << text;
     EXPECT_NE(text.find("Mine.workspace"), text.npos) << text;
-    EXPECT_NE(text.find("Mine.defective"), text.npos) << text;
+    EXPECT_NE(text.find("Mine.workspace.defective"), text.npos) << text;
   }
-  EXPECT_EQ(ToStdString(folder.GetFile("settings/Workspaces/Mine.defective-2.workspace").ReadAll()),
+  EXPECT_EQ(ToStdString(folder.GetFile("settings/Workspaces/Mine.workspace.defective-2").ReadAll()),
             twice);
   const std::string text = start(kWriting, "<");
   EXPECT_EQ(text.find("left[outline / notes] Writing\nerror: "), 0u) << text;

@@ -77,7 +77,7 @@ TEST(Files, NamesMayBeAnyBytes) {
   for (const std::string& path : {name, std::string("\xF0\x9F\x8E\xB9\xF0\x9F\x8E"),
                                   std::string("\xED\xB2\x80\xC0\xAF\xE2\x82")}) {
     const File file = folder.GetFile(path);
-    EXPECT_EQ(File(file.GetFullPath()).GetPath(), file.GetPath());
+    EXPECT_EQ(File(file.FullPath()).GetPath(), file.GetPath());
   }
   EXPECT_EQ(File(lumcore::UTF16String{0xD83C, 'a', 0xDC7F, 0xDF00}).GetPath(),
             "\xEF\xBF\xBD"
@@ -127,10 +127,10 @@ TEST(Files, PathsAreTakenApartByTheirText) {
     const File file(row.path);
     EXPECT_EQ(ToStdString(file.GetName()), row.name) << row.path;
     EXPECT_EQ(ToStdString(file.GetExtension()), row.extension) << row.path;
-    EXPECT_EQ(file.GetParent().GetPath(), row.parent) << row.path;
+    EXPECT_EQ(file.Parent().GetPath(), row.parent) << row.path;
   }
-  EXPECT_EQ(ToStdString(File("/a/./b/../c//d/").GetFullPath()), "/a/c/d");
-  EXPECT_EQ(ToStdString(Dir("x").GetFullPath()).front(), '/');
+  EXPECT_EQ(ToStdString(File("/a/./b/../c//d/").FullPath()), "/a/c/d");
+  EXPECT_EQ(ToStdString(Dir("x").FullPath()).front(), '/');
   EXPECT_EQ(File(Dir("/a/"), "b").GetPath(), "/a/b");
   EXPECT_EQ(File(Dir("/a"), "/etc/passwd").GetPath(), "/a//etc/passwd");
   EXPECT_EQ(File(Dir(), "b").GetPath(), "b");

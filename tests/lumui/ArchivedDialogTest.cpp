@@ -205,8 +205,13 @@ TEST_F(Dialogs, SplashScreensEndWithTheirReference) {
   content.name = U16("Outliner");
   content.text = U16("one\ntwo");
   boost::intrusive_ptr<sharedui::LUMAboutDlog> splash(new sharedui::LUMAboutDlog(content));
+  // What waits goes on waiting: nothing of the application runs before it is complete.
+  Manager().GetExecutor()->Post([this] { Log("posted"); });
   splash->Show(true);
+  EXPECT_EQ(TakeLog(), "");
   EXPECT_TRUE(splash->UI_IsVisible());
+  App().PumpPendingEvents();
+  EXPECT_EQ(TakeLog(), "posted");
   const HWND handle = splash->UI_GetHandle();
   splash.reset();
   EXPECT_EQ(ui::OS_Window::UI_GetWindow(handle), nullptr);

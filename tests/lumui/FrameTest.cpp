@@ -3,11 +3,15 @@
 
 #include "lumui/ui/OS_Frame.h"
 
+#include <QApplication>
+#include <QIcon>
 #include <QWidget>
 #include <QWindow>
 
 #include "UITest.h"
+#include "lumui/ui/ModuleHandle.h"
 #include "lumui/ui/OS_Menu.h"
+#include "lumui/utility/InteractionRegistry.h"
 
 // What Qt's own tests feed the window system's input through; declared in none of its headers.
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
@@ -21,14 +25,18 @@ namespace {
 using ui::OS_Frame;
 using ui::OS_Window;
 
+const int kHere = 0;  // in this module
+
 class Frames : public UITest {
  protected:
   ~Frames() override { OS_Window::UI_Terminate(); }
 
-  bool Register(const wchar_t* inName, int inMenu) {
+  bool Register(const wchar_t* inName, int inMenu, int inIcon = 0) {
     OS_Frame::Class frame;
     frame.name = inName;
     frame.menuID = inMenu;
+    frame.iconID = inIcon;
+    frame.resources = ui::ModuleOfAddress(&kHere);
     return OS_Frame::Register(frame);
   }
 };
@@ -61,6 +69,49 @@ TEST_F(Frames, BecomeTheWindowThatTakesThem) {
   EXPECT_EQ(OS_Frame::Create(L"Main", L"", 0, 0, 0), nullptr);
 }
 
+TEST_F(Frames, HaveTheirIconsOutOfTheModule) {
+  const auto iconOf = [&](int inIcon) {
+    Register(L"Main", 0, inIcon);
+    const boost::intrusive_ptr<OS_Window> window(new OS_Window(nullptr, false));
+    window->UI_TakeFrame(OS_Frame::Create(L"Main", L"with an icon", 0xCF0000, 300, 200));
+    window->UI_ConstructWindow(nullptr);
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+      if (widget->windowTitle() == "with an icon") return widget->windowIcon();
+    }
+    ADD_FAILURE() << "no window";
+    return QIcon();
+  };
+  EXPECT_EQ(iconOf(7).pixmap(16, 16).toImage().pixelColor(8, 8), QColor(255, 0, 0));
+  EXPECT_TRUE(iconOf(0).isNull());
+  EXPECT_TRUE(iconOf(6).isNull()) << "the module has none of the number";
+  EXPECT_EQ(TakeErrors(), "");
+  EXPECT_TRUE(iconOf(8).isNull());
+  EXPECT_NE(TakeErrors().find("ICON_8"), std::string::npos) << "damaged";
+}
+
+TEST_F(Frames, InteractionsCountOnceUnlessTheyPause) {
+  const auto window = MakeWindow();
+  auto& registry = utility::InteractionRegistry::Get();
+  unsigned last = registry.GetCount();
+  const auto more = [&] { return registry.GetCount() - std::exchange(last, registry.GetCount()); };
+  lumui::testing::MoveMouse(*window, Point(5, 6));
+  EXPECT_EQ(more(), 0u);
+  lumui::testing::ClickMouse(*window, Point(5, 6));
+  EXPECT_EQ(more(), 1u);
+  lumui::testing::TapKey(*window, ui::KeyboardCode(0x80000041));
+  EXPECT_EQ(more(), 1u);
+  lumui::testing::TurnWheel(*window, Point(5, 6), Point(0, 1));
+  EXPECT_EQ(more(), 1u);
+  {
+    const utility::ScPauseResumeInteractionRegistry outer;
+    { const utility::ScPauseResumeInteractionRegistry inner; }
+    lumui::testing::ClickMouse(*window, Point(50, 60));
+  }
+  EXPECT_EQ(more(), 0u);
+  lumui::testing::ClickMouse(*window, Point(5, 6));
+  EXPECT_EQ(more(), 1u);
+}
+
 TEST_F(Frames, PressesElsewhereAskTheHook) {
   const auto mine = MakeWindow();
   QWidget elsewhere;
@@ -69,8 +120,10 @@ TEST_F(Frames, PressesElsewhereAskTheHook) {
   QWidget popup(&elsewhere, Qt::Popup);
   popup.winId();
   bool swallow = false;
+  std::vector<HWND> windows;
   App().SetForeignPressHook([&](const ui::ForeignPress& inPress) {
     Log(std::to_string(inPress.message) + "@" + std::to_string(inPress.screenPosition.x));
+    windows.push_back(inPress.window);
     return swallow;
   });
   int time = 0;
@@ -92,6 +145,10 @@ TEST_F(Frames, PressesElsewhereAskTheHook) {
   lumui::testing::ClickMouse(*mine, Point(5, 6));
   EXPECT_EQ(TakeLog(), "");
   App().SetForeignPressHook(nullptr);
+  ASSERT_EQ(windows.size(), 2u);
+  EXPECT_TRUE(windows[0] && windows[0] == windows[1]);
+  EXPECT_EQ(OS_Window::UI_GetWindow(windows[0]), nullptr);
+  EXPECT_NE(windows[0], mine->UI_GetHandle());
 }
 
 }  // namespace

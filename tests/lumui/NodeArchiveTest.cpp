@@ -86,6 +86,25 @@ TEST_F(NodeArchives, BuildWhatTheySayAndComeBackFromWriting) {
   EXPECT_EQ(At<controls::UI_Popup>("FormatPopup").GetValueString(), U16("Web page"));
 }
 
+TEST_F(NodeArchives, KeepWhatTheyDoNotKnowAndTheKeysOfTheirTexts) {
+  std::string archive =
+      Replaced(ArchiveText(), "<key>enabled</key><false/>",
+               "<key>smell</key><ustring>of roses</ustring></prop.pair><prop.pair>"
+               "<key>enabled</key><false/>");
+  archive = Replaced(archive, "<key>adapter</key><ustring>lumui::controls::UI_TextButton",
+                     "<key>adapter</key><ustring>HostLamp");
+  Build(archive, [](const lumcore::UTF16String&) -> Node { return new Lamp; });
+  std::string written = Write(*mRoot);
+  for (const char* const kept : {"($$$/test/Export/Text=Plain text)",
+                                 "($$$/test/Export/Open=&amp;Open the", "of roses", "HostLamp"})
+    EXPECT_NE(written.find(kept), std::string::npos) << kept;
+  At<UI_TextButton>("OpenCheckbox").SetText(U16("Shut"));
+  written = Write(*mRoot);
+  EXPECT_EQ(written.find("$$$/test/Export/Open"), std::string::npos)
+      << "it says something else now";
+  EXPECT_NE(written.find("Shut"), std::string::npos);
+}
+
 TEST_F(NodeArchives, DamageIsToldWithItsPlace) {
   struct Case {
     const char* old;

@@ -68,8 +68,9 @@ TEST_F(Themes, BlendKeyframesByBrightness) {
   EXPECT_EQ(Color(9, 0.5f), "255 0 255 255") << "unknown";
 
   Read("<x><KeyFrame name='1' t='0.5' v='0.4'/></x>");
-  EXPECT_EQ(Color(1, 0.5f), "102 102 102 255") << "a later document replaces a position";
-  EXPECT_EQ(Color(1, 1.0f), "204 204 204 255");
+  EXPECT_EQ(Color(1, 0.5f), "102 102 102 255");
+  EXPECT_EQ(Color(1, 1.0f), "102 102 102 255") << "a later document speaks alone for its colours";
+  EXPECT_EQ(Color(3, 0.6f), "255 255 255 255") << "and for no others";
 }
 
 TEST_F(Themes, TextSizesFollowTheSchemeAndChangesAreTold) {

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <QCoreApplication>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -100,11 +101,26 @@ TEST_F(Window, OneRefusalKeepsTheSessionGoing) {
   const auto open = MakeWindow();
   const auto refusing = MakeWindow(&RecordMessage);
   EXPECT_FALSE(input::EndSession());
-  EXPECT_EQ(Messages(), "17");
+  EXPECT_EQ(Messages(), "17 22(0)");
   EXPECT_FALSE(App().IsQuitting());
   sCloseResult = 1;
+  // Another program refuses: the user goes on, and a quit from elsewhere is no end of the session.
+  EXPECT_TRUE(input::AskSessionEnd());
+  EXPECT_EQ(Messages(), "17");
+  input::ClickMouse(*open, Point(5, 5));
+  EXPECT_EQ(Messages(), "22(0)");
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(QCoreApplication::instance(), &quit);
+  App().PumpPendingEvents();
+  EXPECT_EQ(Messages(), "");
+  EXPECT_TRUE(App().IsQuitting());
+  App().CancelQuit();
+  EXPECT_TRUE(input::AskSessionEnd());
+  EXPECT_EQ(Messages(), "17");
+  EXPECT_TRUE(input::AskSessionEnd()) << "asked once more";
+  EXPECT_EQ(Messages(), "22(0) 17");
   EXPECT_TRUE(input::EndSession());
-  EXPECT_EQ(Messages(), "17 22(1)");
+  EXPECT_EQ(Messages(), "22(0) 17 22(1)");
   EXPECT_TRUE(App().IsQuitting());
   EXPECT_EQ(App().Run(), 0);
 }

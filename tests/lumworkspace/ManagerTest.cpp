@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "lumcore/config/ErrorManager.h"
 #include "lumcore/proplist/Utils.h"
 #include "lumui/dialogs/ChoiceDialog.h"
 #include "lumui/dialogs/MessageDialog.h"
@@ -162,21 +163,47 @@ TEST_F(Workspaces, AreNamedOrderedHiddenAndRemembered) {
         << each.name;
 }
 
-TEST_F(Workspaces, DamagedOnesAreRefusedByPathAndStay) {
+TEST_F(Workspaces, DamagedOnesAreSetAsideAndGiveWayToTheBuiltInOnes) {
   Set("Animate");
   mManager->SaveWorkspace(U16("Mine"));
   Set("Draw");
   const std::string before = Text(true);
   const auto file = mFolder.GetFile("Workspaces/Mine.workspace");
   const std::string good = lumcore::utility::ToStdString(file.ReadAll());
+  std::string reported;
+  lumcore::config::ErrorManager errors([&](const std::exception_ptr& inError) {
+    reported = FailureOf([&] { std::rethrow_exception(inError); });
+  });
+  lumcore::config::ErrorManager::Set(&errors);
+  std::string number;
+  int count = 1;
   for (const std::string& bytes : {std::string(), std::string("<html/>"), good.substr(0, 700)}) {
     file.ReplaceContents(bytes);
-    const std::string failure = FailureOf([&] { Set("Mine"); });
-    EXPECT_NE(failure.find("Mine.workspace"), std::string::npos) << failure;
+    reported.clear();
+    Set("Mine");
+    EXPECT_NE(reported.find("Mine.workspace.defective"), std::string::npos) << reported;
     EXPECT_EQ(Text(true), before);
-    EXPECT_EQ(Names(), "Draw* Animate Mine");
-    EXPECT_EQ(lumcore::utility::ToStdString(file.ReadAll()), bytes);
+    EXPECT_EQ(Names(), "Draw* Animate");
+    const auto kept = mFolder.GetFile("Workspaces/Mine.workspace.defective" + number);
+    EXPECT_EQ(lumcore::utility::ToStdString(kept.ReadAll()), bytes);
+    number = "-" + std::to_string(++count);
   }
+  mFolder.GetFile("Workspaces/Animate.workspace").ReplaceContents("<");
+  Set("Animate");
+  EXPECT_EQ(Text(), "left[~a] bottom[b|c*] center") << "the built-in one";
+  EXPECT_EQ(Names(), "Draw Animate*");
+  // At the start there has to be something.
+  Restart();
+  file.ReplaceContents("<");
+  Set("Mine");
+  EXPECT_EQ(Names(), "Draw* Animate");
+  // A later program's is not damaged.
+  lumcore::proplist::PropList later = workspace.GetLayout();
+  later.Set<std::int32_t>("Version", 2);
+  lumcore::proplist::utils::SavePropList(file, later);
+  EXPECT_NE(FailureOf([&] { Set("Mine"); }).find("later"), std::string::npos);
+  EXPECT_TRUE(file.Exists());
+  file.ReplaceContents(good);
   // The list of the order is no reason to have no workspaces.
   mManager->SetWorkspaceOrder({U16("Mine")});
   mFolder.GetFile("Workspaces/Workspaces.xml").ReplaceContents("<");

@@ -132,6 +132,31 @@ TEST_F(Panels, LayoutOutlivesASmallWindowAndAScreenThatIsGone) {
   EXPECT_EQ(Text(), "left[a|b*] right[c / d] bottom[e] center float[f@4000,120]");
 }
 
+TEST_F(Panels, MaximisedWindowsComeBackSoAndKnowTheirOldPlace) {
+  OpenAll();
+  main->MoveTo(lumcore::geom::RectT<int>(30, 40, 500, 400));
+  Settle();
+  TopLevelWindow& floating = *workspace.GetTopLevelWindows().back();
+  main->UI_SetMaximized(true);
+  floating.UI_SetMaximized(true);
+  Settle();
+  EXPECT_GT(main->UI_GetLocalRectF().width, 500);
+  const PropList layout = workspace.GetLayout();
+  EXPECT_EQ(layout.Get("MainWindowMaximized", false), true);
+  main->UI_SetMaximized(false);
+  floating.UI_SetMaximized(false);
+  main->MoveTo(lumcore::geom::RectT<int>(10, 10, 300, 300));
+  Settle();
+  EXPECT_FALSE(workspace.GetLayout().Has("MainWindowMaximized"));
+  SetLayout(layout);
+  EXPECT_TRUE(main->UI_IsMaximized());
+  EXPECT_TRUE(workspace.GetTopLevelWindows().back()->UI_IsMaximized());
+  EXPECT_EQ(workspace.GetLayout(), layout);
+  main->UI_SetMaximized(false);
+  Settle();
+  EXPECT_EQ(main->UI_GetLocalRectF(), lumcore::geom::RectT<float>(30, 40, 500, 400));
+}
+
 TEST_F(Panels, MissingOnesKeepTheirPlaceUntilSomebodyMakesThem) {
   OpenAll();
   const PropList layout = workspace.GetLayout();

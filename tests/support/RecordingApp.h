@@ -104,6 +104,8 @@ class RecordingApp : public vek::app::MultiDocApplication {
   std::function<bool(const lumui::ui::OS_Event&)> mPreStep;
   std::function<void(const lumui::ui::OS_Event&)> mPostStep;
   std::function<void()> mWhenManagerIsMade;
+  std::function<void()> mWhenApplied;  // the default workspace is about to be
+  std::function<boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog>()> mSplashScreen;
 
   // Errors that reach the top level.
   std::vector<std::string> mErrors;
@@ -173,7 +175,7 @@ class RecordingApp : public vek::app::MultiDocApplication {
   }
   boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog> GetNewSplashScreen() override {
     mLog.Add("GetNewSplashScreen");
-    return nullptr;
+    return mSplashScreen ? mSplashScreen() : nullptr;
   }
   void OSInitialize(vek::app::AppInitArgs& inArgs) override {
     mLog.Add("OSInitialize");
@@ -206,6 +208,7 @@ class RecordingApp : public vek::app::MultiDocApplication {
  public:
   void ApplyDefaultWorkspace() override {
     mLog.Add("ApplyDefaultWorkspace");
+    if (mWhenApplied) mWhenApplied();
     MultiDocApplication::ApplyDefaultWorkspace();
   }
   void SaveDefaultWorkSpace() override {

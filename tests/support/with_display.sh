@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 #
 # with_display.sh PROGRAM ARGUMENTS...: runs the program on an X server of its own that shows nothing,
-# with a window manager, and ends both when the program ends. Needs Xvfb, openbox, setxkbmap.
+# with a window manager, and ends both when the program ends. Needs Xvfb, openbox, setxkbmap, xdotool.
 set -eu
 
 folder=$(mktemp -d)
@@ -38,5 +38,9 @@ until [ -e "$folder/ready" ]; do
   kill -0 "$manager" 2>/dev/null || { cat "$folder/manager.log" >&2; exit 1; }
   sleep 0.02
 done
+
+# The first key that a tool sends makes the server switch to the keyboard that the tool's keys come from,
+# and tell every program of a new key map; the program is spared that in the middle of its first key.
+xdotool key Shift_L
 
 "$@"

@@ -213,10 +213,9 @@ TEST_F(CommandRegistryTest, AFailedLoadLeavesItEmptyAndSaysWhatIsWrong) {
   for (const char* name : {"", "loop"}) {
     Register(8, "Before");
     const auto file = folder.GetFile(name);
-    EXPECT_NE(WordsOf([&] {
-                Registry().LoadFromFile(file, false);
-              }).find(U8(file.GetFullPath()) + "\": "),
-              std::string::npos);
+    EXPECT_NE(
+        WordsOf([&] { Registry().LoadFromFile(file, false); }).find(U8(file.FullPath()) + "\": "),
+        std::string::npos);
     EXPECT_EQ(Commands(), "");
   }
 }

@@ -26,7 +26,7 @@ FileBasedDocument::FileBasedDocument() : mDirty(false) {}
 FileBasedDocument::~FileBasedDocument() = default;
 
 void FileBasedDocument::Save() {
-  if (mFile.GetFullPath().empty()) {
+  if (mFile.FullPath().empty()) {
     SaveAs();
   } else {
     SaveToFile(mFile);
@@ -74,7 +74,7 @@ void FileBasedDocument::SetDirty(bool inDirty) {
 }
 
 lumcore::filesupport::Dir FileBasedDocument::Parent() const {
-  return mFile.GetParent();
+  return mFile.Parent();
 }
 
 UTF16String FileBasedDocument::GetSaveFileNameFromDialog(

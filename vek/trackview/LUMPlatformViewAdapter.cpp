@@ -36,4 +36,8 @@ void LUMPlatformViewAdapter::DoSetProperties(lumui::ui::UI_Node&,
 void LUMPlatformViewAdapter::DoGetProperties(const lumui::ui::UI_Node&,
                                              lumcore::proplist::PropList&) const {}
 
+bool LUMPlatformViewAdapter::DoMakesItsChildren() const {
+  return true;
+}
+
 }  // namespace vek::trackview

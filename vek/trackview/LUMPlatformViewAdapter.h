@@ -27,6 +27,7 @@ class VEK_API LUMPlatformViewAdapter : public lumui::ui::UI_NodeAdapterBase {
                        const lumui::ui::UI_NodeProperties& inProperties) const override;
   void DoGetProperties(const lumui::ui::UI_Node& inNode,
                        lumcore::proplist::PropList& outSection) const override;
+  bool DoMakesItsChildren() const override;
 };
 
 }  // namespace vek::trackview

@@ -84,7 +84,7 @@ CommandRegistry::const_iterator CommandRegistry::FindCommandByID(int inCommand) 
 
 void CommandRegistry::LoadFromFile(const File& inFile, bool inReserveIds) {
   Load([&] {
-    const File file(inFile.GetFullPath());
+    const File file(inFile.FullPath());
     // What cannot be read goes on to the parser, which says why.
     if (file.IsAbsent()) return;
     MakeParser(inReserveIds)->Parse(file);

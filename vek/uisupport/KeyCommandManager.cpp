@@ -270,7 +270,7 @@ void KeyCommandManager::Load(Read inRead) {
 
 void KeyCommandManager::LoadKeyMappings(const lumcore::filesupport::File& inFile) {
   Load([&](lumcore::xml::Parser& ioParser) {
-    ioParser.Parse(lumcore::filesupport::File(inFile.GetFullPath()));
+    ioParser.Parse(lumcore::filesupport::File(inFile.FullPath()));
   });
 }
 

@@ -180,7 +180,7 @@ void AppBase::SaveAppSettings() {
   // The file is made and filled in one step: an empty one, left by a crash between two steps, would
   // keep the application from starting.
   const auto file = GetSettingsFile();
-  if (!file.Exists()) file.GetParent().Create();
+  if (!file.Exists()) file.Parent().Create();
   lumcore::proplist::utils::SavePropList(file, mSettings);
 }
 

@@ -95,7 +95,7 @@ void DocumentApplication::OnParentHandlerSet(CommandHandler*, CommandHandler* in
 }
 
 void DocumentApplication::AddRecentFile(const lumcore::filesupport::File& inFile) {
-  const UTF16String path = inFile.GetFullPath();
+  const UTF16String path = inFile.FullPath();
   RecentFiles files = *mRecentFiles;
   const auto found = std::find(files.begin(), files.end(), path);
   if (found != files.end()) files.erase(found);

@@ -13,6 +13,7 @@
 #include "lumui/ui/OS_Menu.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
+#include "lumui/utility/InteractionRegistry.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/app/src/MenuState.h"
 #include "vek/uisupport/CommandHandlerBase.h"
@@ -139,7 +140,12 @@ bool OS_AppBase::InitApplication(AppInitArgs& inArgs) {
       &OS_AppBase::MainOSEventFunc, 0);
   if (const HMENU menu = GetMainMenu()) MenubarCreateHook(menu);
   ApplyDefaultWorkspace();
-  if (inArgs.showMainWindow) GetWorkspace()->GetMainTopLevelWindow()->UI_Activate();
+  if (inArgs.showMainWindow) {
+    auto& mainWindow = *GetWorkspace()->GetMainTopLevelWindow();
+    mainWindow.UI_Activate();
+    // Before the splash screen goes.
+    mainWindow.UI_PaintNow();
+  }
   return true;
 }
 
@@ -265,7 +271,9 @@ bool OS_AppBase::MouseHook(const lumui::ui::ForeignPress& inPress) {
                                                      : MouseEvent::kRightButton,
       inPress.modifiers,
       lumcore::geom::PointT<float>(static_cast<float>(point.x), static_cast<float>(point.y)), 1,
-      OS_Event(nullptr, inPress.message, 0, position));
+      OS_Event(inPress.window, inPress.message, 0, position));
+  // The user has done nothing in a window of ours.
+  const lumui::utility::ScPauseResumeInteractionRegistry pause;
   return lumui::ui::UI_Node::UI_DispatchPrePointerEvent(window, event);
 }
 

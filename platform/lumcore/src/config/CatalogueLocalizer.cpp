@@ -27,7 +27,7 @@ Dir FindLocalizationDir(Dir inModuleDir, std::string_view inName) {
   for (int step = 0; step <= kFoldersAround && !inModuleDir.GetPath().empty(); ++step) {
     const Dir found(inModuleDir, "share/" + std::string(inName) + "/locale");
     if (found.Exists()) return found;
-    inModuleDir = inModuleDir.GetParent();
+    inModuleDir = inModuleDir.Parent();
   }
   return Dir();
 }

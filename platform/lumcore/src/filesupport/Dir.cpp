@@ -82,7 +82,7 @@ bool Dir::Exists() const {
   return system::FolderExists(mPath);
 }
 
-UTF16String Dir::GetFullPath() const {
+UTF16String Dir::FullPath() const {
   return paths::ToText(paths::Full(mPath));
 }
 
@@ -90,7 +90,7 @@ UTF16String Dir::GetName() const {
   return utility::ToUTF16(paths::FromSystem(paths::Name(mPath)));
 }
 
-Dir Dir::GetParent() const {
+Dir Dir::Parent() const {
   return Dir(paths::Parent(mPath));
 }
 

@@ -31,7 +31,7 @@ std::uint64_t File::GetSize() const {
   return system::FileSize(mPath);
 }
 
-UTF16String File::GetFullPath() const {
+UTF16String File::FullPath() const {
   return paths::ToText(paths::Full(mPath));
 }
 
@@ -44,7 +44,7 @@ UTF16String File::GetExtension() const {
   return extension.empty() ? extension : extension.substr(1);
 }
 
-Dir File::GetParent() const {
+Dir File::Parent() const {
   return Dir(paths::Parent(mPath));
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <memory>
+#include <type_traits>
 
 #include "lumcore/proplist/Utils.h"
 #include "lumui/controls/UI_Checkbox.h"
@@ -94,30 +95,33 @@ std::unique_ptr<UI_NodeAdapterBase> TextEditAdapter() {
   return adapter;
 }
 
-// The items are an array while nothing is chosen, and a choice otherwise.
-class PopupAdapter : public UI_NodeAdapterT<UI_Popup> {
+// The items are an array while nothing is chosen, and a choice otherwise. Archives have them in the
+// section of the combo as well as in that of its base, which is where they are written.
+template <class Class>
+class PopupAdapter : public UI_NodeAdapterT<Class> {
  public:
-  PopupAdapter()
-      : UI_NodeAdapterT("lumui::controls::UI_Popup", "lumui::controls::UI_InteractiveControlView") {
-    Add("alwaysNotify", &UI_Popup::GetAlwaysNotify, &UI_Popup::SetAlwaysNotify);
-    Add("drawDivider", &UI_Popup::GetDrawDivider, &UI_Popup::SetDrawDivider);
-    Add("fontSize", &UI_Popup::GetFontSize, &UI_Popup::SetFontSize);
-    Add(kItems, &UI_Popup::GetItems, &UI_Popup::SetItems);
-    Add("popupType", &UI_Popup::GetPopupType, &UI_Popup::SetPopupType);
+  PopupAdapter(const char* inClassName, const char* inBaseName)
+      : UI_NodeAdapterT<Class>(inClassName, inBaseName) {
+    this->Add("alwaysNotify", &Class::GetAlwaysNotify, &Class::SetAlwaysNotify);
+    this->Add("drawDivider", &Class::GetDrawDivider, &Class::SetDrawDivider);
+    this->Add("fontSize", &Class::GetFontSize, &Class::SetFontSize);
+    this->Add(kItems, &Class::GetItems, &Class::SetItems);
+    this->Add("popupType", &Class::GetPopupType, &Class::SetPopupType);
   }
 
  private:
   static constexpr const char* kItems = "popupItems";
 
   void DoSetProperties(UI_Node& ioNode, const UI_NodeProperties& inProperties) const override {
-    UI_NodeAdapterT::DoSetProperties(ioNode, inProperties);
+    UI_NodeAdapterT<Class>::DoSetProperties(ioNode, inProperties);
     lumcore::proplist::utils::Choice choice;
     if (!lumcore::proplist::utils::ReadChoice(inProperties.GetSection(), kItems, choice)) return;
     dynamic_cast<UI_Popup&>(ioNode).SetValue(choice.selected);
   }
   void DoGetProperties(const UI_Node& inNode,
                        lumcore::proplist::PropList& outSection) const override {
-    UI_NodeAdapterT::DoGetProperties(inNode, outSection);
+    if (!std::is_same_v<Class, UI_Popup>) return;
+    UI_NodeAdapterT<Class>::DoGetProperties(inNode, outSection);
     const auto& popup = dynamic_cast<const UI_Popup&>(inNode);
     if (popup.GetValue() < 0) return;
     lumcore::proplist::utils::WriteChoice(outSection, kItems, {popup.GetItems(), popup.GetValue()});
@@ -151,9 +155,10 @@ void RegisterControlAdapters(UI_NodeAdapterRegistry& ioRegistry) {
   ioRegistry.Register(std::make_unique<ImageAdapter<UI_StaticImage>>(
       "lumui::controls::UI_StaticImage", "lumui::controls::UI_ControlView"));
   ioRegistry.Register(TextEditAdapter());
-  ioRegistry.Register(std::make_unique<PopupAdapter>());
-  ioRegistry.Register(
-      Adapter<UI_Popup_Combo>("lumui::controls::UI_Popup_Combo", "lumui::controls::UI_Popup"));
+  ioRegistry.Register(std::make_unique<PopupAdapter<UI_Popup>>(
+      "lumui::controls::UI_Popup", "lumui::controls::UI_InteractiveControlView"));
+  ioRegistry.Register(std::make_unique<PopupAdapter<UI_Popup_Combo>>(
+      "lumui::controls::UI_Popup_Combo", "lumui::controls::UI_Popup"));
 }
 
 }  // namespace lumui::ui

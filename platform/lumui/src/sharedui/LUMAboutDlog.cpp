@@ -3,9 +3,7 @@
 
 #include "lumui/sharedui/LUMAboutDlog.h"
 
-#include <QElapsedTimer>
 #include <QPalette>
-#include <QWindow>
 #include <algorithm>
 
 #include "drawbot/QtConvert.h"
@@ -27,7 +25,6 @@ constexpr float kMargin = 24;
 constexpr float kLeastWidth = 360;
 constexpr float kNameFontSize = 26;
 constexpr float kLineSpacing = 1.5f;  // of the font's size
-constexpr int kLongestWaitMilliseconds = 500;
 
 drawbot::ColorRGBA ColorOf(QPalette::ColorRole inRole) {
   return drawbot::FromQt(QGuiApplication::palette().color(inRole));
@@ -72,15 +69,17 @@ LUMAboutDlog::LUMAboutDlog(const lumcore::UTF16String& inName,
 LUMAboutDlog::~LUMAboutDlog() = default;
 
 void LUMAboutDlog::Show(bool inShow) {
-  if (inShow) PlaceInMiddle();
-  UI_Show(inShow);
-  const QWindow* const native = inShow ? GetPeer()->GetWidget()->windowHandle() : nullptr;
-  QElapsedTimer waited;
-  waited.start();
-  while (native && !native->isExposed() && waited.elapsed() < kLongestWaitMilliseconds) {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  if (inShow) {
+    PlaceInMiddle();
+    // The main window comes behind it, and the keyboard goes to that one. Of the type that Qt has
+    // for splash screens, showing it would empty the whole queue.
+    QWidget* const widget = GetPeer()->GetWidget();
+    widget->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    widget->setAttribute(Qt::WA_ShowWithoutActivating);
+    widget->winId();
   }
-  UI_UpdateNow(lumcore::utility::Flags<unsigned int>());
+  UI_Show(inShow);
+  UI_PaintNow();
 }
 
 void LUMAboutDlog::UI_Draw(drawbot::Drawbot* inDrawbot) const {

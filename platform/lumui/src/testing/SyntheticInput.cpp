@@ -3,10 +3,12 @@
 
 #include "lumui/testing/SyntheticInput.h"
 
+#include <private/qhighdpiscaling_p.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <QCoreApplication>
 #include <QInputMethodEvent>
+#include <QSessionManager>
 #include <QWidget>
 #include <QWindow>
 #include <cmath>
@@ -54,14 +56,23 @@ QPointF NativePosition(const ui::OS_Window& inWindow, const Position& inPosition
   return drawbot::ToQt(inPosition) + QPointF(0, inWindow.GetPeer()->GetChromeHeight());
 }
 
+// The window system counts in the screen's own pixels.
+QPointF InPixels(const QPointF& inLocal, const QWindow* inNative) {
+  return QHighDpi::toNativeLocalPosition(inLocal, inNative);
+}
+QPointF ScreenPixels(const QPointF& inLocal, const QWindow* inNative) {
+  return QHighDpi::toNativeGlobalPosition(inNative->mapToGlobal(inLocal), inNative);
+}
+
 void SendMouse(ui::OS_Window& inWindow, const Position& inPosition, QEvent::Type inType,
                Qt::MouseButton inButton, ui::ModifierKeys inModifiers, unsigned long inStep) {
   QWindow* const native = NativeWindow(inWindow);
   Qt::MouseButtons& held = HeldButtons();
   held.setFlag(inButton, inType == QEvent::MouseButtonPress);
   const QPointF local = NativePosition(inWindow, inPosition);
-  System::handleMouseEvent<Now>(native, NextTime(inStep), local, native->mapToGlobal(local), held,
-                                inButton, inType, ui::QtFromModifiers(inModifiers));
+  System::handleMouseEvent<Now>(native, NextTime(inStep), InPixels(local, native),
+                                ScreenPixels(local, native), held, inButton, inType,
+                                ui::QtFromModifiers(inModifiers));
 }
 
 // The text that a keyboard driver puts into a key event, control characters of chords included.
@@ -207,8 +218,9 @@ void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
   const QPointF local = NativePosition(inWindow, inPosition);
   const QPoint angle(static_cast<int>(std::lround(-inNotches.x * kWheelUnitsANotch)),
                      static_cast<int>(std::lround(-inNotches.y * kWheelUnitsANotch)));
-  System::handleWheelEvent(native, NextTime(kApart), local, native->mapToGlobal(local), QPoint(),
-                           angle, ui::QtFromModifiers(inModifiers));
+  System::handleWheelEvent(native, NextTime(kApart), InPixels(local, native),
+                           ScreenPixels(local, native), QPoint(), angle,
+                           ui::QtFromModifiers(inModifiers));
   System::sendWindowSystemEvents(QEventLoop::AllEvents);
 }
 
@@ -221,10 +233,19 @@ void ActivateWindow(ui::OS_Window* inWindow) {
                                      Qt::ActiveWindowFocusReason);
 }
 
-bool EndSession() {
+bool AskSessionEnd() {
   ui::EventGate* const gate = ui::EventGate::Get();
   LUM_INPUT_CONTRACT(gate != nullptr);
-  if (!gate->AskSessionEnd()) return false;
+  // The one that Qt has made for itself.
+  auto* const session = gate->findChild<QSessionManager*>();
+  LUM_INPUT_CONTRACT(session != nullptr);
+  emit gate->commitDataRequest(*session);
+  return gate->IsSessionEnding();
+}
+
+bool EndSession() {
+  if (!AskSessionEnd()) return false;
+  ui::EventGate* const gate = ui::EventGate::Get();
   QEvent quit(QEvent::Quit);
   QCoreApplication::sendEvent(gate, &quit);
   return true;

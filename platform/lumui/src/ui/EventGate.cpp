@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
-#include <QSessionManager>
 #include <QThread>
 #include <QTimer>
 #include <QWheelEvent>
@@ -26,7 +25,9 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/UI_NodeManager.h"
+#include "lumui/utility/InteractionRegistry.h"
 #include "ui/AccessibleNode.h"
+#include "ui/FrameRegistry.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
 #include "ui/QtEvents.h"
@@ -47,11 +48,25 @@ bool IsPress(QEvent::Type inType) {
   return inType == QEvent::MouseButtonPress || inType == QEvent::MouseButtonDblClick;
 }
 
+bool IsUsersDoing(QEvent::Type inType) {
+  return IsPress(inType) || inType == QEvent::KeyPress || inType == QEvent::Close;
+}
+
 // What comes and goes over other windows.
 bool IsPassing(const QWindow& inNative) {
   const Qt::WindowType type = inNative.type();
   return type == Qt::Popup || type == Qt::ToolTip || type == Qt::SplashScreen ||
          inNative.flags().testFlag(Qt::WindowTransparentForInput);
+}
+
+// A window that is none of ours gets a handle when the hook is first told of it, and keeps it.
+HWND HandleOfForeign(QWindow& ioNative) {
+  constexpr const char* kHandle = "lumuiHandle";
+  if (!ioNative.property(kHandle).isValid()) {
+    ioNative.setProperty(kHandle,
+                         QVariant::fromValue(reinterpret_cast<quintptr>(NewWindowHandle())));
+  }
+  return reinterpret_cast<HWND>(ioNative.property(kHandle).value<quintptr>());
 }
 
 bool IsRoutedToNodes(QEvent::Type inType) {
@@ -76,12 +91,6 @@ bool IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent) {
          FindWindowOf(inNative);
 }
 
-// What a key types by itself: no control characters, and nothing of a chord.
-bool IsTyped(QChar inCharacter) {
-  const char16_t unit = inCharacter.unicode();
-  return unit >= 0x20 && !(unit >= 0x7F && unit < 0xA0);
-}
-
 }  // namespace
 
 EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
@@ -92,9 +101,7 @@ EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
   mDragWatch = std::make_unique<datatransfer::DragWatch>([] {
     if (auto* const manager = NodeManagerImplIfAny()) manager->drops.Leave();
   });
-  connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& ioSession) {
-    if (!AskSessionEnd()) ioSession.cancel();
-  });
+  connect(this, &QGuiApplication::commitDataRequest, this, &EventGate::CommitData);
   const auto displayChanged = [this] { TellDisplayChange(); };
   const auto watchScreen = [this, displayChanged](QScreen* inScreen) {
     connect(inScreen, &QScreen::geometryChanged, this, displayChanged);
@@ -160,6 +167,7 @@ bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (!window) return RouteForeign(inNative, inEvent);
   if (BelongsToMenus(*window, inEvent)) return QApplication::notify(&inNative, &inEvent);
   const lumcore::utility::StKeepAlive keepAlive(*window);
+  if (mSessionEnding && IsUsersDoing(inEvent.type())) SessionGoesOn();
   switch (inEvent.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -190,7 +198,8 @@ bool EventGate::RouteForeign(QWindow& inNative, QEvent& inEvent) {
     const Qt::MouseButton button = mouse.button();
     if (button == Qt::LeftButton || button == Qt::RightButton) {
       const QPoint position = mouse.globalPosition().toPoint();
-      const ForeignPress press{button == Qt::LeftButton ? kMessageLeftDown : kMessageRightDown,
+      const ForeignPress press{HandleOfForeign(inNative),
+                               button == Qt::LeftButton ? kMessageLeftDown : kMessageRightDown,
                                lumcore::geom::PointT<int>(position.x(), position.y()),
                                ModifiersFromQt(mouse.modifiers())};
       bool swallowed = false;
@@ -270,77 +279,10 @@ bool EventGate::HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEv
   OS_Event os = inEvent.type() == QEvent::Wheel
                     ? OSEventOf(inWindow.UI_GetHandle(), static_cast<QWheelEvent&>(inEvent))
                     : OS_Event(inWindow.UI_GetHandle(), kMessageMouseLeave, 0, 0);
+  if (inEvent.type() == QEvent::Wheel) utility::InteractionRegistry::Get().Note();
   bool handled = true;
   Pass(os, [&] { handled = HandToQt(inNative, inEvent, os); });
   return handled;
-}
-
-bool EventGate::HandleKey(OS_Window& inWindow, QWindow& inNative, QKeyEvent& inEvent) {
-  // Some window systems repeat a held key as release and press; only the presses are told.
-  if (inEvent.type() == QEvent::KeyRelease && inEvent.isAutoRepeat()) return true;
-  KeyState key;
-  key.event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
-  OS_Event os = *key.event.GetOSEvent();
-  bool handled = true;
-  bool passed = false;
-  {
-    const lumcore::utility::StScopedValue<KeyState*> current(mKey, &key);
-    passed = Pass(os, [&] { handled = HandToQt(inNative, inEvent, os); });
-  }
-  if (!passed) {
-    inEvent.accept();
-    return true;
-  }
-  const ModifierKeys modifiers = key.event.GetModKey();
-  const bool chord = modifiers.Has(kModCommand);
-  const bool takenByControl = inEvent.isAccepted() && !key.takenByNode;
-  if (key.event.IsActionKeyDown() && !key.charactersDropped && !chord && !takenByControl) {
-    const lumcore::utility::StScopedValue<ModifierKeys> typing(mTypingModifiers, modifiers);
-    TypeCharacters(inWindow, inEvent.text());
-  }
-  return handled;
-}
-
-void EventGate::DropPendingCharacters() {
-  if (mKey) mKey->charactersDropped = true;
-}
-
-void EventGate::NoteKeyTakenByNode() {
-  if (mKey) mKey->takenByNode = true;
-}
-
-void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
-  const lumcore::utility::StKeepAlive keepAlive(inWindow);
-  const ModifierKeys modifiers = mTypingModifiers;
-  for (const QChar character : inText) {
-    if (!IsTyped(character) || !inWindow.UI_GetHandle()) continue;
-    const KeyboardEvent event =
-        CharacterEventOf(inWindow.UI_GetHandle(), character.unicode(), modifiers);
-    OS_Event os = *event.GetOSEvent();
-    Pass(os, [&] {
-      UI_Node* const focus = inWindow.UI_GetFocusNode();
-      const boost::intrusive_ptr<UI_Node> start = focus ? focus : &inWindow;
-      bool taken = false;
-      for (boost::intrusive_ptr<UI_Node> node = start; node && !taken;) {
-        taken = true;
-        RunGuarded([&] { taken = node->UI_DoKeyboardEvent(start.get(), event); });
-        // As for the keys, the walk ends with the window.
-        node = node.get() == &inWindow ? nullptr : node->UI_GetParentNode();
-      }
-    });
-  }
-}
-
-bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
-  if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
-  const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
-  bool claimed = !NodeManagerImpl().mnemonics;
-  const auto claim = mShortcutClaim;
-  if (claim && event.GetCode() != KeyboardCode()) {
-    RunGuarded([&] { claimed = OfferReadings(event, claim) || claimed; });
-  }
-  if (claimed) inEvent.accept();
-  return claimed;
 }
 
 bool EventGate::HandleClose(OS_Window& inWindow, QEvent& inEvent) {
@@ -359,31 +301,6 @@ bool EventGate::HandleClose(OS_Window& inWindow, QEvent& inEvent) {
     }
   });
   return true;
-}
-
-bool EventGate::HandleQuit() {
-  if (mSessionEnding) {
-    EndSession();
-  } else if (mQuitFunction) {
-    mQuitFunction(0);
-  }
-  return true;
-}
-
-bool EventGate::AskSessionEnd() {
-  bool permitted = true;
-  ForEachWindow([&](OS_Window& inWindow) {
-    if (!permitted) return;
-    permitted = inWindow.UI_SendMessage(kMessageQueryEndSession, 0, 0) != 0;
-  });
-  mSessionEnding = permitted;
-  return permitted;
-}
-
-void EventGate::EndSession() {
-  mSessionEnding = false;
-  ForEachWindow([](OS_Window& inWindow) { inWindow.UI_SendMessage(kMessageEndSession, 1, 0); });
-  if (mQuitFunction) mQuitFunction(0);
 }
 
 // Qt's own drags take what they need in a filter that comes before the widgets.

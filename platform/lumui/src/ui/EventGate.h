@@ -19,6 +19,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QSessionManager;
 class QWidget;
 class QWindow;
 
@@ -73,9 +74,10 @@ class LUMUI_API EventGate : public QApplication {
   // One character event for each unit, to the node with the focus and its ancestors.
   void TypeCharacters(OS_Window& inWindow, const QString& inText);
 
-  // True if nobody refuses the end of the session.
-  bool AskSessionEnd();
-  void EndSession();
+  // The session manager wants to end the session: asks every window, and refuses if one does.
+  void CommitData(QSessionManager& ioSession);
+  // Nobody has refused. It ends with a quit event, or goes on all the same.
+  bool IsSessionEnding() const { return mSessionEnding; }
 
   // A modal window that shows in a headless run is rejected and reported unless it was announced.
   void AnnounceModal(bool inBegin) { mAnnouncedModals += inBegin ? 1 : -1; }
@@ -110,6 +112,9 @@ class LUMUI_API EventGate : public QApplication {
   bool HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent);
   bool HandleClose(OS_Window& inWindow, QEvent& inEvent);
   bool HandleQuit();
+  bool AskSessionEnd();
+  void EndSession();
+  void SessionGoesOn();
   bool HandToQt(QObject& inReceiver, QEvent& inEvent, const OS_Event& inOSEvent);
   void RejectModal(QWidget& inWidget);
   void ReportError(const std::exception_ptr& inError);

@@ -35,8 +35,18 @@ class Executor::Impl : public QObject {
     QCoreApplication::postEvent(this, new QEvent(TurnEvent()));
   }
 
+  void SetHeld(bool inHeld) {
+    mIsHeld = inHeld;
+    for (int turns = inHeld ? 0 : std::exchange(mHeldTurns, 0); turns > 0; --turns)
+      QCoreApplication::postEvent(this, new QEvent(TurnEvent()));
+  }
+
   bool event(QEvent* inEvent) override {
     if (inEvent->type() != TurnEvent()) return QObject::event(inEvent);
+    if (mIsHeld) {
+      ++mHeldTurns;
+      return true;
+    }
     std::function<void()> function;
     {
       const std::lock_guard<std::mutex> lock(mMutex);
@@ -50,6 +60,8 @@ class Executor::Impl : public QObject {
  private:
   std::mutex mMutex;
   std::deque<std::function<void()>> mQueue;
+  bool mIsHeld = false;
+  int mHeldTurns = 0;  // that were due meanwhile
 };
 
 Executor::Executor() : mImpl(std::make_unique<Impl>()) {}
@@ -58,6 +70,10 @@ Executor::~Executor() = default;
 
 void Executor::Post(std::function<void()> inFunction) {
   mImpl->Post(std::move(inFunction));
+}
+
+void Executor::SetHeld(bool inHeld) {
+  mImpl->SetHeld(inHeld);
 }
 
 }  // namespace lumui::ui

@@ -76,6 +76,15 @@ void KeyframeThemeEditor::SetKeyFrame(int inColor, const KeyFrame& inFrame) {
   Resolve(inColor, frames);
 }
 
+void KeyframeThemeEditor::RemoveKeyFrames(int inColor) {
+  if (mFrames.erase(inColor) == 0) return;
+  if (static_cast<std::size_t>(inColor) < mFixed.size()) {
+    mFixed[static_cast<std::size_t>(inColor)] = Entry();
+  } else {
+    mFurther.erase(inColor);
+  }
+}
+
 void KeyframeThemeEditor::SetTextSize(int inText, int inScheme, float inSize) {
   LUM_INPUT_CONTRACT(inText >= 0 && inText < mTexts);
   LUM_INPUT_CONTRACT(inScheme >= 0 && inScheme < kFontSizeSchemes);

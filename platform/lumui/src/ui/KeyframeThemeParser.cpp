@@ -80,6 +80,7 @@ void KeyframeThemeParser::AddKeyFrame(const Attributes& inAttributes) {
   frame.alpha = Read<float>(inAttributes, "a").value_or(1.0f);
   const UTF16String* const hold = inAttributes.Find("hold");
   frame.hold = hold && IsText(*hold, "true");
+  if (mNamed.insert(color).second) mEditor.RemoveKeyFrames(color);
   mEditor.SetKeyFrame(color, frame);
 }
 

@@ -8,9 +8,11 @@
 #include <QPointer>
 #include <QVariant>
 #include <QWidget>
+#include <memory>
 #include <utility>
 
 #include "lumcore/geom/Point.h"
+#include "lumcore/proplist/PropList.h"
 #include "lumui/Export.h"
 #include "lumui/ui/UI_Node.h"
 
@@ -64,6 +66,12 @@ class LUMUI_API NodePeer {
   QWidget* GetContainer();
 
   void Bind(UI_Node& inNode) { mNode = &inNode; }
+  // What the archive that the node was built from says of it, without its children; null for a node
+  // that was made otherwise.
+  const lumcore::proplist::PropList* GetArchived() const { return mArchived.get(); }
+  void SetArchived(std::unique_ptr<const lumcore::proplist::PropList> inArchived) {
+    mArchived = std::move(inArchived);
+  }
   // Makes the widget, or moves it, with those of the nodes below. A null parent makes a window.
   void PlaceIn(QWidget* inParent);
   void PlaceChild(UI_Node& inChild, UI_Node* inNextSibling);
@@ -130,6 +138,7 @@ class LUMUI_API NodePeer {
   UI_Node* mNode = nullptr;
   QWidget* mWidget = nullptr;
   NodeWidgetLink* mLink = nullptr;
+  std::unique_ptr<const lumcore::proplist::PropList> mArchived;
   bool mApplyingRect = false;
   int mChromeHeight = 0;
   bool mIsOpaque = false;

@@ -3,9 +3,12 @@
 
 #include "lumui/ui/OS_Window.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QImageWriter>
 #include <QPixmap>
+#include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
@@ -16,6 +19,7 @@
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/utility/Flags.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Menu.h"
 #include "ui/EventGate.h"
@@ -31,6 +35,23 @@ namespace {
 constexpr unsigned kStyleCaption = 0xC00000;
 constexpr unsigned kStyleSizingFrame = 0x40000;
 constexpr unsigned kStyleDefault = 0xCF0000;  // caption, frame, and the caption's buttons
+
+constexpr int kLongestWaitMilliseconds = 500;
+
+// What the application has to do waits.
+class StHoldBack {
+ public:
+  StHoldBack() { Set(true); }
+  ~StHoldBack() { Set(false); }
+  StHoldBack(const StHoldBack&) = delete;
+  StHoldBack& operator=(const StHoldBack&) = delete;
+
+ private:
+  static void Set(bool inHeld) {
+    NodeManagerImpl().executor.SetHeld(inHeld);
+    NodeManagerImpl().timers.SetHeld(inHeld);
+  }
+};
 
 std::vector<OS_Window*>& Windows() {
   static std::vector<OS_Window*> sWindows;
@@ -111,6 +132,7 @@ void OS_Window::UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
   }
   UI_SetWindowStyleFlags(mStyleFlags);
   widget->setWindowTitle(drawbot::ToQt(mTitle));
+  if (framed) GetWindowPeer().ApplyIcon(frame);
   // Its place stays the system's to choose.
   if (framed && !inRect && frame.width > 0 && frame.height > 0) {
     GetPeer()->ApplySize(frame.width, frame.height);
@@ -198,6 +220,42 @@ void OS_Window::UI_Activate() {
 
 bool OS_Window::UI_IsActive() const {
   return mHandle && GetPeer()->GetWidget()->isActiveWindow();
+}
+
+void OS_Window::UI_PaintNow() {
+  const QPointer<QWindow> native = mHandle ? NativeOf(*this) : nullptr;
+  if (!native || !UI_IsVisible()) return;
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  {
+    const StHoldBack holdBack;
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(kLongestWaitMilliseconds);
+    while (native && !native->isExposed() && limit.isActive()) {
+      QAbstractEventDispatcher::instance()->processEvents(QEventLoop::ExcludeUserInputEvents |
+                                                          QEventLoop::WaitForMoreEvents);
+    }
+  }
+  UI_UpdateNow(lumcore::utility::Flags<unsigned int>());
+}
+
+void OS_Window::UI_SetMaximized(bool inMaximized) {
+  if (mHandle)
+    GetPeer()->GetWidget()->setWindowState(
+        GetPeer()->GetWidget()->windowState().setFlag(Qt::WindowMaximized, inMaximized));
+}
+
+bool OS_Window::UI_IsMaximized() const {
+  return mHandle && GetPeer()->GetWidget()->isMaximized();
+}
+
+lumcore::geom::RectT<float> OS_Window::UI_GetRestoredRect() const {
+  if (!mHandle) return {};
+  if (!UI_IsMaximized()) return UI_GetLocalRectF();
+  lumcore::geom::RectT<float> rect =
+      drawbot::FromQt(QRectF(GetPeer()->GetWidget()->normalGeometry()));
+  rect.height -= static_cast<float>(GetPeer()->GetChromeHeight());
+  return rect;
 }
 
 UI_Node* OS_Window::UI_GetFocusNode() const {

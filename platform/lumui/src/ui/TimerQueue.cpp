@@ -104,7 +104,7 @@ void TimerQueue::ShiftAll(double inSeconds) {
 
 void TimerQueue::Arm() {
   if (mQtTimer != 0) killTimer(std::exchange(mQtTimer, 0));
-  if (mVirtual || mTimers.empty()) return;
+  if (mVirtual || mHeld || mTimers.empty()) return;
   const double wait = std::ceil((mTimers.begin()->due - Now()) * 1000);
   const double longest = std::numeric_limits<int>::max();
   mQtTimer = startTimer(static_cast<int>(std::clamp(wait, 0.0, longest)), Qt::PreciseTimer);

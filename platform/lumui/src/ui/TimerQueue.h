@@ -24,6 +24,11 @@ class TimerQueue : private QObject {
   void SetVirtual(bool inVirtual);
   bool IsVirtual() const { return mVirtual; }
   void Advance(double inSeconds);
+  // No timer fires while they are held; those that were due then do so afterwards.
+  void SetHeld(bool inHeld) {
+    mHeld = inHeld;
+    Arm();
+  }
   double GetVirtualTime() const { return mVirtualNow; }
 
  private:
@@ -49,6 +54,7 @@ class TimerQueue : private QObject {
   int mQtTimer = 0;  // 0 for none
   bool mVirtual = false;
   bool mAdvancing = false;
+  bool mHeld = false;
   double mVirtualNow = 0;
 };
 

@@ -13,6 +13,7 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Window.h"
+#include "lumui/utility/InteractionRegistry.h"
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
@@ -215,6 +216,7 @@ void UI_Node::UI_SetWantsPrePointerEvents(bool inWants) {
 }
 
 bool UI_Node::UI_DispatchPrePointerEvent(UI_Node* inRoot, const MouseEvent& inEvent) {
+  utility::InteractionRegistry::Get().Note();
   auto& nodes = NodeManagerImpl().prePointerNodes;
   const std::vector<UI_Node*> atStart = nodes;
   for (UI_Node* node : atStart) {

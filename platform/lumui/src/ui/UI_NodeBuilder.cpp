@@ -12,6 +12,7 @@
 #include "lumcore/proplist/Utils.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/UI_NodeAdapter.h"
+#include "ui/NodePeer.h"
 
 namespace lumui::ui {
 
@@ -22,8 +23,6 @@ using lumcore::UTF8String;
 using lumcore::proplist::PropList;
 using lumcore::utility::ReplaceInString;
 using lumcore::utility::ToUTF16;
-
-constexpr std::uint32_t kArchiveVersion = 1;
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -72,26 +71,6 @@ void CollectIDs(UI_Node& inNode, UI_NodeBuilder::NodeMap& ioNodes) {
   if (!inNode.UI_GetNodeID().empty()) ioNodes.emplace(inNode.UI_GetNodeID(), &inNode);
   for (std::size_t i = 0; i < inNode.UI_GetChildCount(); ++i)
     CollectIDs(*inNode.UI_GetChild(i), ioNodes);
-}
-
-void WriteNode(const UI_Node& inNode, PropList& outList) {
-  const auto& registry = UI_NodeAdapterRegistry::Get();
-  const UI_NodeAdapterBase* adapter = &registry.FindFor(inNode);
-  outList.Set("adapter", ToUTF16(adapter->GetClassName()));
-  PropList& sections = outList.CreateSubList("sections");
-  sections.Set("count", std::uint32_t(0));
-  std::uint32_t count = 0;
-  for (; adapter; adapter = registry.Find(adapter->GetBaseName())) {
-    PropList& section = sections.CreateSubList(Numbered("section-", count++).c_str());
-    section.Set("sectionName", ToUTF16(adapter->GetClassName()));
-    adapter->GetProperties(inNode, section);
-    if (!adapter->GetBaseName().empty()) continue;
-    PropList& children = section.CreateSubList("children");
-    children.Set("count", static_cast<std::uint32_t>(inNode.UI_GetChildCount()));
-    for (std::size_t i = 0; i < inNode.UI_GetChildCount(); ++i)
-      WriteNode(*inNode.UI_GetChild(i), children.CreateSubList(Numbered("child-", i).c_str()));
-  }
-  sections.Set("count", count);
 }
 
 }  // namespace
@@ -144,6 +123,15 @@ boost::intrusive_ptr<UI_Node> UI_NodeBuilder::BuildNode(
     const auto* const part = registry.Find(lumcore::utility::ToStdString(*sectionName));
     if (part && part->Fits(*node)) part->SetProperties(*node, UI_NodeProperties(**section, source));
   }
+  auto archived = std::make_unique<PropList>();
+  archived->Set("adapter", *name);
+  std::vector<PropList> withoutChildren;
+  for (const PropList* section : sections) {
+    withoutChildren.push_back(*section);
+    withoutChildren.back().Remove("children");
+  }
+  archived->Set("sections", std::move(withoutChildren));
+  node->GetPeer()->SetArchived(std::move(archived));
   for (const PropList* section : sections)
     BuildChildren(*node, *section, source, inPlace, inCustomNode);
   return node;
@@ -158,13 +146,6 @@ void UI_NodeBuilder::BuildChildren(UI_Node& ioNode, const PropList& inSection,
     const UTF16String place = inPlace + ToUTF16(Numbered("/child-", i));
     ioNode.UI_AddChild(BuildNode(*children[i], place, inSource.supplier, inCustomNode));
   }
-}
-
-UTF8String UI_NodeBuilder::Write(const UI_Node& inRoot) {
-  PropList archive;
-  archive.Set("UINodeArchive", kArchiveVersion);
-  WriteNode(inRoot, archive.CreateSubList("root"));
-  return lumcore::proplist::utils::SavePropListToBuffer(archive);
 }
 
 }  // namespace lumui::ui

@@ -3,10 +3,18 @@
 
 #include "ui/WindowPeer.h"
 
+#include <QIcon>
 #include <QMenuBar>
+#include <QPixmap>
 #include <QVBoxLayout>
 
+#include "drawbot/QtImage.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Window.h"
+#include "lumui/utility/DrawbotImageResourceCache.h"
+#include "lumui/utility/ResourceManager.h"
+#include "ui/EventGate.h"
 #include "ui/Menu.h"
 #include "ui/MenuPeer.h"
 
@@ -54,6 +62,27 @@ void WindowPeer::DropBar() {
 
 QWidget* WindowPeer::DoGetContainer() {
   return mContainer ? mContainer.data() : GetWidget();
+}
+
+// A window without its icon is better than none: what is wrong with it is reported.
+void WindowPeer::ApplyIcon(const OS_Frame::Description& inFrame) {
+  if (inFrame.iconID == 0) return;
+  EventGate::Get()->RunGuarded([&] {
+    const std::string name = "ICON_" + std::to_string(inFrame.iconID);
+    const utility::ResourceManager resources(inFrame.resources);
+    const auto has = [&](const char* inType) {
+      return resources.HasBinary(lumcore::utility::ToUTF16(name), inType);
+    };
+    if (!has("PNG") && !has("SVG")) return;
+    const auto image = utility::DrawbotImageResourceCache().GetImage(
+        resources, *drawbot::GetDefaultSupplier(), lumcore::utility::ToUTF8(name));
+    QIcon icon;
+    for (const float scale : {1.0f, 2.0f, 3.0f}) {
+      const QSize pixels(qRound(image->GetWidth() * scale), qRound(image->GetHeight() * scale));
+      icon.addPixmap(QPixmap::fromImage(drawbot::AsQtImage(*image).GetRaster(scale, pixels)));
+    }
+    GetWidget()->setWindowIcon(icon);
+  });
 }
 
 void WindowPeer::MakeContainer() {

@@ -5,7 +5,7 @@
 
 #include <QPointer>
 
-#include "lumui/ui/OSTypes.h"
+#include "lumui/ui/OS_Frame.h"
 #include "ui/NodePeer.h"
 
 class QMenuBar;
@@ -22,6 +22,8 @@ class LUMUI_API WindowPeer : public NodePeer {
   // Of a window with a widget. Null takes the bar away.
   void ShowMenu(HMENU inMenu);
   QMenuBar* GetBar() const;  // null without a menu
+  // The frame's icon, if its module has one.
+  void ApplyIcon(const OS_Frame::Description& inFrame);
 
  protected:
   QWidget* DoMakeWidget(QWidget* inParent) override;

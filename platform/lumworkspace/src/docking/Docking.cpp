@@ -38,8 +38,9 @@ constexpr int kFloatingWidth = 320;
 constexpr int kFloatingHeight = 280;
 constexpr int kFloatingOffset = 40;
 
+// Where it stands when it is not maximised.
 Rect RectOf(const TopLevelWindow& inWindow) {
-  const auto& rect = inWindow.UI_GetLocalRectF();
+  const auto rect = inWindow.UI_GetRestoredRect();
   return Rect(static_cast<int>(rect.x), static_cast<int>(rect.y), static_cast<int>(rect.width),
               static_cast<int>(rect.height));
 }
@@ -217,6 +218,7 @@ Layout Docking::Capture() const {
   Layout now = mLayout;
   const Rect rect = RectOf(*main);
   if (rect != mMainPlaced || now.mainWindow.IsEmpty()) now.mainWindow = rect;
+  now.mainMaximized = main->UI_IsMaximized();
   DockArea& area = main->GetDockArea();
   if (area.IsEdited()) {
     now.areas = area.Capture();
@@ -232,6 +234,7 @@ Layout Docking::Capture() const {
     if (!window) continue;
     const Rect placed = RectOf(*window);
     if (placed != mFloating[i].placed) now.floating[i].rect = placed;
+    now.floating[i].maximized = window->UI_IsMaximized();
     const DockArea& each = window->GetDockArea();
     if (each.IsEdited()) {
       now.floating[i].root = each.Capture()[workspace::kDockLeft];
@@ -259,8 +262,10 @@ void Docking::Show(const Layout& inLayout) {
     if (!tab || !tab->open) LetGo(entry.first);
   }
   if (!layout.mainWindow.IsEmpty() && layout.mainWindow != mLayout.mainWindow) {
+    main->UI_SetMaximized(false);
     main->MoveTo(layout.mainWindow);
   }
+  main->UI_SetMaximized(layout.mainMaximized);
   const auto findFrame = [&](const UTF8String& inType) { return FindFrame(inType); };
   main->GetDockArea().Arrange(layout.areas, layout.width, layout.height, findFrame);
   mMainPlaced = RectOf(*main);
@@ -296,6 +301,7 @@ void Docking::ShowFloating(Layout& ioLayout) {
     if (found != old.end()) {
       window = std::exchange(found->window, nullptr);
       if (floating.rect != mLayout.floating[static_cast<std::size_t>(found - old.begin())].rect) {
+        window->UI_SetMaximized(false);
         window->MoveTo(floating.rect);
       }
     } else {
@@ -303,6 +309,7 @@ void Docking::ShowFloating(Layout& ioLayout) {
     }
     window->GetDockArea().Arrange(RootsOf(floating.root), floating.rect.width, floating.rect.height,
                                   [&](const UTF8String& inType) { return FindFrame(inType); });
+    window->UI_SetMaximized(floating.maximized);
     window->UI_Show(true);
     mFloating[i] = FloatingWindow{window, RectOf(*window)};
   }

@@ -38,8 +38,9 @@ struct Item {
 };
 
 struct Floating {
-  Rect rect;  // on the screen
+  Rect rect;  // on the screen, when it is not maximised
   Item root;
+  bool maximized = false;
 };
 
 // Where all tabs stand: in the areas around the centre of the main window, and in windows of their
@@ -49,7 +50,8 @@ struct Layout {
   std::vector<Floating> floating;
   int width = 0;  // of the space that the sizes were taken from
   int height = 0;
-  Rect mainWindow;  // empty where nothing is known
+  Rect mainWindow;  // when it is not maximised; empty where nothing is known
+  bool mainMaximized = false;
 };
 
 // Calls for each group until the function answers true, which is the result.

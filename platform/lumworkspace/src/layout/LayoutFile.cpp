@@ -29,6 +29,8 @@ constexpr std::int32_t kVersion = 1;
 // Beyond this no screen reaches, and sums of sizes stay whole numbers.
 constexpr std::int32_t kLargestSize = 1 << 20;
 constexpr const char* kAreaKeys[] = {"Left", "Right", "Top", "Bottom"};
+constexpr const char* kMaximizedMainKey = "MainWindowMaximized";
+constexpr const char* kMaximizedKey = "Maximized";
 constexpr const char* kKinds[] = {"group", "row", "column"};
 
 PropList ItemToList(const Item& inItem) {
@@ -79,12 +81,14 @@ class Reader {
     layout.width = ReadSize(inList, "Width");
     layout.height = ReadSize(inList, "Height");
     if (inList.Has("MainWindow")) layout.mainWindow = ReadRect(inList, "MainWindow");
+    layout.mainMaximized = inList.Get(kMaximizedMainKey, false);
     for (std::size_t i = 0; i < layout.areas.size(); ++i) {
       if (inList.Has(kAreaKeys[i])) layout.areas[i] = ReadItem(Sub(inList, kAreaKeys[i]));
     }
     if (inList.Has("Floating")) {
       for (const PropList& each : Lists(inList, "Floating")) {
-        layout.floating.push_back(Floating{ReadRect(each, "Rect"), ReadItem(Sub(each, "Root"))});
+        layout.floating.push_back(Floating{ReadRect(each, "Rect"), ReadItem(Sub(each, "Root")),
+                                           each.Get(kMaximizedKey, false)});
       }
     }
     Normalize(layout);
@@ -172,6 +176,10 @@ class Reader {
 
 }  // namespace
 
+bool IsOfLaterVersion(const PropList& inList) {
+  return inList.Get<std::int32_t>("Version", 0) > kVersion;
+}
+
 PropList ToPropList(const Layout& inLayout) {
   PropList list;
   list.Set("Version", kVersion);
@@ -181,6 +189,7 @@ PropList ToPropList(const Layout& inLayout) {
   if (!inLayout.mainWindow.IsEmpty()) {
     WriteRect32(list, "MainWindow", ToFloat(inLayout.mainWindow));
   }
+  if (inLayout.mainMaximized) list.Set(kMaximizedMainKey, true);
   for (std::size_t i = 0; i < inLayout.areas.size(); ++i) {
     if (inLayout.areas[i].IsEmpty()) continue;
     list.CreateSubList(kAreaKeys[i]) = ItemToList(inLayout.areas[i]);
@@ -189,6 +198,7 @@ PropList ToPropList(const Layout& inLayout) {
   for (const Floating& each : inLayout.floating) {
     PropList window;
     WriteRect32(window, "Rect", ToFloat(each.rect));
+    if (each.maximized) window.Set(kMaximizedKey, true);
     window.CreateSubList("Root") = ItemToList(each.root);
     floating.push_back(std::move(window));
   }

@@ -12,6 +12,9 @@ class PropList;
 
 namespace lumworkspace::layout {
 
+// Not damaged, and not to be read here.
+bool IsOfLaterVersion(const lumcore::proplist::PropList& inList);
+
 // A layout as a property list.
 lumcore::proplist::PropList ToPropList(const Layout& inLayout);
 

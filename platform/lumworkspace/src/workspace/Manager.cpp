@@ -4,12 +4,16 @@
 #include "lumworkspace/workspace/Manager.h"
 
 #include <algorithm>
+#include <exception>
 #include <string>
 #include <utility>
 
+#include "layout/LayoutFile.h"
+#include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/debug/Contract.h"
+#include "lumcore/filesupport/FileError.h"
 #include "lumcore/proplist/Utils.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumworkspace/workspace/BuiltInWorkspaceProviderBase.h"
@@ -53,8 +57,13 @@ Manager::Manager(Workspace& inWorkspace, const lumcore::filesupport::Dir& inFold
 
 Manager::~Manager() = default;
 
-File Manager::GetFile(const Name& inName) const {
+File Manager::FileOf(const Name& inName) const {
   return File(mFolder, WorkspaceFileName(inName));
+}
+
+UTF16String Manager::PathOf(const Name& inName) const {
+  const File file = FileOf(inName);
+  return file.Exists() ? file.FullPath() : inName;
 }
 
 bool Manager::IsBuiltIn(const Name& inName) const {
@@ -126,16 +135,51 @@ PropList Manager::LoadBuiltIn(const Name& inName) const {
 }
 
 PropList Manager::Load(const Name& inName) const {
-  const File file = GetFile(inName);
+  const File file = FileOf(inName);
   if (file.IsAbsent() && IsBuiltIn(inName)) return LoadBuiltIn(inName);
   PropList layout;
   lumcore::proplist::utils::LoadPropList(file, layout, false);
   return layout;
 }
 
+bool Manager::LoadSound(const Name& inName, PropList& outLayout) {
+  try {
+    outLayout = Load(inName);
+    if (!layout::IsOfLaterVersion(outLayout)) layout::FromPropList(outLayout, PathOf(inName));
+    return true;
+  } catch (const lumcore::filesupport::FileError&) {
+    throw;  // it may be whole
+  } catch (const lumcore::config::Error& error) {
+    if (!FileOf(inName).Exists()) throw;
+    SetAside(inName, error.GetText());
+  }
+  if (!IsBuiltIn(inName)) return false;
+  outLayout = LoadBuiltIn(inName);
+  return true;
+}
+
+// The file keeps its bytes under a name that is none of a workspace.
+void Manager::SetAside(const Name& inName, const UTF16String& inCause) {
+  const File file = FileOf(inName);
+  File kept(file.GetPath() + ".defective");
+  for (int number = 2; !kept.IsAbsent(); ++number)
+    kept = File(file.GetPath() + ".defective-" + std::to_string(number));
+  const lumcore::UTF8String bytes = file.ReadAll();
+  const std::string copy(bytes.begin(), bytes.end());
+  kept.ReplaceContents(copy);
+  file.Remove();
+  lumcore::config::ErrorManager::Get(false)->ReportError(
+      std::make_exception_ptr(lumcore::config::Error(
+          lumcore::utility::ReplaceInString(lumcore::config::Localizer::Get()->GetLocalizedString(
+                                                "$$$/lumworkspace/Error/SetAside=The workspace "
+                                                "\"@0\" could not be read and was kept as "
+                                                "\"@1\". @2"),
+                                            {inName, kept.GetName(), inCause}))));
+}
+
 void Manager::Write(const Name& inName, const PropList& inLayout) {
   mFolder.Create();
-  lumcore::proplist::utils::SavePropList(GetFile(inName), inLayout);
+  lumcore::proplist::utils::SavePropList(FileOf(inName), inLayout);
 }
 
 // Of the current workspace, what the user has done to it since.
@@ -146,8 +190,7 @@ void Manager::KeepCurrent() {
 }
 
 void Manager::Apply(const PropList& inLayout, const Name& inName) {
-  const File file = GetFile(inName);
-  mWorkspace.SetLayout(inLayout, file.Exists() ? file.GetFullPath() : inName);
+  mWorkspace.SetLayout(inLayout, PathOf(inName));
   mCurrent = inName;
   mApplied = mWorkspace.GetLayout();
 }
@@ -157,13 +200,32 @@ void Manager::SetCurrentWorkspace(const Name& inName) {
   KeepCurrent();
   const auto unsaved = mUnsaved.find(inName);
   if (unsaved == mUnsaved.end()) {
-    Apply(Load(inName), inName);
+    PropList layout;
+    if (LoadSound(inName, layout)) {
+      Apply(layout, inName);
+    } else if (mCurrent.empty()) {
+      ApplyFirstBuiltIn();
+    }
   } else {
     Apply(unsaved->second, inName);
     // Its changes are still to be written.
     mApplied = PropList();
   }
   NotifyWorkspacesChanged();
+}
+
+// At the start of the application, where nothing is on the screen yet. What the user made of it
+// comes, where that can be read.
+void Manager::ApplyFirstBuiltIn() {
+  for (const Name& name : GetWorkspaceNames()) {
+    PropList layout;
+    try {
+      if (!IsBuiltIn(name) || !LoadSound(name, layout)) continue;
+    } catch (const lumcore::filesupport::FileError&) {
+      continue;  // whoever asks for that workspace hears of it
+    }
+    return Apply(layout, name);
+  }
 }
 
 void Manager::SaveWorkspace(const Name& inName) {
@@ -182,13 +244,14 @@ void Manager::SaveWorkspace(const Name& inName) {
 
 void Manager::RevertWorkspace(const Name& inName) {
   if (!HasNamedWorkspace(inName)) return;
-  if (inName == mCurrent) Apply(Load(inName), inName);
+  PropList layout;
+  if (inName == mCurrent && LoadSound(inName, layout)) Apply(layout, inName);
   mUnsaved.erase(inName);
   NotifyWorkspacesChanged();
 }
 
 bool Manager::CanRevertToBuiltIn(const Name& inName) const {
-  return IsBuiltIn(inName) && !IsHidden(inName) && GetFile(inName).Exists();
+  return IsBuiltIn(inName) && !IsHidden(inName) && FileOf(inName).Exists();
 }
 
 bool Manager::RevertToBuiltIn(const Name& inName) {
@@ -198,7 +261,7 @@ bool Manager::RevertToBuiltIn(const Name& inName) {
     mWorkspace.SetLayout(LoadBuiltIn(inName), inName);
     mApplied = mWorkspace.GetLayout();
   }
-  GetFile(inName).Remove();
+  FileOf(inName).Remove();
   mUnsaved.erase(inName);
   NotifyWorkspacesChanged();
   return true;
@@ -210,7 +273,7 @@ void Manager::DeleteWorkspace(const Name& inName) {
     mHidden.push_back(inName);
     WriteIndex();
   }
-  GetFile(inName).Remove();
+  FileOf(inName).Remove();
   mUnsaved.erase(inName);
   if (inName == mCurrent) mCurrent.clear();
   NotifyWorkspacesChanged();
@@ -221,11 +284,11 @@ bool Manager::RenameWorkspace(const Name& inName, const Name& inNewName) {
   if (inName == inNewName) return true;
   Names names = GetWorkspaceNames();
   // The bytes as they are, so that also a file that cannot be read keeps what it holds.
-  const File old = GetFile(inName);
+  const File old = FileOf(inName);
   if (old.Exists()) {
     const lumcore::UTF8String bytes = old.ReadAll();
     const std::string copy(bytes.begin(), bytes.end());
-    GetFile(inNewName).ReplaceContents(copy);
+    FileOf(inNewName).ReplaceContents(copy);
   } else {
     Write(inNewName, LoadBuiltIn(inName));
   }

@@ -31,9 +31,9 @@ class LUMCORE_API Dir {
 
   bool Exists() const;
   const std::string& GetPath() const { return mPath; }
-  UTF16String GetFullPath() const;
+  UTF16String FullPath() const;
   UTF16String GetName() const;
-  Dir GetParent() const;
+  Dir Parent() const;
 
   void Create() const;  // with its parents; throws FileError
   // Deletes the folder with all that is in it; throws FileError.

@@ -30,10 +30,10 @@ class LUMCORE_API File {
   const std::string& GetPath() const { return mPath; }
   // Absolute, with "." and ".." resolved by text; links stay. A File of this text names the same
   // file again: a byte that is no UTF-8 is a lone surrogate in it, U+DC80 to U+DCFF.
-  UTF16String GetFullPath() const;
+  UTF16String FullPath() const;
   UTF16String GetName() const;       // the last component
   UTF16String GetExtension() const;  // behind the last dot, without it; empty for ".profile"
-  Dir GetParent() const;
+  Dir Parent() const;
 
   // The whole content. Throws FileError.
   UTF8String ReadAll() const;

@@ -28,7 +28,8 @@ class LUMUI_API LUMAboutDlog : public ui::UI_Dialog {
   LUMAboutDlog(const lumcore::UTF16String& inName, const lumcore::UTF16String& inDetails);
   ~LUMAboutDlog() override;
 
-  // What it shows is on the screen when this returns: the start of an application has no loop yet.
+  // As a splash screen, in front of all else. What it shows is on the screen when this returns, see
+  // UI_PaintNow: the start of an application has no loop yet.
   void Show(bool inShow);
 
   void UI_Draw(drawbot::Drawbot* inDrawbot) const override;

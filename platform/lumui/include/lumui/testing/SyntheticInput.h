@@ -96,7 +96,10 @@ LUMUI_API int DropOnWindow(ui::OS_Window& inWindow, const Position& inPosition,
 LUMUI_API void RequestClose(ui::OS_Window& inWindow);
 // Brings a window to the front; null takes the application from it.
 LUMUI_API void ActivateWindow(ui::OS_Window* inWindow);
-// As a session manager does: asks, and if nobody refuses, ends. True if the session ended.
+// As a session manager does: asks whether the session may end. It may go on all the same, if some
+// other program refuses.
+LUMUI_API bool AskSessionEnd();
+// Asks, and if nobody refuses, ends. True if the session ended.
 LUMUI_API bool EndSession();
 
 // Handles everything that waits, and what that brings, until nothing is left.

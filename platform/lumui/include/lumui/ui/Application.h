@@ -19,7 +19,8 @@ class KeyboardEvent;
 // A press of the left or right button in a window of this process that is none of ours, and no
 // popup, tool tip or picture of a drag.
 struct ForeignPress {
-  unsigned message = 0;  // kMessageLeftDown or kMessageRightDown
+  HWND window = nullptr;  // the same for each press in a window; UI_GetWindow finds none for it
+  unsigned message = 0;   // kMessageLeftDown or kMessageRightDown
   lumcore::geom::PointT<int> screenPosition;
   ModifierKeys modifiers;
 };

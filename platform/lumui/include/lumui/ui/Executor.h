@@ -23,6 +23,9 @@ class LUMUI_API Executor {
   // From any thread; never runs the function before it returns. Functions that have not run when
   // the application ends are destroyed.
   void Post(std::function<void()> inFunction);
+  // On the thread of the user interface: while they are held, no function runs; the turns that were
+  // due come afterwards.
+  void SetHeld(bool inHeld);
 
  private:
   class Impl;

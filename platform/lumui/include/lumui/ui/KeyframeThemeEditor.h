@@ -13,7 +13,8 @@
 namespace lumui::ui {
 
 // A theme that is a table of keyframes: each colour has values at some positions of brightness, and
-// is blended between them. Documents fill it one after the other, each adding to those before.
+// is blended between them. Documents fill it one after the other, each adding its colours to those
+// before.
 class LUMUI_API KeyframeThemeEditor final : public Theme {
  public:
   // One colour at one brightness. Hue is a fraction of the circle; all parts go from 0 to 1. A grey
@@ -36,6 +37,8 @@ class LUMUI_API KeyframeThemeEditor final : public Theme {
   // A frame at a position that the colour already has replaces that one. A negative number is a
   // contract failure.
   void SetKeyFrame(int inColor, const KeyFrame& inFrame);
+  // As if the colour had never had a frame.
+  void RemoveKeyFrames(int inColor);
   // Both from 0; a text or scheme that is not known is a contract failure.
   void SetTextSize(int inText, int inScheme, float inSize);
   int GetTextCount() const { return mTexts; }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 
 #include "lumcore/xml/Parser.h"
 #include "lumui/Export.h"
@@ -14,6 +15,9 @@ namespace lumui::ui {
 // Reads a theme document into an editor: KeyFrame elements, in a Theme or not, and FontSize
 // elements. All other elements are wrappers and mean nothing. A number that is none, or a name that
 // is missing, is a lumcore::xml::ParseError with its place; what came before it stays.
+//
+// A document speaks alone for each colour that it names: frames that the colour had from an earlier
+// one, at other positions as well, give way. So one of a few frames goes over one of many.
 class LUMUI_API KeyframeThemeParser final : public lumcore::xml::AbstractParseHandler {
  public:
   // The editor is borrowed and outlives the parse.
@@ -37,6 +41,7 @@ class LUMUI_API KeyframeThemeParser final : public lumcore::xml::AbstractParseHa
 
   KeyframeThemeEditor& mEditor;
   float mThemePosition = 0.0f;
+  std::set<int> mNamed;  // the colours, so far
 };
 
 }  // namespace lumui::ui

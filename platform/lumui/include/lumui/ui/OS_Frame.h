@@ -17,8 +17,10 @@ class LUMUI_API OS_Frame {
   struct Class {
     const wchar_t* name = nullptr;
     HINSTANCE resources = nullptr;  // the module that the icon and the menu come from
-    int iconID = 0;                 // 0 for none
-    int menuID = 0;                 // 0 for none; else the window gets a bar without items
+    // 0 for none; else the image resource "ICON_<number>" of the module, PNG or SVG. A module
+    // without it gives the window the system's icon.
+    int iconID = 0;
+    int menuID = 0;  // 0 for none; else the window gets a bar without items
   };
 
   // What a frame is, for the window that takes it.

@@ -51,6 +51,17 @@ class LUMUI_API OS_Window : public UI_Node {
   // Shows the window if need be and brings it to the front with the keyboard.
   void UI_Activate();
   bool UI_IsActive() const;
+  // Of a window that has just been shown: what it shows is on the screen when this returns. Nothing
+  // else of what waits is handled meanwhile, neither input nor timers nor posted functions. Gives
+  // up where the window system does not show the window within half a second.
+  void UI_PaintNow();
+  // Over the whole screen but for the system's own bars. A window that is hidden comes so when it
+  // is shown.
+  void UI_SetMaximized(bool inMaximized);
+  bool UI_IsMaximized() const;
+  // Where the window is when it is not maximised, as UI_GetLocalRectF. Null rectangle without a
+  // native window.
+  lumcore::geom::RectT<float> UI_GetRestoredRect() const;
   // The node that has the keyboard when this window is in front; null if none has.
   UI_Node* UI_GetFocusNode() const;
 

@@ -5,6 +5,7 @@
 
 #include <boost/function.hpp>
 #include <boost/intrusive_ptr.hpp>
+#include <cstdint>
 #include <map>
 
 #include "lumcore/Strings.h"
@@ -51,10 +52,14 @@ class LUMUI_API UI_NodeBuilder {
                                       NodeMap& outNodes,
                                       const CustomNodeFunction& inCustomNode = {}) const;
 
-  // An archive that builds nodes like these. Texts are written as they are shown.
+  // An archive that builds nodes like these. Of nodes that were built from one, a text that is
+  // still what the archive said comes out as it stood there, with its key, and so do properties,
+  // sections and classes that no adapter knows.
   static lumcore::UTF8String Write(const UI_Node& inRoot);
 
  private:
+  static constexpr std::uint32_t kArchiveVersion = 1;
+
   boost::intrusive_ptr<UI_Node> BuildNode(const lumcore::proplist::PropList& inList,
                                           const lumcore::UTF16String& inPlace,
                                           const drawbot::SupplierInterface* inSupplier,

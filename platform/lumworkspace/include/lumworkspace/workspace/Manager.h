@@ -24,10 +24,12 @@ class Workspace;
 // What the user changes belongs to the current workspace. When another is applied, it stays in
 // memory, comes back with the workspace, and is written when the application ends.
 //
-// A file that is damaged, or none of ours, is an error that names the path and the cause, when the
-// workspace is applied: the panels and the current workspace stay as they were, and the file too,
-// until the user saves a workspace of its name or deletes it. A host that would rather go on with
-// the built-in one puts the file (GetFile) aside and applies the workspace again.
+// A file that is damaged, or none of ours, is set aside when its workspace is applied: it keeps its
+// bytes under another name ("....workspace.defective"), and the error manager's reporter gets an
+// error that names both and the cause. The built-in workspace of the same name takes its place.
+// Where there is none, all stays as it was, or at the start of an application, the first built-in
+// one is applied. A file of a later program and one that the system does not let us read are errors
+// that are thrown; they stay where they are, and so do the panels.
 class LUMWORKSPACE_API Manager : public ManagerBase {
  public:
   // The workspace and the provider, which may be null, are borrowed. A default size of 0 leaves the
@@ -57,18 +59,22 @@ class LUMWORKSPACE_API Manager : public ManagerBase {
                        const lumcore::UTF16String& inNewName) override;
   void SetWorkspaceOrder(const std::vector<lumcore::UTF16String>& inNames) override;
 
-  // Where the workspace is kept once it was saved; it need not be there.
-  lumcore::filesupport::File GetFile(const lumcore::UTF16String& inName) const;
-
  private:
   using Name = lumcore::UTF16String;
   using PropList = lumcore::proplist::PropList;
 
+  lumcore::filesupport::File FileOf(const Name& inName) const;
   bool IsBuiltIn(const Name& inName) const;
   bool IsHidden(const Name& inName) const;
   // What is stored, else the built-in one; throws with the path and the cause.
   PropList Load(const Name& inName) const;
   PropList LoadBuiltIn(const Name& inName) const;
+  // Load, of what a layout can be made of. False if the file was set aside and nothing is built in.
+  bool LoadSound(const Name& inName, PropList& outLayout);
+  void SetAside(const Name& inName, const lumcore::UTF16String& inCause);
+  void ApplyFirstBuiltIn();
+  lumcore::UTF16String PathOf(
+      const Name& inName) const;  // for errors; the name where there is no file
   void Apply(const PropList& inLayout, const Name& inName);
   void KeepCurrent();
   void Write(const Name& inName, const PropList& inLayout);
