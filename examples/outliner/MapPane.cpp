@@ -178,8 +178,13 @@ float MapPane::FitScale() const {
 
 void MapPane::UI_SizeChanged(const Rect& inRect) {
   UI_SubView::UI_SizeChanged(inRect);
+  const Rect before = mTrackView->DataArea();
+  const bool wasEmpty = mScrollView->UI_GetLocalRectF().IsEmpty();
   mScrollView->UI_SetLocalRectF(inRect);
   mTrackView->SetCoordScaleRange(std::min(kLeastScale, FitScale()), kMostScale);
+  // What was half way down stays there: panels get their size in several steps.
+  const float grown = mView->DataSize().y - before.height;
+  if (!wasEmpty) mView->DataPos(Point(before.x, before.y - grown / 2), false);
   ShowRoot();
   PlaceOverview();
 }
