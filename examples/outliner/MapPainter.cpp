@@ -359,12 +359,14 @@ void MapPainter::DrawBoxes(const Frame& inFrame) const {
     inFrame.drawbot.FillPath(path, mark == MapMark::kSelected       ? palette::Selection()
                                    : mark == MapMark::kIdleSelected ? palette::IdleSelection()
                                                                     : fills[LevelOf(node.depth)]);
-    if (mark != MapMark::kDropTarget) continue;
+    // Without the keyboard a selection is pale: it is the ring that is seen.
+    if (mark != MapMark::kDropTarget && mark != MapMark::kIdleSelected) continue;
     Path ring;
     ring.AddRoundedRect(
         {box.x - kRing / 2, box.y - kRing / 2, box.width + kRing, box.height + kRing},
         radius + kRing / 2);
-    inFrame.drawbot.StrokePath(ring, Pen(palette::DropTarget(), kRing));
+    inFrame.drawbot.StrokePath(
+        ring, Pen(mark == MapMark::kDropTarget ? palette::DropTarget() : palette::Accent(), kRing));
   }
 }
 
