@@ -148,6 +148,10 @@ void UI_Node::UI_SetDisabled(bool inDisabled) {
   NoteChange();
 }
 
+void UI_Node::UI_SetOpaque(bool inOpaque) {
+  mPeer->SetOpaque(inOpaque);
+}
+
 void UI_Node::UI_SetToolTip(const lumcore::UTF16String& inText) {
   mToolTip = inText;
   mPeer->ApplyToolTip();

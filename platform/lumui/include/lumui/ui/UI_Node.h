@@ -83,6 +83,8 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_D
   // A disabled node and what it holds get no pointer and key events; its parent gets them.
   void UI_SetDisabled(bool inDisabled);
   bool UI_IsDisabled() const { return mDisabled; }
+  // Whether the node fills all of its rectangle at each paint, so that nothing behind it is drawn.
+  void UI_SetOpaque(bool inOpaque);
   void UI_SetToolTip(const lumcore::UTF16String& inText);
   const lumcore::UTF16String& UI_GetToolTip() const { return mToolTip; }
 
