@@ -51,7 +51,10 @@ EntryP NewLine(HierarchyEntryBase* inParent) {
 // A root with groups of equal size, or with nothing but lines.
 class Tree : public TreeListControlBase {
  public:
-  explicit Tree(int inGroups) : mGeometry(this, 0, false), mTreeGeometry(this, 10, false, 19) {
+  explicit Tree(int inGroups)
+      : TreeListControlBase(nullptr, false, 10, false, false),
+        mGeometry(this, 0, false),
+        mTreeGeometry(this, 10, false, 19) {
     const std::size_t before = mallinfo2().uordblks;
     const EntryP root = NewLine(nullptr);
     SetRootEntry(root);
@@ -62,8 +65,20 @@ class Tree : public TreeListControlBase {
       if (isGroup) parent = line;
     }
     mBytesPerRow = static_cast<double>(mallinfo2().uordblks - before) / kRows;
-    mColumns.emplace_back(0U, 300.0f, 0.0f, lumcore::UTF16String(), nullptr);
+    InsertColumn(0U, 300.0f, 0.0f, nullptr, nullptr);
   }
+
+  void ResizeHierarchy() override {}
+  int NumSelectedEntries() override { return 0; }
+  vek::selection::Manager* GetSelectionManager() const override { return nullptr; }
+  vek::selection::Manager* GetSelectionManager() override { return nullptr; }
+  void DoBuildHierarchy() override {}
+  std::auto_ptr<TreeRowGeometryFactory> CreateRowGeometryFactory() override {
+    return std::auto_ptr<TreeRowGeometryFactory>();
+  }
+  void DoDeselectAll() override {}
+  void DoSelectEntry(HierarchyEntryBase*, bool) override {}
+  void DoToggleEntrySelectionState(EntryList&) override {}
 
   TreeListGeometry mGeometry;
   TreeGeometry mTreeGeometry;
@@ -80,7 +95,8 @@ bench::Body Iterate(Tree& ioTree) {
   return [&](benchmark::State& ioState) {
     float top = 0;
     for (auto _ : ioState) {
-      for (auto row = ioTree.mGeometry.begin(); row != ioTree.mGeometry.end(); ++row)
+      const auto end = ioTree.mGeometry.end();
+      for (auto row = ioTree.mGeometry.begin(); row != end; ++row)
         top = ioTree.mGeometry.GetRowRect(row).y;
     }
     CheckEnd(ioState, top);

@@ -1,5 +1,6 @@
 vek_test(vek_hierarchyview_tests
   SOURCES
+    hierarchyview/ColumnsTest.cpp
     hierarchyview/EntryTest.cpp
     hierarchyview/GeometryTest.cpp
     hierarchyview/RowGeometryTest.cpp

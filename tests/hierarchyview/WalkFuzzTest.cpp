@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "support/TestTree.h"
+#include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/PlainWalk.h"
+#include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/TreeGeometry.h"
 #include "vek/hierarchyview/TreeListGeometry.h"
 
@@ -18,6 +20,7 @@ namespace {
 using namespace test_support;
 using lumcore::geom::PointT;
 using vek::hierarchyview::PlainWalk;
+using vek::hierarchyview::RowIndex;
 using vek::hierarchyview::TreeGeometry;
 using vek::hierarchyview::TreeListGeometry;
 using Traverse = HierarchyGeometry::TraverseEntry;
@@ -44,6 +47,9 @@ class Walker : public HostGeometry {
     if (inPlainly) return PlainWalk::NextEntry(geometry, ioRow, inSkip);
     (geometry.*&Walker::NextEntry)(&ioRow, inSkip);
   }
+  static Traverse At(HierarchyGeometry& ioGeometry, const HierarchyGeometry::iterator& inRow) {
+    return Traverse(&ioGeometry, *inRow, false, (ioGeometry.*&Walker::GetTraverseCookie)(inRow));
+  }
   static void Previous(Traverse& ioRow, bool inPlainly) {
     HierarchyGeometry& geometry = *ioRow.mGeometry;
     if (inPlainly) return PlainWalk::PreviousEntry(geometry, ioRow);
@@ -59,11 +65,12 @@ class SometimesOpen : public NamedEntry {
   }
 };
 
-// A tree that is changed at random, also in ways that only a careless host finds. Ranks rise along
-// both kinds of links, so that neither goes in a circle.
+// A tree that is changed at random, also in ways that only a careless host finds, unless it is to
+// stay regular. Ranks rise along both kinds of links, so that neither goes in a circle.
 class RandomTree {
  public:
-  explicit RandomTree(unsigned int inSeed) : mRandom(inSeed), mControl(nullptr) {
+  RandomTree(unsigned int inSeed, bool inStaysRegular)
+      : mRandom(inSeed), mStaysRegular(inStaysRegular), mControl(nullptr) {
     mControl.SetRootEntry(New(0, nullptr));
   }
 
@@ -75,6 +82,7 @@ class RandomTree {
     NamedEntry* const parent = mPool[first].entry.get();
     const Member child = mPool[Below(mPool.size())];
     const bool isBelow = child.rank > mPool[first].rank;
+    if (mStaysRegular) return ChangeRegularly(*parent, mPool[first].rank, child);
     switch (Below(16)) {
       case 0:
         if (isBelow) parent->AddChild(child.entry, true);
@@ -121,22 +129,62 @@ class RandomTree {
     double rank;
   };
 
+  void ChangeRegularly(NamedEntry& ioParent, double inRank, const Member& inChild) {
+    NamedEntry& child = *inChild.entry;
+    auto* const owner = static_cast<NamedEntry*>(child.GetParent());
+    switch (Below(12)) {
+      case 0:
+        if (inChild.rank <= inRank || !owner) break;
+        owner->RemoveChild(&child);
+        if (Below(2) == 0) child.SetParent(&ioParent);
+        ioParent.AddChild(&child, Below(2) == 0);
+        child.SetParent(&ioParent);
+        break;
+      case 1:  // with all that is below it; it comes back as somebody's child
+        if (owner && Below(3) == 0) owner->RemoveChild(&child);
+        break;
+      case 2:
+        if (Below(3) == 0) Sort(ioParent);
+        break;
+      case 3:
+        mControl.SetRootEntry(Below(9) == 0 && !ioParent.GetParent() ? &ioParent
+                                                                     : mPool[0].entry.get());
+        break;
+      case 4:
+        // The last one, which is found by its list.
+        if (!ioParent.GetChildren().empty() && Below(2) == 0)
+          ioParent.RemoveChild(ioParent.GetChildren().back().get());
+        break;
+      case 5:
+      case 6:
+        ioParent.SetNodeState(Below(3) == 0 ? kNodeCollapsed : kNodeExpanded);
+        break;
+      case 7:
+        if (Below(30) == 0) ioParent.RemoveAllChildren();
+        break;
+      default:
+        if (mPool.size() < 150) ioParent.AddChild(New(inRank + 1, &ioParent), Below(2) == 0);
+    }
+  }
+
   NamedEntry* New(double inRank, NamedEntry* inParent) {
     const std::string name = std::string(1 + Below(3), 'a') + std::to_string(mNext++);
-    NamedEntry* const entry =
-        Below(9) == 0 ? new SometimesOpen(name, inParent) : new NamedEntry(name, inParent);
+    NamedEntry* const entry = !mStaysRegular && Below(9) == 0 ? new SometimesOpen(name, inParent)
+                                                              : new NamedEntry(name, inParent);
     mPool.push_back({entry, inRank});
     return entry;
   }
 
   void Sort(NamedEntry& ioEntry) {
-    ioEntry.SortChildren(
-        Below(2), Below(2) == 0,
-        boost::shared_ptr<vek::hierarchyview::CompareFunction>(
-            new vek::hierarchyview::CompareFunction(
-                [](unsigned int, const HierarchyEntryBase* inA, const HierarchyEntryBase* inB) {
-                  return NameOf(inA) < NameOf(inB);
-                })));
+    using vek::hierarchyview::CompareFunction;
+    boost::shared_ptr<CompareFunction> compare(
+        new CompareFunction(vek::hierarchyview::CompareCellTexts()));
+    if (Below(2) == 0) {
+      *compare = [](unsigned int, const HierarchyEntryBase* inA, const HierarchyEntryBase* inB) {
+        return NameOf(inA) < NameOf(inB);
+      };
+    }
+    ioEntry.SortChildren(Below(2), Below(2) == 0, compare);
   }
 
   // A second list of the same children, of which some then belong to it.
@@ -183,6 +231,7 @@ class RandomTree {
   }
 
   std::mt19937 mRandom;
+  const bool mStaysRegular;
   TestControl mControl;
   std::vector<Member> mPool;
   int mNext = 0;
@@ -217,20 +266,67 @@ std::string WalkText(HierarchyGeometry& ioGeometry, bool inDeep, bool inPlainly)
   return text;
 }
 
-TEST(Walks, AnswerAsThePlainOneInAnyTree) {
+// What the index says of each row that the plain walk finds, where it says anything.
+bool ExpectIndexed(HierarchyGeometry& ioGeometry) {
+  const std::optional<RowIndex> index = RowIndex::Of(ioGeometry);
+  if (!index) return false;
+  std::string walked, indexed;
+  RowIndex::Row number = 0;
+  Traverse row = PlainWalk::Begin(ioGeometry, false);
+  for (; row.mEntry && number < index->GetCount(); PlainWalk::NextEntry(ioGeometry, row, false)) {
+    const Traverse found = Walker::At(ioGeometry, index->GetIterator(number));
+    walked += PlaceOf(row) + " " + std::to_string(number) + "\n";
+    indexed += PlaceOf(found) + " " + std::to_string(*index->Find(row.mEntry)) + "\n";
+    ++number;
+    for (const EntryP& child : row.mEntry->GetChildren()) {
+      EXPECT_TRUE(row.mEntry->GetNodeState() == kNodeExpanded || !index->Find(child.get()));
+    }
+  }
+  EXPECT_EQ(walked, indexed);
+  EXPECT_EQ(row.mEntry, nullptr);
+  EXPECT_EQ(number, index->GetCount());
+  const EntryP stranger(new NamedEntry("s", *ioGeometry.begin()));
+  EXPECT_FALSE(index->Find(stranger.get()));
+  return true;
+}
+
+TEST(RowIndex, KnowsEveryRowOfARegularTree) {
+  int asked = 0, answered = 0;
   for (unsigned int seed = 1; seed <= 60; ++seed) {
-    RandomTree tree(seed);
-    HostGeometry host(&tree.GetControl());
+    RandomTree tree(seed, true);
     TreeGeometry shown(&tree.GetControl(), 8, false, 19), hiding(&tree.GetControl(), 8, true, 7);
     TreeListGeometry list(&tree.GetControl(), 8, seed % 2 == 0);
+    for (int change = 0; change < 600; ++change) {
+      tree.ChangeSomething();
+      if (tree.Below(3) != 0) continue;
+      HierarchyGeometry* const kGeometries[] = {&shown, &hiding, &list};
+      HierarchyGeometry& geometry = *kGeometries[tree.Below(3)];
+      ++asked;
+      answered += ExpectIndexed(geometry) ? 1 : 0;
+      ASSERT_EQ(TextOf(geometry.Area()), TextOf(PlainWalk::Area(geometry)));
+      ASSERT_FALSE(HasFailure()) << "seed " << seed << ", change " << change;
+    }
+  }
+  EXPECT_EQ(answered, asked);
+}
+
+TEST(Walks, AnswerAsThePlainOneInAnyTree) {
+  for (unsigned int seed = 1; seed <= 60; ++seed) {
+    RandomTree tree(seed, false);
     for (int change = 0; change < 120; ++change) {
       tree.ChangeSomething();
       if (change % 3 != 0) continue;
+      // New ones, which have not given up the index for a while.
+      HostGeometry host(&tree.GetControl());
+      TreeGeometry shown(&tree.GetControl(), 8, false, 19), hiding(&tree.GetControl(), 8, true, 7);
+      TreeListGeometry list(&tree.GetControl(), 8, seed % 2 == 0);
       HierarchyGeometry* const kGeometries[] = {&host, &shown, &hiding, &list};
       HierarchyGeometry& geometry = *kGeometries[tree.Below(4)];
       const bool deep = tree.Below(4) == 0;
       ASSERT_EQ(WalkText(geometry, deep, false), WalkText(geometry, deep, true))
           << "seed " << seed << ", change " << change;
+      ExpectIndexed(geometry);
+      ASSERT_FALSE(HasFailure()) << "seed " << seed << ", change " << change;
     }
   }
 }

@@ -121,13 +121,28 @@ class FixedFont : public lumui::drawbot::FontInterface {
 // Shows a tree in two columns, 60 and 40.5 wide.
 class TestControl : public vek::hierarchyview::TreeListControlBase {
  public:
-  explicit TestControl(const EntryP& inRoot) {
+  explicit TestControl(const EntryP& inRoot)
+      : TreeListControlBase(nullptr, false, 10, false, false) {
     SetRootEntry(inRoot);
     SetFont(lumui::drawbot::FontP(new FixedFont));
     for (const float width : {60.0f, 40.5f})
-      mColumns.emplace_back(0U, width, 0.0f, lumcore::UTF16String(), nullptr);
+      InsertColumn(0U, width, 0.0f, nullptr, nullptr);
   }
   using TreeListControlBase::SetRootEntry;
+  void ResizeHierarchy() override {}
+
+  int NumSelectedEntries() override { return 0; }
+  vek::selection::Manager* GetSelectionManager() const override { return nullptr; }
+  vek::selection::Manager* GetSelectionManager() override { return nullptr; }
+
+ protected:
+  void DoBuildHierarchy() override {}
+  std::auto_ptr<vek::hierarchyview::TreeRowGeometryFactory> CreateRowGeometryFactory() override {
+    return std::auto_ptr<vek::hierarchyview::TreeRowGeometryFactory>();
+  }
+  void DoDeselectAll() override {}
+  void DoSelectEntry(HierarchyEntryBase*, bool) override {}
+  void DoToggleEntrySelectionState(EntryList&) override {}
 };
 
 }  // namespace test_support

@@ -8,6 +8,7 @@
 #include <boost/shared_ptr.hpp>
 #include <cstdint>
 #include <list>
+#include <memory>
 
 #include "lumcore/Strings.h"
 #include "lumcore/utility/RefCounted.h"
@@ -27,6 +28,7 @@ class Node;
 namespace vek::hierarchyview {
 
 class HierarchyEntryBase;
+class RowBranch;
 class TreeListComparator;
 
 enum ENodeState : std::uint32_t {
@@ -44,8 +46,9 @@ using CompareFunction = boost::function<bool(
 //
 // A parent owns its children through the list, a child points back and owns nothing. The two links
 // are the caller's business: a child is made with its parent and then added to it. Neither adding
-// nor removing touches the child's pointer, so an entry that outlives its parent keeps the dead
-// one's address until SetParent. One thread, that of the control's events, has a tree to itself.
+// nor removing touches the child's pointer; where a parent dies, its own children have none from
+// then on. A child dies when its parent's destructors are through, so that very deep trees die
+// without a recursion. One thread, that of the control's events, has a tree to itself.
 class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedObject {
  public:
   using List = std::list<boost::intrusive_ptr<HierarchyEntryBase>>;
@@ -96,6 +99,9 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   bool StandsOnlyUnder(HierarchyEntryBase const* inParent) const {
     return mParent == inParent && KnowsPlace();
   }
+  // Another one after every change of the shape of any tree in the process, and after the end of
+  // any entry: who remembers rows tells by it whether they may still be followed.
+  static std::uint64_t GetShapeVersion();
 
  protected:
   friend class TreeControlBase;
@@ -109,11 +115,15 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
 
  private:
   friend class HierarchyEntry;
+  friend class RowIndex;
   // By the list's links, so that places in it stay; also where the comparator throws.
   void SortList(TreeListComparator const& inComparator);
+  bool SortByTexts(TreeListComparator const& inComparator);
 
   void EnterPosition(List::iterator inPlace);
   void LeavePositions(List const& inLeaving);
+  void LosePlace();
+  void HandOut();
   void LearnPlaces();
   bool KnowsPlace() const;
 
@@ -125,9 +135,15 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // Where this entry stands in its parent's list, as long as no other position in any list holds
   // it. Sorting moves list nodes and leaves this right.
   List::iterator mPlace;
-  std::uint32_t mPositions = 0;  // too high for what was in a list that was handed out
-  bool mIsPlaced = false;        // mPlace is right, unless the parent's list was handed out
-  bool mHandedOut = false;       // mutable iterators of the own list may be about
+  std::uint32_t mPositions = 0;    // too high for what was in a list that was handed out
+  bool mIsPlaced = false;          // mPlace is right, and the parent lives
+  bool mHandedOut = false;         // mutable iterators of the own list may be about
+  bool mIsHierarchyEntry = false;  // set by that class: sorting asks it of every child
+  // For the row index: whether the owner's branch has this entry among the stale ones, where this
+  // entry stands in that branch, and the own branch, once this entry was asked for its rows.
+  bool mIsStale = false;
+  std::uint32_t mOrdinal = 0;
+  std::unique_ptr<RowBranch> mBranch;
 };
 
 }  // namespace vek::hierarchyview

@@ -4,6 +4,7 @@
 #include "vek/hierarchyview/HierarchyGeometry.h"
 
 #include "vek/hierarchyview/HierarchyEntryBase.h"
+#include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/RowWalk.h"
 #include "vek/hierarchyview/TraverseSteps.h"
 #include "vek/hierarchyview/TreeControlBase.h"
@@ -162,6 +163,9 @@ HierarchyGeometry::reverse_iterator HierarchyGeometry::rend() {
 }
 
 RectT<float> HierarchyGeometry::Area() {
+  if (const std::optional<RowIndex> index = RowIndex::Of(*this)) {
+    if (const std::optional<RectT<float>> area = index->GetArea()) return *area;
+  }
   RectT<float> area;
   for (RowWalk row(*this); !row.AtEnd(); row.Next())
     area = area.Join(row.GetArea());
@@ -179,6 +183,10 @@ RectT<float> HierarchyGeometry::GetRowRect(iterator const& inIterator) {
 }
 
 HierarchyGeometry::iterator HierarchyGeometry::FindEntry(PointT<float> const& inPoint) {
+  if (const std::optional<RowIndex> index = RowIndex::Of(*this)) {
+    const RowIndex::Row row = index->FindAt(inPoint.y);
+    return row < index->GetCount() ? index->GetIterator(row) : end();
+  }
   for (RowWalk row(*this); !row.AtEnd(); row.Next()) {
     const float height = row.GetHeight();
     if (height > 0 && row.GetTop() + height >= inPoint.y) return row.GetIterator();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <memory>
 
@@ -42,6 +43,7 @@ class VEK_API HierarchyGeometry {
     lumcore::geom::PointT<float> mCookie;  // the row's top left corner
 
    private:
+    friend class RowIndex;
     double mExactY;
   };
 
@@ -127,6 +129,7 @@ class VEK_API HierarchyGeometry {
 
  protected:
   friend class PlainWalk;
+  friend class RowIndex;
   friend class RowWalk;
 
   lumcore::geom::PointT<float> GetTraverseCookie(iterator const& inIterator);
@@ -143,6 +146,9 @@ class VEK_API HierarchyGeometry {
 
   TreeControlBase* mTreeControl;
   float mIndent;
+  // How often the index is not to be asked for, since it could not be had.
+  std::uint32_t mIndexPause = 0;
+  std::uint32_t mLastPause = 0;
 };
 
 }  // namespace vek::hierarchyview

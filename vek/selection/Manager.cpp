@@ -12,7 +12,7 @@
 
 #include "lumcore/utility/ScopedValue.h"
 #include "vek/selection/ActiveManagerState.h"
-#include "vek/selection/Junction.h"
+#include "vek/selection/KnowingJunction.h"
 
 namespace vek::selection {
 
@@ -45,9 +45,15 @@ struct Manager::Impl {
   bool mSelecting = false;
 };
 
-// The junction is asked every time, but no set of all its nodes is built: what is selected is
+// A junction that knows its nodes one by one is asked for those that are selected. Any other is
+// asked for its list every time, but no set of all its nodes is built: what is selected is
 // looked for in its list, and mostly that is little.
 void Manager::Impl::Clean() {
+  if (auto* const knowing = dynamic_cast<KnowingJunction*>(mJunction)) {
+    for (auto entry = mSelected.begin(); entry != mSelected.end();)
+      entry = knowing->Knows(*entry) ? std::next(entry) : mSelected.erase(entry);
+    return;
+  }
   const std::list<Node*> known = mJunction->AllSelectables();
   if (mSelected.empty()) return;
   const std::vector<Node*> selected(mSelected.begin(), mSelected.end());

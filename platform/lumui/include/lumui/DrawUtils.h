@@ -3,7 +3,12 @@
 
 #pragma once
 
+#include "lumui/Export.h"
 #include "lumui/drawbot/Path.h"
+
+namespace lumui::drawbot {
+class Drawbot;
+}
 
 namespace lumui {
 
@@ -14,5 +19,9 @@ inline drawbot::Path GetRoundedRectPath(const drawbot::Path::Rect& inRect, float
   path.AddRoundedRect(inRect, inRadius);
   return path;
 }
+
+// The shade that the frame of a list throws on its content, along the top and the left edge inside
+// of the rectangle. In the theme's colour; without a theme it is black.
+LUMUI_API void DrawListBoxShadow(const drawbot::Path::Rect& inRect, drawbot::Drawbot& inDrawbot);
 
 }  // namespace lumui

@@ -116,9 +116,11 @@ class NodeWriter {
       RestoreSection(*archived, outSection);
     }
     if (!inAdapter.GetBaseName().empty()) return;
+    const bool makesItsChildren = UI_NodeAdapterRegistry::Get().FindFor(mNode).MakesItsChildren();
+    const std::size_t childCount = makesItsChildren ? 0 : mNode.UI_GetChildCount();
     PropList& children = outSection.CreateSubList("children");
-    children.Set("count", static_cast<std::uint32_t>(mNode.UI_GetChildCount()));
-    for (std::size_t i = 0; i < mNode.UI_GetChildCount(); ++i) {
+    children.Set("count", static_cast<std::uint32_t>(childCount));
+    for (std::size_t i = 0; i < childCount; ++i) {
       PropList& child = children.CreateSubList(Numbered("child-", i).c_str());
       NodeWriter(*mNode.UI_GetChild(i), child).Write();
     }

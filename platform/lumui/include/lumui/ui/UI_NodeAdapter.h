@@ -48,6 +48,8 @@ class LUMUI_API UI_NodeAdapterBase {
   void GetProperties(const UI_Node& inNode, lumcore::proplist::PropList& outSection) const {
     DoGetProperties(inNode, outSection);
   }
+  // Whether a node of the class makes its children by itself, so that archives have none of them.
+  bool MakesItsChildren() const { return DoMakesItsChildren(); }
 
  private:
   virtual boost::intrusive_ptr<UI_Node> DoCreateNode(const NodeSource& inSource) const = 0;
@@ -55,6 +57,7 @@ class LUMUI_API UI_NodeAdapterBase {
   virtual void DoSetProperties(UI_Node& ioNode, const UI_NodeProperties& inProperties) const = 0;
   virtual void DoGetProperties(const UI_Node& inNode,
                                lumcore::proplist::PropList& outSection) const = 0;
+  virtual bool DoMakesItsChildren() const { return false; }
 
   std::string mClassName;
   std::string mBaseName;
