@@ -17,7 +17,8 @@ namespace lumscripting {
 
 namespace {
 
-// Behind all links, since the library may be known to the system by a link in another folder.
+// Behind all links, since the library may be known to the system by a link in another folder. Where
+// that folder cannot be told, the name alone, which the system looks for where it finds libraries.
 std::string ModulePath() {
   Dl_info library = {};
   // Any address within the library will do.
