@@ -1,5 +1,5 @@
-# vek_embed_resources(TARGET [FILES file...] [IMAGES svg...] [SCALES percent...] [SIZES NAME=units...]
-#   [INKS NAME=colour...]): builds resources into a program or a shared library, whose code finds them
+# vek_embed_resources(TARGET [FILES file...] [DOCUMENTS xml...] [IMAGES svg...] [SCALES percent...]
+#   [SIZES NAME=units...] [INKS NAME=colour...]): builds resources into a program or a shared library, whose code finds them
 # through a lumui::utility::ResourceManager of its module. It may be called several times for a target.
 #
 # FILES are taken as they are: the type is the extension and the name is what stands before it.
@@ -7,7 +7,7 @@
 # and 300 are possible). With SIZES each is made in several heights, with "_NAME" behind its own name,
 # and with INKS in several colours, which take the place of currentColor in the SVG.
 function(vek_embed_resources target)
-  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "FILES;IMAGES;SCALES;SIZES;INKS")
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "FILES;DOCUMENTS;IMAGES;SCALES;SIZES;INKS")
   if(ARG_UNPARSED_ARGUMENTS)
     message(FATAL_ERROR "vek_embed_resources(${target}): unknown arguments: ${ARG_UNPARSED_ARGUMENTS}")
   endif()
@@ -27,7 +27,7 @@ function(vek_embed_resources target)
     endif()
   endforeach()
   set(sources "")
-  foreach(kind IMAGES FILES)
+  foreach(kind IMAGES DOCUMENTS FILES)
     foreach(file IN LISTS ARG_${kind})
       get_filename_component(path ${file} ABSOLUTE)
       if(NOT EXISTS ${path})
@@ -36,6 +36,8 @@ function(vek_embed_resources target)
       list(APPEND sources ${path})
       if(kind STREQUAL IMAGES)
         string(APPEND lines "image ${path}\n")
+      elseif(kind STREQUAL DOCUMENTS)
+        string(APPEND lines "document ${path}\n")
       else()
         string(APPEND lines "file ${path}\n")
       endif()

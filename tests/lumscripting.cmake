@@ -4,3 +4,4 @@ vek_test(lumscripting_tests
     lumscripting/ScriptRunnerTest.cpp
     support/UIApplication.cpp
   LIBRARIES lumscripting lumui)
+add_dependencies(lumscripting_tests lumscripting_engine)

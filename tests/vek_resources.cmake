@@ -18,5 +18,7 @@ vek_embed_resources(vek_resources_tests
   FILES
     utility/resources/note.xml utility/resources/empty.xml
     utility/resources/S_DELETE_MD_N_D_AT_2X.svg
+  DOCUMENTS
+    utility/resources/entities.xml utility/resources/parameters.xml
   IMAGES utility/resources/DOT.svg SCALES 300 100 150 200
   SIZES BIG=10 SM=4 INKS "N=#ff0000" "S=#0000ff")

@@ -71,6 +71,7 @@ TEST_F(Scripts, ThatNeverEndCanBeStopped) {
   const std::string stopped = "failed: test.js:0: The script was stopped.";
   EXPECT_EQ(Run("stopMe(); for (;;) {}"), stopped);
   EXPECT_EQ(Run("for (;;) { try { stopMe(); } catch (e) {} }"), stopped);
+  EXPECT_EQ(Run("({ toString() { stopMe(); for (;;) {} } })"), stopped);
   // Neither the interruption nor the refusal of calls outlives the run that it was meant for.
   mRunner->AddFunction(ToUTF16("answer"),
                        [](const std::vector<ScriptValue>&) { return ScriptValue(42.0); });

@@ -15,6 +15,7 @@
 #include "lumui/dialogs/TextDialog.h"
 #include "lumui/ui/OS_Menu.h"
 #include "lumworkspace/workspace/BuiltInWorkspaceProviderBase.h"
+#include "lumworkspace/workspace/CommandCheckStyle.h"
 #include "lumworkspace/workspace/PlatformMenuHelper.h"
 #include "lumworkspace/workspaceutils/WorkspaceUtils.h"
 #include "support/Panels.h"
@@ -214,8 +215,14 @@ TEST_F(Workspaces, DamagedOnesAreSetAsideAndGiveWayToTheBuiltInOnes) {
 TEST_F(Workspaces, MenuListsThemAndFollows) {
   const HMENU menu = OS_Menu::Create(true);
   OS_Menu::InsertItem(menu, 0, 0, 7, U16("New..."));
-  lumworkspace::workspace::PlatformMenuHelper helper(*mManager, menu, 100, 102);
+  using lumworkspace::workspace::PlatformMenuHelper;
+  auto before = std::make_unique<PlatformMenuHelper>(*mManager, menu, 100, 102);
+  mManager->AddMenuHelper(before.get());
+  mManager->RemoveMenuHelper(before.get());
+  PlatformMenuHelper helper(*mManager, menu, 100, 102);
+  before.reset();
   mManager->AddMenuHelper(&helper);
+  EXPECT_TRUE(lumworkspace::workspace::IsCommandCheckStyleRadio(102));
   const auto text = [&] {
     std::string all;
     for (unsigned i = 0; i < OS_Menu::GetItemCount(menu); ++i) {

@@ -85,6 +85,21 @@ if(NOT output MATCHES "${prefix}/share/vek/outliner/outliner.cmdreg.xml: ")
   message(FATAL_ERROR "the installed outliner has looked at other files:\n${output}")
 endif()
 
+# Scripts run there, and where the module of their engine was not taken along, it is named.
+file(WRITE ${WORK_DIR}/sum.js "Outliner.print(String(6 * 7))\n")
+run("a script in the installed outliner" ${prefix}/bin/outliner --script ${WORK_DIR}/sum.js)
+if(NOT output MATCHES "(^|\n)42\n$")
+  message(FATAL_ERROR "the installed outliner says ${output}")
+endif()
+file(GLOB_RECURSE engine ${prefix}/lumscripting_engine-*)
+file(REMOVE ${engine})
+execute_process(COMMAND ${prefix}/bin/outliner --script ${WORK_DIR}/sum.js
+  RESULT_VARIABLE result ERROR_VARIABLE errors)
+string(FIND "${errors}" "\"${engine}\": the script engine cannot be loaded" told)
+if(NOT result EQUAL 1 OR told EQUAL -1)
+  message(FATAL_ERROR "without ${engine} a script ends with ${result}:\n${errors}")
+endif()
+
 # What is installed must find its libraries by itself, wherever it was moved to.
 file(GLOB programs ${prefix}/bin/*)
 foreach(file IN LISTS programs)

@@ -74,6 +74,33 @@ TEST_F(Resources, AreFoundByNameAndTypeInAnyCase) {
   EXPECT_FALSE(ResourceManager(nullptr).HasBinary(ToUTF16("note"), "xml"));
 }
 
+// All else stays as it is written, also what cannot be parsed, in places where a wrong end would be
+// found too early.
+TEST_F(Resources, DocumentsHaveTheValuesOfTheirEntitiesInEmptyElements) {
+  const auto text = [this](const char* inName) {
+    const auto bytes = mOwn.GetRequiredBinary(ToUTF16(inName), "xml");
+    return std::string(bytes.begin(), bytes.end());
+  };
+  const std::string document = text("entities");
+  const std::size_t body = document.find("\n]>\n") + 4;
+  EXPECT_EQ(document.substr(0, body), R"(<?xml version="1.0"?>
+<!-- "&one;" -->
+<!DOCTYPE a [
+  <!-- <!ENTITY one "no"> ]> -->
+  <!ENTITY far SYSTEM "a]>b.xml">
+  <!ATTLIST a z CDATA "]>&one;">
+  <!ENTITY one  'first'> <!ENTITY one "second">
+  <!ENTITY two "&one;"> <!ENTITY three "<&#60;">
+]>
+)");
+  EXPECT_EQ(document.substr(body), R"(<a b="x&one;/>" c='&one;'>
+<a b="xfirstyfirst" c = '>first' d="&two;&three;&far;&none;&amp;&#65;&" e="&one"/><![CDATA[<a b="&one;"/>]]>
+&one; "&one;" <?p a="&one;"?><!-- <a b="&one;"/> --></a>
+<a b="&one;
+)");
+  EXPECT_NE(text("parameters").find("<a b=\"&one;\"/>"), std::string::npos);
+}
+
 TEST_F(Resources, OfTwoModulesDoNotMix) {
   EXPECT_EQ(mCache.GetImage(mVek, mSupplier, ToUTF8("s_delete_md_n_d"))->GetWidth(), 16);
   EXPECT_EQ(Image("s_delete_md_n_d")->GetWidth(), 8);

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "lumcore/config/ThrowError.h"
 #include "lumui/controls/UI_TextEdit.h"
 #include "lumui/datatransfer/OS_ReceiveData.h"
 #include "lumui/testing/SyntheticInput.h"
@@ -39,6 +40,8 @@ TEST(TopLevelWindows, AreMadeNowOrLater) {
   workspace.CreateMainTopLevelWindow(nullptr);
   lumworkspace::workspace::TopLevelWindow* const main = workspace.GetMainTopLevelWindow();
   EXPECT_NE(dynamic_cast<Pointer*>(main), nullptr);
+  EXPECT_THROW(workspace.CreateMainTopLevelWindow(nullptr), lumcore::config::Error);
+  EXPECT_EQ(workspace.GetMainTopLevelWindow(), main);
   EXPECT_EQ(main->UI_GetNodeForID(lumcore::utility::ToUTF8("MainWindow")), main);
   Pointer::SetSupportsMegaZoom(true);
   EXPECT_TRUE(main->CanMegaZoom());

@@ -5,7 +5,6 @@
 
 #include <utility>
 
-#include "HostBridge.h"
 #include "HostSide.h"
 #include "ScriptText.h"
 #include "ScriptWorker.h"
@@ -22,9 +21,7 @@ constexpr std::chrono::milliseconds kDestructorPatience(5000);
 
 ScriptRunner::ScriptRunner()
     : mHostSide(std::make_shared<HostSide>()),
-      mWorker(std::make_shared<ScriptWorker>(std::weak_ptr<HostSide>(mHostSide))) {
-  mWorker->Start();
-}
+      mWorker(std::make_shared<ScriptWorker>(std::weak_ptr<HostSide>(mHostSide))) {}
 
 ScriptRunner::~ScriptRunner() {
   ShutDown(kDestructorPatience);
@@ -33,9 +30,7 @@ ScriptRunner::~ScriptRunner() {
 void ScriptRunner::AddFunction(const lumcore::UTF16String& inName, HostFunction inFunction) {
   const int number = static_cast<int>(mHostSide->functions.size());
   mHostSide->functions.push_back(std::make_shared<const HostFunction>(std::move(inFunction)));
-  mWorker->Queue([worker = mWorker.get(), inName, number] {
-    worker->GetBridge().AddFunction(inName, number);
-  });
+  mWorker->Queue([worker = mWorker.get(), inName, number] { worker->AddFunction(inName, number); });
 }
 
 void ScriptRunner::SetFailureFunction(FailureFunction inFunction) {
@@ -53,7 +48,7 @@ void ScriptRunner::MakeObjects() {
     auto definition = std::make_shared<const ScriptDefinition>(inDefinition);
     mHostSide->shown.push_back({definition, inObject});
     mWorker->Queue([worker = mWorker.get(), definition, inObject] {
-      worker->GetBridge().AddObject(definition, inObject);
+      worker->AddObject(definition, inObject);
     });
   };
   // Copies, since a factory may register something.
@@ -84,6 +79,7 @@ void ScriptRunner::Run(const lumcore::UTF16String& inProgram, const lumcore::UTF
   mWorker->Queue([worker = mWorker.get(), inProgram, inFile, completion] {
     worker->RunScript(inProgram, inFile, completion);
   });
+  mWorker->Start();
 }
 
 void ScriptRunner::RunFile(const lumcore::filesupport::File& inFile, Completion inCompletion) {

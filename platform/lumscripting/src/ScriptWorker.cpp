@@ -3,16 +3,13 @@
 
 #include "ScriptWorker.h"
 
-#include <QJSEngine>
-#include <QStringList>
 #include <algorithm>
 #include <utility>
 
-#include "HostBridge.h"
 #include "HostSide.h"
-#include "ScriptConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumscripting/ScriptError.h"
+#include "lumscripting/ScriptEventObject.h"
 #include "lumscripting/threads/DirectCall.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/UI_NodeManager.h"
@@ -20,8 +17,6 @@
 namespace lumscripting {
 
 namespace {
-
-constexpr int kFirstLine = 1;
 
 std::vector<std::shared_ptr<ScriptWorker>>& Live() {
   static std::vector<std::shared_ptr<ScriptWorker>> sLive;
@@ -61,6 +56,7 @@ std::vector<std::shared_ptr<ScriptWorker>> ScriptWorker::GetLive() {
 }
 
 void ScriptWorker::Start() {
+  if (mThread.joinable() || mClosing) return;
   Live().push_back(shared_from_this());
   mThread = std::thread([self = shared_from_this()] { self->Work(); });
 }
@@ -73,15 +69,23 @@ void ScriptWorker::Queue(Task inTask) {
 }
 
 void ScriptWorker::Work() {
-  mEngine = std::make_unique<QJSEngine>();
-  mBridge = std::make_unique<HostBridge>(*mEngine, mHostSide, mListened);
-  for (Task task; TakeTask(task);)
+  for (Task task; TakeTask(task);) {
+    if (!mEngine && !mEngineFailure) MakeEngine();
     task();
-  mBridge.reset();
+  }
   mEngine.reset();
   const std::lock_guard lock(mMutex);
   mEnded = true;
   mWake.notify_all();
+}
+
+void ScriptWorker::MakeEngine() {
+  try {
+    mEngine = MakeScriptEngine(mHostSide, mListened);
+  } catch (...) {
+    // Told to whoever runs a script.
+    mEngineFailure = std::current_exception();
+  }
 }
 
 bool ScriptWorker::TakeTask(Task& outTask) {
@@ -102,7 +106,7 @@ bool ScriptWorker::BeginRun() {
 // Called under the lock.
 void ScriptWorker::Interrupt() {
   if (!mRunning) return;
-  mEngine->setInterrupted(true);
+  mEngine->SetInterrupted(true);
   threads::RefuseCallsFrom(mThread.get_id());
 }
 
@@ -112,61 +116,60 @@ void ScriptWorker::Interrupt() {
 bool ScriptWorker::EndRun() {
   const std::lock_guard lock(mMutex);
   mRunning = false;
-  const bool stopped = mEngine->isInterrupted();
-  mEngine->setInterrupted(false);
+  const bool stopped = mEngine->IsInterrupted();
+  mEngine->SetInterrupted(false);
   threads::AllowCallsFrom(std::this_thread::get_id());
   return stopped;
 }
 
+void ScriptWorker::AddFunction(const lumcore::UTF16String& inName, int inFunction) {
+  if (mEngine) mEngine->AddFunction(inName, inFunction);
+}
+
+void ScriptWorker::AddObject(std::shared_ptr<const ScriptDefinition> inDefinition,
+                             const ScriptObject* inTarget) {
+  if (mEngine) mEngine->AddObject(std::move(inDefinition), inTarget);
+}
+
 void ScriptWorker::RunScript(const lumcore::UTF16String& inProgram,
                              const lumcore::UTF16String& inFile, int inCompletion) {
+  if (!mEngine) return Complete(inCompletion, {}, mEngineFailure);
   if (!BeginRun()) return;
-  QStringList stack;
-  const QJSValue value =
-      mEngine->evaluate(ToQString(inProgram), ToQString(inFile), kFirstLine, &stack);
-  if (EndRun()) {
-    Complete(inCompletion, {}, Stopped(inFile));
-  } else if (!value.isError() && stack.isEmpty()) {
-    Complete(inCompletion, FromScript(value), nullptr);
-  } else {
-    Complete(inCompletion, {}, std::make_exception_ptr(ErrorFromScript(value, stack, inFile)));
-  }
+  ScriptEngine::Result result = mEngine->Evaluate(inProgram, inFile);
+  if (EndRun()) result = {{}, Stopped(inFile)};
+  Complete(inCompletion, std::move(result.value), std::move(result.failure));
 }
 
-// Each listener is a run of its own: one that is stopped, or that throws, does not keep the others
-// from the event. One that another has removed meanwhile does not hear it.
+// Filling the event is a run too, since it may wait for the user interface: a shut-down has to get
+// it out of that. And so is each listener's turn: one that is stopped, or that throws, does not
+// keep the others from the event.
 void ScriptWorker::Deliver(const QueuedEvent& inEvent) {
   const auto filled = inEvent.kind->make();
-  if (!Fill(inEvent, *filled)) return;
   const ScriptDefinition& definition = inEvent.kind->definition;
-  const QJSValue event = mBridge->MakeEvent(definition, *filled, inEvent.type, inEvent.target);
-  EventListeners& listeners = mBridge->GetListeners();
-  for (const QJSValue& listener : listeners.Find(inEvent.target, inEvent.type)) {
-    if (!listeners.Has(inEvent.target, inEvent.type, listener)) continue;
-    if (!BeginRun()) return;
-    QStringList stack;
-    const QJSValue value = mBridge->CallListener(listener, event, stack);
-    if (EndRun()) {
-      Fail(Stopped(definition.name));
-    } else if (!stack.isEmpty()) {
-      Fail(std::make_exception_ptr(ErrorFromScript(value, stack, definition.name)));
+  const auto fill = [&]() -> std::exception_ptr {
+    try {
+      inEvent.fill(*filled);
+    } catch (...) {
+      // The host's own failure, for the host.
+      return std::current_exception();
     }
-  }
+    return nullptr;
+  };
+  if (RunTurn(definition.name, fill) != RunEnd::kGood) return;
+  mEngine->Deliver(definition, *filled, inEvent.type, inEvent.target,
+                   [&](const ScriptEngine::Turn& inTurn) {
+                     return RunTurn(definition.name, inTurn) != RunEnd::kNotBegun;
+                   });
 }
 
-// A run too, since it may wait for the user interface: a shut-down has to get it out of that.
-bool ScriptWorker::Fill(const QueuedEvent& inEvent, ScriptEventObject& ioEvent) {
-  if (!BeginRun()) return false;
-  std::exception_ptr failure;
-  try {
-    inEvent.fill(ioEvent);
-  } catch (...) {
-    // The host's own failure, for the host.
-    failure = std::current_exception();
-  }
-  if (EndRun()) failure = Stopped(inEvent.kind->definition.name);
-  if (failure) Fail(failure);
-  return !failure;
+ScriptWorker::RunEnd ScriptWorker::RunTurn(const lumcore::UTF16String& inFile,
+                                           const ScriptEngine::Turn& inTurn) {
+  if (!BeginRun()) return RunEnd::kNotBegun;
+  std::exception_ptr failure = inTurn();
+  if (EndRun()) failure = Stopped(inFile);
+  if (!failure) return RunEnd::kGood;
+  Fail(std::move(failure));
+  return RunEnd::kFailed;
 }
 
 void ScriptWorker::Complete(int inCompletion, ScriptValue inValue, std::exception_ptr inFailure) {
@@ -186,13 +189,13 @@ void ScriptWorker::StopRunning() {
 }
 
 bool ScriptWorker::ShutDown(std::chrono::milliseconds inPatience) {
-  if (!mThread.joinable()) return true;
   auto& live = Live();
   live.erase(std::remove(live.begin(), live.end(), shared_from_this()), live.end());
   std::deque<Task> dropped;  // outlives the lock
   std::unique_lock lock(mMutex);
   mClosing = true;
   dropped.swap(mTasks);
+  if (!mThread.joinable()) return true;
   Interrupt();
   mWake.notify_all();
   const bool ended = mWake.wait_for(lock, inPatience, [this] { return mEnded; });

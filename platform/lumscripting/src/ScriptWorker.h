@@ -13,18 +13,15 @@
 #include <thread>
 #include <vector>
 
-#include "EventListeners.h"
+#include "ListenedTypes.h"
+#include "ScriptEngine.h"
 #include "lumcore/Strings.h"
 #include "lumscripting/ScriptRegistry.h"
 #include "lumscripting/ScriptValue.h"
 #include "lumscripting/events/QueueEvent.h"
 
-class QJSEngine;
-class QJSValue;
-
 namespace lumscripting {
 
-class HostBridge;
 class HostSide;
 
 // The script thread of a runner and everything that the two threads share. The thread holds a
@@ -45,7 +42,8 @@ class ScriptWorker : public std::enable_shared_from_this<ScriptWorker> {
   // Those that have been started and not shut down. For the user interface thread.
   static std::vector<std::shared_ptr<ScriptWorker>> GetLive();
 
-  // Of the user interface thread.
+  // Of the user interface thread. What is queued waits for the first start; further ones, and one
+  // behind the shut-down, do nothing.
   void Start();
   bool ShutDown(std::chrono::milliseconds inPatience);
 
@@ -58,18 +56,22 @@ class ScriptWorker : public std::enable_shared_from_this<ScriptWorker> {
   void Fail(std::exception_ptr inFailure) { Complete(0, {}, std::move(inFailure)); }
 
   // For the tasks, on the script thread.
-  HostBridge& GetBridge() { return *mBridge; }
+  void AddFunction(const lumcore::UTF16String& inName, int inFunction);
+  void AddObject(std::shared_ptr<const ScriptDefinition> inDefinition,
+                 const ScriptObject* inTarget);
   void RunScript(const lumcore::UTF16String& inProgram, const lumcore::UTF16String& inFile,
                  int inCompletion);
   void Deliver(const QueuedEvent& inEvent);
 
  private:
   void Work();
+  void MakeEngine();
   bool TakeTask(Task& outTask);
   bool BeginRun();
   void Interrupt();
   bool EndRun();
-  bool Fill(const QueuedEvent& inEvent, ScriptEventObject& ioEvent);
+  enum class RunEnd { kGood, kFailed, kNotBegun };
+  RunEnd RunTurn(const lumcore::UTF16String& inFile, const ScriptEngine::Turn& inTurn);
 
   const std::weak_ptr<HostSide> mHostSide;
   ListenedTypes mListened;
@@ -80,8 +82,9 @@ class ScriptWorker : public std::enable_shared_from_this<ScriptWorker> {
   bool mClosing = false;
   bool mEnded = false;
   std::thread mThread;
-  std::unique_ptr<QJSEngine> mEngine;   // made and destroyed on the script thread
-  std::unique_ptr<HostBridge> mBridge;  // likewise
+  // Made with the first task, and destroyed, on the script thread. Without one, scripts fail so.
+  std::unique_ptr<ScriptEngine> mEngine;
+  std::exception_ptr mEngineFailure;
 };
 
 }  // namespace lumscripting

@@ -9,6 +9,7 @@
 #include <QXmlStreamWriter>
 
 #include "Failure.h"
+#include "utility/ResourceKey.h"
 
 namespace resourcetool {
 
@@ -28,16 +29,19 @@ Container::Container() {
 
 void Container::Add(const QString& inType, const QString& inName, const QByteArray& inBytes,
                     const QString& inPlace) {
-  const QString alias = inType + '/' + inName;
-  if (mNames.contains(alias.toCaseFolded())) {
+  const QString key = lumui::utility::ResourceKey(inType, inName);
+  if (key.isEmpty()) {
+    throw Failure(inPlace, QString("\"%1\" is no name of a resource").arg(inName));
+  }
+  if (mKeys.contains(key)) {
     throw Failure(
         inPlace,
         QString("there is a resource \"%1\" of the type \"%2\" already").arg(inName, inType));
   }
-  mNames.insert(alias.toCaseFolded());
+  mKeys.insert(key);
   const QString file = mFolder.filePath(QString::number(mEntries.size()));
   WriteFile(file, inBytes);
-  mEntries.push_back({alias, file});
+  mEntries.push_back({key, file});
 }
 
 void Container::WriteList(const QString& inPath) const {
@@ -47,7 +51,7 @@ void Container::WriteList(const QString& inPath) const {
   writer.writeStartElement("qresource");
   for (const Entry& entry : mEntries) {
     writer.writeStartElement("file");
-    writer.writeAttribute("alias", entry.alias);
+    writer.writeAttribute("alias", entry.key);
     writer.writeCharacters(entry.file);
     writer.writeEndElement();
   }

@@ -25,14 +25,14 @@ class Container {
 
  private:
   struct Entry {
-    QString alias;
+    QString key;
     QString file;
   };
   void WriteList(const QString& inPath) const;
 
   QTemporaryDir mFolder;
   std::vector<Entry> mEntries;
-  QSet<QString> mNames;
+  QSet<QString> mKeys;
 };
 
 }  // namespace resourcetool

@@ -87,8 +87,12 @@ Manifest Manifest::Read(const QString& inPath) {
       manifest.mSizes = ReadSizes(words, place);
     } else if (word == "inks") {
       manifest.mInks = ReadInks(words, place);
-    } else if (word == "image" || word == "file") {
-      manifest.mSources.push_back({line, rest, word == "image"});
+    } else if (word == "image") {
+      manifest.mSources.push_back({line, rest, Manifest::Kind::kImage});
+    } else if (word == "document") {
+      manifest.mSources.push_back({line, rest, Manifest::Kind::kDocument});
+    } else if (word == "file") {
+      manifest.mSources.push_back({line, rest, Manifest::Kind::kFile});
     } else {
       throw Failure(place, QString("\"%1\" is not known here").arg(word));
     }

@@ -10,7 +10,8 @@ namespace resourcetool {
 
 // What is to be embedded. The manifest is text, one entry a line: a word and what belongs to it up
 // to the end of the line. "scales", "sizes" and "inks" hold lists, each divided by blanks, and
-// count for all images; "image" and "file" hold a path. Lines that begin with # are comments.
+// count for all images; "image", "document" and "file" hold a path. Lines that begin with # are
+// comments.
 struct Manifest {
   struct Size {
     QString suffix;  // "XS"; empty if images have one size, their own
@@ -20,10 +21,11 @@ struct Manifest {
     QString suffix;  // "N_D"; empty if images come in one colour
     QString color;   // what currentColor stands for; empty leaves it alone
   };
+  enum class Kind { kImage, kDocument, kFile };
   struct Source {
     int line;
     QString path;
-    bool isImage;
+    Kind kind;
   };
 
   static Manifest Read(const QString& inPath);

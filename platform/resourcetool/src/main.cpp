@@ -11,6 +11,7 @@
 #include <cstdio>
 
 #include "Container.h"
+#include "Document.h"
 #include "Failure.h"
 #include "Manifest.h"
 #include "Picture.h"
@@ -39,14 +40,15 @@ void AddImage(Container& ioContainer, const Manifest& inManifest, const Manifest
   }
 }
 
-void AddFile(Container& ioContainer, const QString& inPath, const QString& inPlace) {
-  const QFileInfo info(inPath);
-  if (info.suffix().isEmpty())
-    throw Failure(inPath, "its type cannot be told without an extension");
-  QFile file(inPath);
-  if (!file.open(QIODevice::ReadOnly)) throw Failure(inPath, file.errorString());
-  ioContainer.Add(info.suffix().toUpper(), info.completeBaseName().toUpper(), file.readAll(),
-                  inPlace);
+void AddFile(Container& ioContainer, const Manifest::Source& inSource, const QString& inPlace) {
+  const QString& path = inSource.path;
+  const QFileInfo info(path);
+  if (info.suffix().isEmpty()) throw Failure(path, "its type cannot be told without an extension");
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) throw Failure(path, file.errorString());
+  QByteArray bytes = file.readAll();
+  if (inSource.kind == Manifest::Kind::kDocument) bytes = ResolveEntities(bytes);
+  ioContainer.Add(info.suffix().toUpper(), info.completeBaseName().toUpper(), bytes, inPlace);
 }
 
 QByteArray ToSource(const QByteArray& inBytes) {
@@ -70,10 +72,10 @@ void Run(const QString& inManifest, const QString& inOutput) {
   Container container;
   for (const auto& source : manifest.mSources) {
     const QString place = QString("%1:%2: %3").arg(inManifest).arg(source.line).arg(source.path);
-    if (source.isImage) {
+    if (source.kind == Manifest::Kind::kImage) {
       AddImage(container, manifest, source, place);
     } else {
-      AddFile(container, source.path, place);
+      AddFile(container, source, place);
     }
   }
   QSaveFile output(inOutput);

@@ -3,6 +3,7 @@
 
 #include "vek/workspace/Workspace.h"
 
+#include "lumcore/debug/Contract.h"
 #include "vek/app/App.h"
 #include "vek/workspace/TopLevelWindowT.h"
 
@@ -24,6 +25,7 @@ bool Workspace::ChildRequestRemove(boost::intrusive_ptr<lumui::ui::UI_Node> inNo
 }
 
 void Workspace::CreateMainTopLevelWindow(lumui::ui::OSEventFunction inEventFunction) {
+  LUM_INPUT_CONTRACT(GetMainTopLevelWindow() == nullptr);
   const boost::intrusive_ptr<Window> window(new Window(this, inEventFunction, true));
   window->UI_SetNodeID("MainWindow");
   AddChild(window);

@@ -42,6 +42,10 @@ int32_t CheckedLength(std::size_t inLength) {
 
 template <class String>
 String EncodeUTF8(const UTF16String& inText) {
+  const auto isASCII = [](unsigned short inUnit) { return inUnit < 0x80; };
+  if (std::all_of(inText.begin(), inText.end(), isASCII)) {
+    return String(inText.begin(), inText.end());
+  }
   String result;
   const int32_t length = CheckedLength(inText.size());
   // Three bytes are the most that one UTF-16 unit comes to.

@@ -150,17 +150,25 @@ void EventSource::SetCallbacks() {
 void EventSource::Run() {
   // Put back at the end, as the handler may be in the middle of another document.
   const utility::StScopedValue<const EventSource*> source(mHandler.mSource, this);
-  // The parser counts the bytes of one call in an int.
+  // The parser copies what it is given, so it gets little at a time. It counts the bytes of one
+  // call in an int.
+  constexpr std::size_t kFewBytes = std::size_t{1} << 15;
   constexpr std::size_t kMostBytes = std::size_t{1} << 30;
+  std::size_t count = kFewBytes;
   std::string_view rest = mBytes;
   for (bool isLast = false; !isLast;) {
-    const std::string_view piece = rest.substr(0, kMostBytes);
+    const std::string_view piece = rest.substr(0, count);
     rest.remove_prefix(piece.size());
     isLast = rest.empty();
     const XML_Status status =
         XML_Parse(mParser.get(), piece.data(), static_cast<int>(piece.size()), isLast);
     if (mFailure) std::rethrow_exception(mFailure);
     if (status == XML_STATUS_ERROR) ThrowParserError();
+    // A comment or a tag that has not ended yet is looked through again from its start with each
+    // piece; as many bytes again keep that in proportion.
+    const XML_Index read = std::max(XML_GetCurrentByteIndex(mParser.get()), XML_Index{0});
+    const std::size_t unread = mBytes.size() - rest.size() - static_cast<std::size_t>(read);
+    count = std::clamp(unread, kFewBytes, kMostBytes);
   }
 }
 

@@ -3,7 +3,9 @@
 
 #include "lumcore/xml/Parser.h"
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "lumcore/utility/StringUtils.h"
 #include "xml/EventSource.h"
@@ -34,8 +36,17 @@ const UTF16String* Attributes::Find(const UTF16String& inName) const {
   return nullptr;
 }
 
+// The names that handlers ask for are ASCII, and a document asks for thousands: so they are
+// compared as they are.
 const UTF16String* Attributes::Find(const char* inName) const {
-  return Find(utility::ToUTF16(inName));
+  const std::string_view name(inName);
+  const auto isASCII = [](unsigned char inByte) { return inByte < 0x80; };
+  if (!std::all_of(name.begin(), name.end(), isASCII)) return Find(utility::ToUTF16(name));
+  for (const Entry& entry : *this) {
+    if (std::equal(entry.first.begin(), entry.first.end(), name.begin(), name.end()))
+      return &entry.second;
+  }
+  return nullptr;
 }
 
 AbstractParseHandler::AbstractParseHandler() = default;

@@ -16,6 +16,7 @@ using KeyFrame = KeyframeThemeEditor::KeyFrame;
 
 namespace {
 
+constexpr std::size_t kUsualFrames = 4;  // two families with two ends
 constexpr ColorRGBA kUnknownColor(1.0f, 0.0f, 1.0f);
 
 float Blend(float inFrom, float inTo, float inShare) {
@@ -42,6 +43,16 @@ KeyFrame Between(const KeyFrame& inFrom, const KeyFrame& inTo, float inPosition)
   return frame;
 }
 
+// There is at least one frame, and they ascend.
+KeyFrame FrameAt(const std::vector<KeyFrame>& inFrames, float inPosition) {
+  const auto behind =
+      std::upper_bound(inFrames.begin(), inFrames.end(), inPosition,
+                       [](float inAt, const KeyFrame& inFrame) { return inAt < inFrame.position; });
+  if (behind == inFrames.begin()) return inFrames.front();
+  if (behind == inFrames.end()) return inFrames.back();
+  return Between(*(behind - 1), *behind, inPosition);
+}
+
 ColorRGBA ToColor(const KeyFrame& inFrame) {
   // One part of the colour: how far its own hue lies from the frame's, in sixths of the circle.
   const auto part = [&inFrame](float inSixth) {
@@ -64,7 +75,11 @@ KeyframeThemeEditor::~KeyframeThemeEditor() = default;
 
 void KeyframeThemeEditor::SetKeyFrame(int inColor, const KeyFrame& inFrame) {
   LUM_INPUT_CONTRACT(inColor >= 0);
-  Frames& frames = mFrames[inColor];
+  const auto index = static_cast<std::size_t>(inColor);
+  Entry& entry = index < mFixed.size() ? mFixed[index] : mFurther[inColor];
+  entry.isResolved = false;
+  Frames& frames = entry.frames;
+  if (frames.empty()) frames.reserve(kUsualFrames);
   const auto place = std::lower_bound(
       frames.begin(), frames.end(), inFrame.position,
       [](const KeyFrame& inOther, float inPosition) { return inOther.position < inPosition; });
@@ -73,16 +88,10 @@ void KeyframeThemeEditor::SetKeyFrame(int inColor, const KeyFrame& inFrame) {
   } else {
     frames.insert(place, inFrame);
   }
-  Resolve(inColor, frames);
 }
 
 void KeyframeThemeEditor::RemoveKeyFrames(int inColor) {
-  if (mFrames.erase(inColor) == 0) return;
-  if (static_cast<std::size_t>(inColor) < mFixed.size()) {
-    mFixed[static_cast<std::size_t>(inColor)] = Entry();
-  } else {
-    mFurther.erase(inColor);
-  }
+  if (Entry* const entry = FindEntry(inColor)) *entry = Entry();
 }
 
 void KeyframeThemeEditor::SetTextSize(int inText, int inScheme, float inSize) {
@@ -92,12 +101,17 @@ void KeyframeThemeEditor::SetTextSize(int inText, int inScheme, float inSize) {
 }
 
 ColorRGBA KeyframeThemeEditor::DoGetColor(int inColor) const {
-  const ColorRGBA* const color = FindColor(inColor);
-  return color ? *color : kUnknownColor;
+  Entry* const entry = FindEntry(inColor);
+  if (!entry) return kUnknownColor;
+  if (!entry->isResolved) {
+    entry->color = ToColor(FrameAt(entry->frames, mPosition));
+    entry->isResolved = true;
+  }
+  return entry->color;
 }
 
 bool KeyframeThemeEditor::DoHasColor(int inColor) const {
-  return FindColor(inColor) != nullptr;
+  return FindEntry(inColor) != nullptr;
 }
 
 float KeyframeThemeEditor::DoGetTextSize(Text inText) const {
@@ -107,36 +121,24 @@ float KeyframeThemeEditor::DoGetTextSize(Text inText) const {
 
 void KeyframeThemeEditor::DoSetBrightness(float inBrightness) {
   mPosition = inBrightness;
-  for (const auto& [color, frames] : mFrames)
-    Resolve(color, frames);
+  for (Entry& entry : mFixed)
+    entry.isResolved = false;
+  for (auto& [color, entry] : mFurther)
+    entry.isResolved = false;
 }
 
-const ColorRGBA* KeyframeThemeEditor::FindColor(int inColor) const {
+// Null for a colour without frames.
+KeyframeThemeEditor::Entry* KeyframeThemeEditor::FindEntry(int inColor) const {
   if (inColor < 0) return nullptr;
   const auto index = static_cast<std::size_t>(inColor);
-  if (index < mFixed.size()) return mFixed[index].isKnown ? &mFixed[index].color : nullptr;
-  const auto found = mFurther.find(inColor);
-  return found == mFurther.end() ? nullptr : &found->second;
-}
-
-void KeyframeThemeEditor::Resolve(int inColor, const Frames& inFrames) {
-  const auto behind = std::upper_bound(
-      inFrames.begin(), inFrames.end(), mPosition,
-      [](float inPosition, const KeyFrame& inFrame) { return inPosition < inFrame.position; });
-  KeyFrame frame;
-  if (behind == inFrames.begin()) {
-    frame = inFrames.front();
-  } else if (behind == inFrames.end()) {
-    frame = inFrames.back();
-  } else {
-    frame = Between(*(behind - 1), *behind, mPosition);
-  }
-  const auto index = static_cast<std::size_t>(inColor);
+  Entry* entry = nullptr;
   if (index < mFixed.size()) {
-    mFixed[index] = {ToColor(frame), true};
+    entry = &mFixed[index];
   } else {
-    mFurther[inColor] = ToColor(frame);
+    const auto found = mFurther.find(inColor);
+    if (found != mFurther.end()) entry = &found->second;
   }
+  return entry && !entry->frames.empty() ? entry : nullptr;
 }
 
 }  // namespace lumui::ui

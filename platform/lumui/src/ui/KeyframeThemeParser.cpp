@@ -3,8 +3,10 @@
 
 #include "lumui/ui/KeyframeThemeParser.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string>
+#include <string_view>
 
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
@@ -18,8 +20,8 @@ using lumcore::xml::Attributes;
 
 namespace {
 
-bool IsText(const UTF16String& inText, const char* inASCII) {
-  return ToStdString(inText) == inASCII;
+bool IsText(const UTF16String& inText, std::string_view inASCII) {
+  return std::equal(inText.begin(), inText.end(), inASCII.begin(), inASCII.end());
 }
 
 }  // namespace
@@ -52,12 +54,11 @@ Number KeyframeThemeParser::Require(const Attributes& inAttributes, const char* 
 }
 
 void KeyframeThemeParser::StartElement(const UTF16String& inName, const Attributes& inAttributes) {
-  const std::string name = ToStdString(inName);
-  if (name == "Theme") {
+  if (IsText(inName, "Theme")) {
     mThemePosition = Require<float>(inAttributes, "t");
-  } else if (name == "KeyFrame") {
+  } else if (IsText(inName, "KeyFrame")) {
     AddKeyFrame(inAttributes);
-  } else if (name == "FontSize") {
+  } else if (IsText(inName, "FontSize")) {
     AddTextSize(inAttributes);
   }
 }

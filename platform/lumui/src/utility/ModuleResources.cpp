@@ -3,24 +3,21 @@
 
 #include "lumui/utility/ModuleResources.h"
 
-#include <QDirIterator>
 #include <QResource>
 #include <algorithm>
-#include <map>
 #include <utility>
 #include <vector>
 
 #include "drawbot/QtConvert.h"
-#include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/ModuleHandle.h"
 #include "utility/ContainerChecksum.h"
 #include "utility/ResourceError.h"
+#include "utility/ResourceKey.h"
 #include "utility/ResourceRegistry.h"
 
 namespace lumui::utility {
 
 using lumcore::UTF16String;
-using lumcore::utility::FoldCase;
 
 struct ModuleResources::Container {
   Container(const unsigned char* inBytes, std::size_t inSize, std::uint64_t inChecksum)
@@ -32,9 +29,6 @@ struct ModuleResources::Container {
     if (!mRoot.isEmpty()) QResource::unregisterResource(mBytes, mRoot);
   }
 
-  // Names and types in folded case.
-  using Key = std::pair<UTF16String, UTF16String>;
-
   void Open();
 
   const unsigned char* mBytes;
@@ -42,7 +36,6 @@ struct ModuleResources::Container {
   std::uint64_t mChecksum;
   HINSTANCE mModule;
   QString mRoot;  // empty until the container is open
-  std::map<Key, std::string_view> mEntries;
 };
 
 namespace {
@@ -75,14 +68,6 @@ void ModuleResources::Container::Open() {
     ThrowDamagedContainer(mModule, "it is of a form that is not known here");
   }
   mRoot = std::move(root);
-  QDirIterator files(QLatin1Char(':') + mRoot, QDir::Files, QDirIterator::Subdirectories);
-  while (files.hasNext()) {
-    const QResource resource(files.next());
-    const QString type = files.fileInfo().dir().dirName();
-    mEntries[{FoldCase(drawbot::FromQt(files.fileName())), FoldCase(drawbot::FromQt(type))}] =
-        std::string_view(reinterpret_cast<const char*>(resource.data()),
-                         static_cast<std::size_t>(resource.size()));
-  }
 }
 
 ModuleResources::ModuleResources(const unsigned char* inBytes, std::size_t inSize,
@@ -98,13 +83,15 @@ ModuleResources::~ModuleResources() {
 
 ResourceRegistry::Found ResourceRegistry::Find(HINSTANCE inModule, const UTF16String& inName,
                                                const UTF16String& inType) {
-  using Container = ModuleResources::Container;
-  const Container::Key key(FoldCase(inName), FoldCase(inType));
-  for (Container* container : Containers<Container>()) {
+  const QString key = ResourceKey(drawbot::ToQt(inType), drawbot::ToQt(inName));
+  for (ModuleResources::Container* container : Containers<ModuleResources::Container>()) {
     if (container->mModule != inModule) continue;
     container->Open();
-    const auto found = container->mEntries.find(key);
-    if (found != container->mEntries.end()) return {true, found->second};
+    if (key.isEmpty()) continue;
+    const QResource resource(QLatin1Char(':') + container->mRoot + QLatin1Char('/') + key);
+    if (!resource.isValid()) continue;
+    return {true, std::string_view(reinterpret_cast<const char*>(resource.data()),
+                                   static_cast<std::size_t>(resource.size()))};
   }
   return {false, {}};
 }

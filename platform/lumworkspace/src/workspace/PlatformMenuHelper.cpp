@@ -36,16 +36,27 @@ PlatformMenuHelper::PlatformMenuHelper(ManagerBase& inManager, HMENU inMenu, int
       mFirstCommand(inFirstCommand),
       mLastCommand(inLastCommand) {
   LUM_INPUT_CONTRACT(inFirstCommand > 0 && inLastCommand >= inFirstCommand);
-  for (int command = inFirstCommand; command <= inLastCommand; ++command)
-    SetCommandCheckStyle(command, true);
 }
 
+// Takes out no more than it finds of its own: the menu may have gone before, and its handle may be
+// another's.
 PlatformMenuHelper::~PlatformMenuHelper() {
+  for (unsigned item = 0; item < mItems; ++item) {
+    lumui::ui::MenuItemInfo info;
+    info.mask = lumui::ui::kMenuMaskID;
+    const unsigned id = item < mNames.size() ? static_cast<unsigned>(mFirstCommand) + item : 0;
+    if (!OS_Menu::GetItemInfo(mMenu, 0, info) || info.id != id) break;
+    OS_Menu::RemoveItem(mMenu, 0);
+  }
   for (int command = mFirstCommand; command <= mLastCommand; ++command)
     SetCommandCheckStyle(command, false);
 }
 
+// The commands are marked here as well: one that takes the place of another is made before the
+// other goes, which takes the marks along.
 void PlatformMenuHelper::WorkspacesChanged() {
+  for (int command = mFirstCommand; command <= mLastCommand; ++command)
+    SetCommandCheckStyle(command, true);
   for (; mItems > 0; --mItems)
     OS_Menu::RemoveItem(mMenu, 0);
   mNames = mManager.GetWorkspaceNames();

@@ -51,18 +51,19 @@ class LUMUI_API KeyframeThemeEditor final : public Theme {
   float DoGetTextSize(Text inText) const override;
   void DoSetBrightness(float inBrightness) override;
 
-  const drawbot::ColorRGBA* FindColor(int inColor) const;
-  void Resolve(int inColor, const Frames& inFrames);
-
+  // A colour at the present brightness, found out when it is first asked for: documents set far
+  // more of them than any window shows.
   struct Entry {
+    Frames frames;  // none for a colour that is not known
     drawbot::ColorRGBA color;
-    bool isKnown = false;
+    bool isResolved = false;
   };
 
-  std::map<int, Frames> mFrames;
-  std::vector<Entry> mFixed;                             // at the present brightness
-  std::unordered_map<int, drawbot::ColorRGBA> mFurther;  // likewise
-  std::map<std::pair<int, int>, float> mTextSizes;       // by text and scheme
+  Entry* FindEntry(int inColor) const;
+
+  mutable std::vector<Entry> mFixed;
+  mutable std::unordered_map<int, Entry> mFurther;
+  std::map<std::pair<int, int>, float> mTextSizes;  // by text and scheme
   int mTexts;
   float mPosition;
 };

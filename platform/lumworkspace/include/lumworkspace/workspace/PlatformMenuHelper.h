@@ -14,7 +14,7 @@ class ManagerBase;
 
 // Lists the workspaces at the front of a menu, one a command, with a dot at the current one, and a
 // separator before what else stands in the menu. Add it to its manager, which tells it when to
-// bring the list up to date.
+// bring the list up to date. The list leaves the menu with the helper.
 class LUMWORKSPACE_API PlatformMenuHelper : public PlatformMenuHelperBase {
  public:
   // The manager is borrowed. Workspaces beyond the last command are not listed.

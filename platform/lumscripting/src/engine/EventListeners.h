@@ -4,32 +4,14 @@
 #pragma once
 
 #include <QJSValue>
-#include <map>
-#include <mutex>
-#include <utility>
 #include <vector>
 
 #include "lumcore/Strings.h"
 
 namespace lumscripting {
 
+class ListenedTypes;
 class ScriptObject;
-
-// To what the scripts of a runner listen, for who asks from another thread whether an event is
-// worth queueing.
-class ListenedTypes {
- public:
-  void Add(const ScriptObject* inTarget, const lumcore::UTF16String& inType);
-  void Remove(const ScriptObject* inTarget, const lumcore::UTF16String& inType);
-  bool Contains(const lumcore::UTF16String& inType) const;  // at any target
-  bool Contains(const lumcore::UTF16String& inType, const ScriptObject* inTarget) const;
-
- private:
-  using Targets = std::map<const ScriptObject*, int>;
-
-  mutable std::mutex mMutex;
-  std::map<lumcore::UTF16String, Targets> mTypes;  // how many listeners; none has no entry
-};
 
 // The listeners of a runner's scripts, on the script thread. Targets are addresses that nobody
 // looks behind.

@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-#include "EventListeners.h"
+#include "engine/EventListeners.h"
 #include "lumscripting/ScriptDefinition.h"
 #include "lumscripting/ScriptValue.h"
 

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include "ScriptConvert.h"
+#include "engine/ScriptConvert.h"
 
 #include <QUrl>
 

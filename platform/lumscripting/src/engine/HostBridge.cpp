@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include "HostBridge.h"
+#include "engine/HostBridge.h"
 
 #include <QJSEngine>
 #include <cmath>
@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "HostSide.h"
-#include "ScriptConvert.h"
+#include "engine/ScriptConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumscripting/ScriptEventObject.h"
