@@ -14,7 +14,8 @@ set_tests_properties(vek_trackview_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=
 # Gestures on a real X server, where the tools for one are installed.
 if(VEK_Xvfb AND VEK_openbox AND VEK_xdotool AND VEK_setxkbmap)
   add_executable(vek_trackview_display_tests
-    trackview/RealDisplayTest.cpp lumui/UITest.cpp support/UIApplication.cpp)
+    trackview/RealDisplayTest.cpp lumui/UITest.cpp
+    support/RealInput.cpp support/UIApplication.cpp)
   target_link_libraries(vek_trackview_display_tests PRIVATE vek_test_support vek vek_build_options)
   add_test(NAME vek_trackview_display_tests
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh
