@@ -153,7 +153,9 @@ class DragsAcrossPrograms : public UITest {
 
 TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
   mNode->mEffect = kDropMove;
+  bool isDropped = false;
   mNode->mOn["drop"] = [&](OS_ReceiveData& inData) {
+    isDropped = true;
     EXPECT_FALSE(inData.IsFromThisProgram());
     EXPECT_EQ(inData.GetAllowedEffects(), kDropCopy | kDropMove);
     lumcore::UTF16String text;
@@ -168,6 +170,8 @@ TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
   };
   DragFromPartnerToNode();
   RealInput::RunTool("mouseup 1");
+  // The other program may be through with its drag before we get the drop.
+  RealInput::RunUntil([&] { return isDropped; });
   EXPECT_EQ(WaitForLine(), "sent 2");
   const std::string log = TakeLog();
   EXPECT_EQ(log.find("node:enter@2"), 0u) << log;
