@@ -63,12 +63,16 @@ TEST_F(ViewOnADisplay, OpensTheMenuAtARightClick) {
             "v:acquire@60,70 begin@60,70 news0 end@60,70 news2 ~tracker v:menu@120,140");
 }
 
-TEST_F(ViewOnADisplay, ScrollsByTheWheel) {
+TEST_F(ViewOnADisplay, ScrollsAndZoomsByTheWheel) {
   View().NotifyWhenDataPosChanged(tv::PlatformView::PositionListener(
       new boost::function<void(tv::PlatformView*)>([&](tv::PlatformView* inView) {
         mLog.Add("at" + test_support::AsText(inView->DataPos()));
       })));
   EXPECT_EQ(Send("click 5", "at"), "at50,90");
+  EXPECT_EQ(Send("keydown ctrl click 4 keyup ctrl", "at"), "v:key at50,60 v:key");
+  View().SetZoomsByWheel(true);
+  EXPECT_EQ(Send("keydown ctrl click 4 keyup ctrl", "at"), "v:key at52,62 v:key");
+  EXPECT_EQ(Track().GetCoordScale(), 2.5f);
 }
 
 }  // namespace
