@@ -6,15 +6,24 @@ vek_test(vek_trackview_tests
     trackview/GesturesTest.cpp
     trackview/OverlaysTest.cpp
     trackview/PlatformViewTest.cpp
+    trackview/RepaintTest.cpp
     lumui/UITest.cpp
     support/UIApplication.cpp
   LIBRARIES vek Qt6::Widgets Qt6::GuiPrivate)
 set_tests_properties(vek_trackview_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 
+# The same where a unit is no whole number of pixels.
+foreach(scale 1.25 1.5)
+  add_test(NAME vek_trackview_tests_at_${scale} COMMAND vek_trackview_tests --gtest_brief=1)
+  set_tests_properties(vek_trackview_tests_at_${scale} PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale}")
+endforeach()
+
 # Gestures on a real X server, where the tools for one are installed.
 if(VEK_Xvfb AND VEK_openbox AND VEK_xdotool AND VEK_setxkbmap)
   add_executable(vek_trackview_display_tests
-    trackview/RealDisplayTest.cpp lumui/UITest.cpp support/UIApplication.cpp)
+    trackview/RealDisplayTest.cpp lumui/UITest.cpp
+    support/RealInput.cpp support/UIApplication.cpp)
   target_link_libraries(vek_trackview_display_tests PRIVATE vek_test_support vek vek_build_options)
   add_test(NAME vek_trackview_display_tests
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh

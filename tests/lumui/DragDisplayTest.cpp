@@ -4,27 +4,26 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <atomic>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
-#include <functional>
+#include <deque>
 #include <mutex>
+#include <optional>
+#include <string>
 #include <thread>
 
 #include "DragNode.h"
 #include "lumui/datatransfer/OS_DropTarget.h"
 #include "lumui/datatransfer/OS_SendData.h"
 #include "lumui/ui/Executor.h"
+#include "support/RealInput.h"
 
 // Drags between two programs, by the window system's own road.
 namespace lumui::test {
 
 namespace {
 
-void Send(const std::string& inActions) {
-  EXPECT_EQ(std::system(("xdotool " + inActions).c_str()), 0) << inActions;
-}
+using test_support::RealInput;
 
 class DragsAcrossPrograms : public UITest {
  protected:
@@ -36,7 +35,7 @@ class DragsAcrossPrograms : public UITest {
     mWindow->UI_SetLocalRectF(Rect(300, 200, 200, 100));
     mWindow->UI_AddChild(mNode);
     mWindow->UI_Activate();
-    RunUntil([&] { return mWindow->UI_IsActive(); });
+    mInput.emplace(*mWindow, 29, 30);
     mTarget.Attach(*mWindow);
     StartPartner();
   }
@@ -66,48 +65,47 @@ class DragsAcrossPrograms : public UITest {
     char line[200];
     while (std::fgets(line, sizeof line, file)) {
       const std::lock_guard<std::mutex> lock(mMutex);
-      mLine = line;
-      mLine.pop_back();
+      mLines.emplace_back(line);
+      mLines.back().pop_back();
       Manager().GetExecutor()->Post([] {});
     }
     std::fclose(file);
   }
+  // The next thing that the partner said, empty if it has said nothing more.
   std::string TakeLine() {
     const std::lock_guard<std::mutex> lock(mMutex);
-    return std::exchange(mLine, std::string());
-  }
-  std::string WaitForLine() {
-    std::string line;
-    RunUntil([&] { return !(line = TakeLine()).empty(); });
+    if (mLines.empty()) return "";
+    std::string line = std::move(mLines.front());
+    mLines.pop_front();
     return line;
   }
-  // The condition is looked at whenever everything that came has been handled and answered.
-  void RunUntil(const std::function<bool()>& inCondition) {
-    App().SetIdleFunction([&] {
-      if (inCondition()) App().Quit();
+  // Without what it says of the pointer.
+  std::string WaitForLine() {
+    std::string line;
+    RealInput::RunUntil([&] {
+      do
+        line = TakeLine();
+      while (line == "pointer" || line == "over");
+      return !line.empty();
     });
-    App().Run();
-    App().SetIdleFunction(nullptr);
+    return line;
   }
-  // In the window's coordinates.
-  std::string At(int inX, int inY) {
-    const Rect& place = mWindow->UI_GetLocalRectF();
-    return "mousemove " + std::to_string(static_cast<int>(place.x) + inX) + " " +
-           std::to_string(static_cast<int>(place.y) + inY);
+  int CountSaid(const std::string& inLine) {
+    int count = 0;
+    for (std::string line = TakeLine(); !line.empty(); line = TakeLine())
+      if (line == inLine) ++count;
+    return count;
   }
+  // A source lets a drag go if the button comes up before its target has answered. It tells the
+  // target of another move only when it has had the answer to the one before.
   void DragFromPartnerToNode() {
-    // A move that comes while the last one is being answered may be lost.
-    std::atomic<bool> isOver{false};
-    std::thread tool([&] {
-      // So may a press that comes while the window manager is busy with the new window.
-      for (int round = 0; !isOver; ++round) {
-        if (round % 100 == 0) Send("mouseup 1 mousemove 60 60 mousedown 1 mousemove 80 80");
-        Send(At(30, 30) + " " + At(31, 30));
-      }
-    });
-    RunUntil([&] { return mLast.find("over@2") != std::string::npos; });
-    isOver = true;
-    tool.join();
+    RealInput::SendUntil("mousemove 61 60 mousemove 60 60",
+                         [&] { return CountSaid("pointer") != 0; });
+    RealInput::RunTool("mousedown 1");
+    EXPECT_EQ(WaitForLine(), "pressed");
+    mMoves = 0;
+    RealInput::SendUntil(mInput->At(30, 30) + " " + mInput->At(31, 30),
+                         [&] { return mMoves > kAnswered; });
   }
   // What the partner says of the drop.
   std::string DragOut(bool inWithFiles) {
@@ -120,40 +118,44 @@ class DragsAcrossPrograms : public UITest {
       data.AddBytesOnDemand("application/x-row", [] { return std::string("row"); });
       mEffect = data.SendByDrag(kDropCopy | kDropMove, kDropMove);
     };
-    std::string got;
     std::thread tool([&] {
-      Send(At(30, 30) + " mousedown 1 " + At(40, 40));
-      while (TakeLine() != "entered")
-        Send("mousemove 60 60 mousemove 61 60");
-      Send("mouseup 1");
+      RealInput::RunTool(mInput->At(30, 30) + " mousedown 1");
+      for (int overs = 0; overs <= kAnswered; overs += CountSaid("over"))
+        RealInput::RunTool("mousemove 60 60 mousemove 61 60");
+      RealInput::RunTool("mouseup 1");
     });
-    RunUntil([&] { return mEffect != -1; });
+    RealInput::RunUntil([&] { return mEffect != -1; });
     tool.join();
     return WaitForLine();
   }
   void Log(const std::string& inWord) {
-    mLast = inWord;
+    if (inWord.find("node:over") == 0) ++mMoves;
     UITest::Log(inWord);
   }
+
+  static constexpr int kAnswered = 2;
 
   boost::intrusive_ptr<ui::OS_Window> mWindow;
   datatransfer::OS_DropTarget mTarget;
   DragNode* mNode = nullptr;
-  std::string mLast;
+  std::optional<RealInput> mInput;
+  int mMoves = 0;
   int mEffect = -1;
 
  private:
   pid_t mPartner = -1;
   std::thread mReader;
   std::mutex mMutex;
-  std::string mLine;
+  std::deque<std::string> mLines;
 };
 
 }  // namespace
 
 TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
   mNode->mEffect = kDropMove;
+  bool isDropped = false;
   mNode->mOn["drop"] = [&](OS_ReceiveData& inData) {
+    isDropped = true;
     EXPECT_FALSE(inData.IsFromThisProgram());
     EXPECT_EQ(inData.GetAllowedEffects(), kDropCopy | kDropMove);
     lumcore::UTF16String text;
@@ -167,7 +169,9 @@ TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
     EXPECT_EQ(bytes, std::string(3 << 20, 'x'));
   };
   DragFromPartnerToNode();
-  Send("mouseup 1");
+  RealInput::RunTool("mouseup 1");
+  // The other program may be through with its drag before we get the drop.
+  RealInput::RunUntil([&] { return isDropped; });
   EXPECT_EQ(WaitForLine(), "sent 2");
   const std::string log = TakeLog();
   EXPECT_EQ(log.find("node:enter@2"), 0u) << log;
@@ -177,14 +181,13 @@ TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
 TEST_F(DragsAcrossPrograms, DoNoHarmWhenTheSourceVanishes) {
   DragFromPartnerToNode();
   EndPartner();
-  Send("mouseup 1");
+  RealInput::RunTool("mouseup 1");
   TakeLog();
   StartPartner();
-  mLast.clear();
   DragFromPartnerToNode();
   const std::string log = TakeLog();
   EXPECT_EQ(log.find("node:leave node:enter@"), 0u) << log;
-  Send("mouseup 1");
+  RealInput::RunTool("mouseup 1");
   EXPECT_EQ(WaitForLine(), "sent 1");
 }
 

@@ -56,7 +56,9 @@ class DragNode : public RecordingNode {
   }
   void Do(const std::string& inStep, OS_ReceiveData& inData) {
     const auto found = mOn.find(inStep);
-    if (found != mOn.end()) found->second(inData);
+    if (found == mOn.end()) return;
+    const auto does = found->second;  // which may take itself out
+    does(inData);
   }
 
   const std::string mName;

@@ -14,19 +14,22 @@
 
 // Another program, at the other end of a drag: a window in the corner of the screen from which a
 // press drags, and which takes what is dropped if there are files in it. It tells on its output
-// when it is ready and what has come of each drag.
+// when it is ready, what the pointer does, and what has come of each drag.
 namespace {
 
 class Partner : public QWidget {
  public:
   Partner() {
     setAcceptDrops(true);
+    setMouseTracking(true);
     setWindowFlag(Qt::FramelessWindowHint);
     setGeometry(20, 20, 100, 100);
   }
 
  protected:
+  void mouseMoveEvent(QMouseEvent*) override { Say("pointer"); }
   void mousePressEvent(QMouseEvent*) override {
+    Say("pressed");
     auto* const drag = new QDrag(this);
     auto* const sent = new QMimeData;
     sent->setText(QString::fromUtf8("w\xC3\xB6rd"));
@@ -35,11 +38,10 @@ class Partner : public QWidget {
     drag->setMimeData(sent);
     Say("sent " + QByteArray::number(drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction)));
   }
-  void dragEnterEvent(QDragEnterEvent* inEvent) override {
+  void dragEnterEvent(QDragEnterEvent* inEvent) override { inEvent->acceptProposedAction(); }
+  void dragMoveEvent(QDragMoveEvent* inEvent) override {
     inEvent->acceptProposedAction();
-    if (inEvent->source()) return;
-    // Behind the answer.
-    QTimer::singleShot(0, this, [] { Say("entered"); });
+    if (!inEvent->source()) Say("over");
   }
   void dropEvent(QDropEvent* inEvent) override {
     const QMimeData& got = *inEvent->mimeData();

@@ -164,7 +164,8 @@ namespace {
 class OwnDrags : public Drags {
  protected:
   // Drags from "a" with these acts of the user, of which each comes in the drag's own loop.
-  std::string DragFromA(const std::vector<std::function<void()>>& inActs, int inEffects) {
+  std::string DragFromA(const std::vector<std::function<void()>>& inActs, int inEffects,
+                        ui::PointerEvent::Button inButton = ui::PointerEvent::kLeftButton) {
     int effect = -1;
     mA->mOnMouse = [&](const ui::MouseEvent& inEvent) {
       if (inEvent.GetAction() != ui::PointerEvent::kActionPress) return;
@@ -179,7 +180,7 @@ class OwnDrags : public Drags {
         Manager().GetExecutor()->Post(act);
       effect = data.SendByDrag(inEffects, kDropMove);
     };
-    testing::PressMouse(*mWindow, Point(15, 15));
+    testing::PressMouse(*mWindow, Point(15, 15), inButton);
     mA->mOnMouse = nullptr;
     App().PumpPendingEvents();
     return TakeLog() + "=" + std::to_string(effect);
@@ -222,10 +223,27 @@ TEST_F(OwnDrags, GoTheSameRoadAndTellTheSender) {
             moved + "c:drop@10,5 w\xC3\xB6rd,1,=2");
   EXPECT_EQ(TakeErrors(), "make");
   EXPECT_EQ(DragFromA({Move(160), Release(160)}, kDropCopy), moved + "c:leave=0");
-  const ui::KeyboardCode escape(ui::KeyboardCode::kEscape);
-  EXPECT_EQ(DragFromA({Move(160), [&] { testing::TapKey(*mWindow, escape); }}, kDropMove),
-            moved + "c:leave=0");
-  testing::ReleaseMouse(*mWindow, Point(15, 15));
+}
+
+// The button that comes up after it is the end of no gesture.
+TEST_F(OwnDrags, EndByAKeyWithTheirButtonDown) {
+  const auto escape = [&] {
+    testing::TapKey(*mWindow, ui::KeyboardCode(ui::KeyboardCode::kEscape));
+  };
+  using ui::PointerEvent;
+  for (const auto button : {PointerEvent::kLeftButton, PointerEvent::kRightButton}) {
+    EXPECT_EQ(DragFromA({[&] { testing::MoveMouse(*mWindow, Point(160, 15)); }, escape}, kDropMove,
+                        button),
+              "a:press@5,5 c:enter@10,5 c:over@10,5 c:leave=0");
+    testing::ReleaseMouse(*mWindow, Point(15, 15), button);
+    EXPECT_EQ(TakeLog(), "");
+    testing::ClickMouse(*mWindow, Point(15, 15), button);
+    EXPECT_EQ(TakeLog(), "a:press@5,5 a:release@5,5");
+    // A release that has been lost.
+    DragFromA({escape}, kDropMove, button);
+    testing::ClickMouse(*mWindow, Point(15, 15), button);
+    EXPECT_EQ(TakeLog(), "a:press@5,5 a:release@5,5");
+  }
 }
 
 }  // namespace lumui::test

@@ -10,6 +10,7 @@
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/InputCapture.h"
 #include "lumui/utility/ksv/KeyboardShape.h"
+#include "support/RealInput.h"
 
 // The same road with a real window system and a window manager at its other end: input comes from
 // another process.
@@ -17,6 +18,7 @@ namespace lumui::test {
 
 namespace {
 
+const auto RunUntil = &test_support::RealInput::RunUntil;
 using ui::KeyboardCode;
 
 int sCloses = 0;
@@ -68,11 +70,8 @@ class RealDisplay : public UITest {
 
   void Activate() {
     mWindow->UI_Activate();
-    App().SetIdleFunction([this] {
-      if (mWindow->UI_IsActive()) App().Quit();
-    });
-    App().Run();
-    App().SetIdleFunction(nullptr);
+    const test_support::RealInput input(*mWindow, kPlace, kPlace);
+    RunUntil([this] { return mWindow->UI_IsActive(); });
   }
 
   // Runs the tool that sends input, with a last key behind, and our loop until that key has come.
@@ -84,16 +83,16 @@ class RealDisplay : public UITest {
     EXPECT_EQ(App().Run(), 0);
     tool.join();
   }
-  // A window manager that looks at clicks first may pass them on behind the last key: a few more
-  // keys give it time, and the log is judged when it is complete or when it stays wrong.
+  // A window manager that looks at clicks first may pass them on behind the last key: what has come
+  // is judged when it is complete or when it has gone wrong.
   std::string Sent(const std::string& inActions, const std::string& inExpected) {
     Send(inActions);
     std::string log = TakeLog();
-    for (int round = 0; round < kRounds && log != inExpected; ++round) {
-      Send("");
+    RunUntil([&] {
       const std::string more = TakeLog();
       if (!more.empty()) log += (log.empty() ? "" : " ") + more;
-    }
+      return log.size() >= inExpected.size() || inExpected.compare(0, log.size(), log) != 0;
+    });
     return log;
   }
   void ExpectLog(const std::string& inActions, const std::string& inExpected) {
@@ -153,7 +152,7 @@ class RealDisplay : public UITest {
     return readings + " ";
   }
 
-  static constexpr int kRounds = 20;
+  static constexpr int kPlace = 90;  // in the window, and not over the node
   std::string mLayout = "us";
   boost::intrusive_ptr<ui::OS_Window> mWindow;
   boost::intrusive_ptr<RecordingNode> mNode;
@@ -315,8 +314,7 @@ TEST_F(RealDisplay, ClicksWheelsAndDragsComeOnce) {
 TEST_F(RealDisplay, WindowManagersCloseIsARequest) {
   sCloses = 0;
   Send("key alt+F4");
-  for (int round = 0; round < kRounds && sCloses == 0; ++round)
-    Send("");
+  RunUntil([] { return sCloses != 0; });
   EXPECT_EQ(sCloses, 1);
   EXPECT_NE(mWindow->UI_GetHandle(), nullptr);
 }

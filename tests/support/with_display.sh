@@ -17,6 +17,7 @@ finish() {
   rm -rf "$folder"
 }
 trap finish EXIT
+trap 'exit 1' HUP INT TERM
 
 Xvfb -displayfd 3 -screen 0 800x600x24 -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/server.log" &
 server=$!

@@ -44,18 +44,20 @@ TEST_F(PlatformViews, ConvertWithTheScrollAndRoundHalvesUpward) {
 }
 
 TEST_F(PlatformViews, GoWhereTheyAreToldWithinTheContent) {
-  View().DataPos(Point(10.2f, 20.3f), true);  // local 20.4 and 40.6
-  EXPECT_EQ(Position(), "10,20.5");
+  // Local 20.4 and 43.6. Every fourth unit is a whole pixel at each scale of the screen.
+  View().DataPos(Point(10.2f, 21.8f), true);
+  EXPECT_EQ(Position(), "10,22");
   View().DataPos(Point(-5, 1e6f), false);
-  EXPECT_EQ(View().DataPos(), Point(0, 400 - View().DataSize().y));
+  EXPECT_EQ(View().DataPos().x, 0);
+  EXPECT_NEAR(View().DataPos().y, 400 - View().DataSize().y, 0.25);  // to the pixel
   // Content exactly as wide as the view stays, though the other bar lies over a part of it.
   Rescale(1, Point(180, 300));
-  View().DataPos(Point(5, 6), true);
-  EXPECT_EQ(Position(), "0,6");
+  View().DataPos(Point(4, 8), true);
+  EXPECT_EQ(Position(), "0,8");
   // Content exactly as high does not.
   Rescale(1, Point(300, 80));
-  View().DataPos(Point(5, 6), true);
-  EXPECT_EQ(Position(), "5,6");
+  View().DataPos(Point(4, 8), true);
+  EXPECT_EQ(Position(), "4,8");
 
   // An outside owner decides about a manual view.
   LUMPlatformView* const view = &View();
@@ -80,6 +82,26 @@ TEST_F(PlatformViews, TellWhenTheyMove) {
   mScroll->SetOffset(lumcore::geom::PointT<double>(0, 0));  // by the program
   View().DependantDataPosChanged(&other->GetPlatformView(), true, true);
   EXPECT_EQ(mLog.Take(), "0,10 0,16 0,0");
+}
+
+// At the window's (70, 60), which is the view's (60, 40).
+TEST_F(PlatformViews, ZoomUnderThePointerWhereAHostWantsIt) {
+  const auto turn = [&](float inNotches) {
+    input::TurnWheel(*mWindow, Point(70, 60), Point(0, inNotches),
+                     lumui::ui::ModifierKeys(lumui::ui::kModCommand));
+    return std::to_string(Track().GetCoordScale()).substr(0, 4) + "@" + Position();
+  };
+  EXPECT_EQ(turn(0.5f).substr(0, 8), "2.00@50,");  // scrolls
+  View().DataPos(Point(50, 60), true);
+  View().SetZoomsByWheel(true);
+  EXPECT_EQ(turn(-1), "2.50@56,64");  // 80,80 stays under it
+  EXPECT_EQ(turn(1), "2.00@50,60");
+  EXPECT_EQ(turn(-9), "4.00@65,70");
+  mLog.Take();
+  EXPECT_EQ(turn(-1), "4.00@65,70");
+  App().PumpPendingEvents();
+  EXPECT_EQ(mLog.Take(), "");
+  EXPECT_EQ(turn(100), "0.25@0,0");
 }
 
 TEST_F(PlatformViews, DrawWhatIsDamagedAndFollowTheirSize) {

@@ -28,6 +28,7 @@ using AllFlags = lumcore::utility::Flags<unsigned int>;
 
 // Leaves room for the difference of two.
 constexpr double kFarthest = 1 << 30;
+constexpr float kNoFractions = 1 << 23;  // from here on a float knows whole units at best
 
 int ToInt(double inWhole) {
   if (!(inWhole > -kFarthest)) return -static_cast<int>(kFarthest);
@@ -47,11 +48,17 @@ Point ToFloat(const IntPoint& inPoint) {
   return Point(static_cast<float>(inPoint.x), static_cast<float>(inPoint.y));
 }
 
+// Far down the sum of two floats may be many units short of what is drawn.
+double EndOf(float inStart, float inSize) {
+  if (std::abs(inStart) < kNoFractions) return inStart + inSize;
+  return static_cast<double>(inStart) + inSize;
+}
+
 IntRect Covering(const Rect& inRect) {
   const int left = ToInt(std::floor(inRect.x));
   const int top = ToInt(std::floor(inRect.y));
-  return IntRect(left, top, ToInt(std::ceil(inRect.Right())) - left,
-                 ToInt(std::ceil(inRect.Bottom())) - top);
+  return IntRect(left, top, ToInt(std::ceil(EndOf(inRect.x, inRect.width))) - left,
+                 ToInt(std::ceil(EndOf(inRect.y, inRect.height))) - top);
 }
 
 }  // namespace

@@ -46,6 +46,7 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   bool UI_WantsKeyboardFocus() const override;
   void UI_DoTimerNotify(unsigned int inTimerID) override;
   void UI_FocusChanged(int inReason) override;
+  bool UI_DoMouseWheel(lumui::ui::UI_Node* inNode, const lumui::ui::WheelEvent& inEvent) override;
   // What the overlays offer that are AccessibleOverlays, the nearest first.
   lumui::ui::AccessibleItems* UI_GetAccessibleItems() override;
   // Drags go to the trackers of the overlays that want them; positions are local.
@@ -85,6 +86,9 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
 
   // Whether the Tab key stops here; it does at start. A press takes the focus in either case.
   void SetWantsKeyboardFocus(bool inWants) { mWantsKeyboardFocus = inWants; }
+  // Whether Ctrl and the wheel zoom, within the scale range; they scroll at start. What is under
+  // the pointer stays there as far as the content reaches.
+  void SetZoomsByWheel(bool inZooms) { mZoomsByWheel = inZooms; }
   // Null but while one is handled.
   const lumui::ui::MouseEvent* GetCurrentMouseEvent() const { return mCurrentMouseEvent; }
 
@@ -100,6 +104,7 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   void ScrollBarChanged(lumui::controls::UI_InteractiveControlChangedMessage* inMessage);
   Point NotePointer(const lumui::ui::MouseEvent& inEvent);
   void ShowContextMenu(const Point& inLocalPoint);
+  void ZoomAt(const Point& inLocalPoint, float inFactor);
 
   lumui::controls::UI_ScrollView* FindScrollView() const;
   Point GetScrollOrigin() const;  // (0, 0) without a scroll view
@@ -117,6 +122,7 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   DropGesture mDropGesture;
   std::set<unsigned int> mTimers;  // that run
   const std::unique_ptr<lumui::ui::AccessibleItems> mAccessibleItems;
+  bool mZoomsByWheel = false;
 };
 
 }  // namespace vek::trackview

@@ -1,6 +1,8 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <cmath>
+
 #include "lumcore/utility/ScopedValue.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/PointerEvent.h"
@@ -18,6 +20,7 @@ using lumui::ui::MouseEvent;
 using lumui::ui::UI_NodeManager;
 
 constexpr int kDoubleClick = 2;
+constexpr float kZoomANotch = 1.25f;
 
 // Whether the button of the press is held now.
 bool IsHeld(const MouseEvent& inPress) {
@@ -104,6 +107,28 @@ void LUMPlatformView::UI_FocusChanged(int inReason) {
   const StKeepAlive keepAlive(*this);
   if (UI_HasKeyboardFocus() && GetTrackView()) GetTrackView()->ViewActivation();
   UI_SubView::UI_FocusChanged(inReason);
+}
+
+bool LUMPlatformView::UI_DoMouseWheel(lumui::ui::UI_Node* inNode,
+                                      const lumui::ui::WheelEvent& inEvent) {
+  const StKeepAlive keepAlive(*this);
+  const bool zooms =
+      mZoomsByWheel && GetTrackView() && inEvent.GetModKey().Has(lumui::ui::kModCommand);
+  if (!zooms) return UI_SubView::UI_DoMouseWheel(inNode, inEvent);
+  ZoomAt(inEvent.GetPosition(), std::pow(kZoomANotch, -inEvent.GetNotches().y));
+  return true;
+}
+
+void LUMPlatformView::ZoomAt(const Point& inLocalPoint, float inFactor) {
+  TrackView& trackView = *GetTrackView();
+  const Point inView = inLocalPoint - GetScrollOrigin();
+  const float old = trackView.GetCoordScale();
+  Point local = ToData(inLocalPoint);
+  trackView.SetCoordScale(old * inFactor, true, Point(-1, -1));
+  if (trackView.GetCoordScale() == old) return;
+  trackView.DataToLocal(local);
+  DataPos(ToData(local - inView), true);
+  InvalidateDataRect(trackView.DataArea());
 }
 
 void LUMPlatformView::DoNonMouseTrack(bool inOnlyIfInside) {

@@ -85,12 +85,6 @@ bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
          inWindow.GetPeer()->GetChromeHeight();
 }
 
-// Qt sends it when the drag's loop is over.
-bool IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent) {
-  return inEvent.type() == QEvent::MouseButtonRelease && !inEvent.spontaneous() &&
-         FindWindowOf(inNative);
-}
-
 }  // namespace
 
 EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
@@ -305,6 +299,9 @@ bool EventGate::HandleClose(OS_Window& inWindow, QEvent& inEvent) {
 
 // Qt's own drags take what they need in a filter that comes before the widgets.
 bool EventGate::HandleInDrag(QWindow& inNative, QEvent& inEvent) {
+  if (inEvent.type() == QEvent::MouseButtonRelease) {
+    mHeldSinceDrag.setFlag(static_cast<const QMouseEvent&>(inEvent).button(), false);
+  }
   datatransfer::HeadlessDrag* const headless = datatransfer::HeadlessDrag::GetRunning();
   if (!headless) return QApplication::notify(&inNative, &inEvent);
   headless->HandleEvent(inEvent);
@@ -316,12 +313,24 @@ bool EventGate::HandleInDrag(QWindow& inNative, QEvent& inEvent) {
 int EventGate::RunDrag(const std::function<int()>& inLoop) {
   const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, true);
   mDragging = true;
+  mHeldSinceDrag = mouseButtons();
   mDropCameHere = false;
   mDragWatch->Forget();
   int effect = inLoop();
   if (!mDropCameHere) effect = mDragWatch->AwaitFinish(effect);
   mDragging = false;
   return effect;
+}
+
+// Qt sends one when the drag's loop is over; the user's own comes later where a key has ended the
+// drag. Whoever presses the button again is not waiting for it any more.
+bool EventGate::IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent) {
+  const QEvent::Type type = inEvent.type();
+  if (!IsPointerEvent(type) || type == QEvent::MouseMove || !FindWindowOf(inNative)) return false;
+  const auto& mouse = static_cast<const QMouseEvent&>(inEvent);
+  const bool wasHeld = inEvent.spontaneous() && mHeldSinceDrag.testFlag(mouse.button());
+  if (inEvent.spontaneous()) mHeldSinceDrag.setFlag(mouse.button(), false);
+  return type == QEvent::MouseButtonRelease && (wasHeld || !inEvent.spontaneous());
 }
 
 void EventGate::RunDrop(const std::function<void()>& inDrop) {

@@ -103,6 +103,7 @@ class LUMUI_API EventGate : public QApplication {
   bool RouteMarked(QWindow& inWindow, QEvent& inEvent);
   bool RouteWindow(QWindow& inWindow, QEvent& inEvent);
   bool HandleInDrag(QWindow& inNative, QEvent& inEvent);
+  bool IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent);
   bool RouteForeign(QWindow& inWindow, QEvent& inEvent);
   bool RouteWidget(QWidget& inWidget, QEvent& inEvent);
   void WatchWidget(QWidget& inWidget, QEvent& inEvent);
@@ -126,6 +127,7 @@ class LUMUI_API EventGate : public QApplication {
   bool mPainting = false;
   std::atomic<bool> mDragging{false};
   bool mDragTakesInput = false;
+  Qt::MouseButtons mHeldSinceDrag;
   bool mDropCameHere = false;  // of the drag, so no other program's answer follows
   std::unique_ptr<datatransfer::DragWatch> mDragWatch;
   ModifierKeys mTypingModifiers;
