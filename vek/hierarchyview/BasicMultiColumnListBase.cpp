@@ -189,6 +189,7 @@ int BasicMultiColumnListBase::NumSelectedEntries() {
 // Selected rows are marked from edge to edge.
 void BasicMultiColumnListBase::ListenToMessage(const selection::SelectionChangeMessage&) {
   GetTrackView()->GetPlatformView().InvalidateDataRect(GetTrackView()->DataArea());
+  AnnounceSelection();
 }
 
 void BasicMultiColumnListBase::DoBuildHierarchy() {}

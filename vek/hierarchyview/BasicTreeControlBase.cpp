@@ -198,6 +198,7 @@ bool BasicTreeControlBase::DoProcessOnOpenSelected() {
 void BasicTreeControlBase::ListenToMessage(const selection::SelectionChangeMessage&) {
   trackview::TrackView* const view = GetTrackView();
   view->GetPlatformView().InvalidateDataRect(view->DataArea());
+  AnnounceSelection();
 }
 
 }  // namespace vek::hierarchyview
