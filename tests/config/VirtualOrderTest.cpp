@@ -25,6 +25,7 @@
 #include "vek/uisupport/CommandHandler.h"
 #include "vek/undo/MultiDeed.h"
 #include "vek/undo/MultiUndoerHooks.h"
+#include "vek/workspace/GenericPanelCreatorBase.h"
 
 namespace {
 
@@ -186,6 +187,8 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
                       &Geometry::end, &Geometry::beginDeep, &Geometry::endDeep, &Geometry::rbegin,
                       &Geometry::rend),
             "0 1 2 3 4 5 6 7 ");
+  using Creator = vek::workspace::GenericPanelCreatorBase;
+  EXPECT_EQ(Positions(&Creator::BuildPanel, &Creator::GetFirstPlace), "2 3 ");
   // The destructor stands second.
   EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
 }

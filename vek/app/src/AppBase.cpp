@@ -36,6 +36,7 @@
 #include "vek/uisupport/KeyCommandManager.h"
 #include "vek/uisupport/MainWindowLookup.h"
 #include "vek/utility/VekResources.h"
+#include "vek/workspace/GenericPanelRegistry.h"
 #include "vek/workspace/Workspace.h"
 
 namespace vek::app {
@@ -152,6 +153,8 @@ bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   uisupport::SetDrawSupplierLookup([this]() -> lumui::drawbot::SupplierInterface* {
     return mWorkspace ? mWorkspace->UI_GetDrawSupplier() : nullptr;
   });
+  // Before anybody can restore a layout, which would lose the panels that nobody makes.
+  if (mWorkspace) workspace::GenericPanelRegistry::GetInstance().RegisterTabCreators(*mWorkspace);
   mLastStage = kStageSplashScreen;
   const boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog> splashScreen = GetNewSplashScreen();
   if (splashScreen) splashScreen->Show(true);

@@ -199,6 +199,7 @@ void NodePeer::HandleFocus(QEvent& inEvent) {
   if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) return;
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   EventGate::Get()->RunGuarded([&] { mNode->UI_FocusChanged(ReasonFromQt(reason)); });
+  mNode->NoteChange();
 }
 
 // The user, or a widget of Qt that lays out others, has moved the widget: the node follows.
