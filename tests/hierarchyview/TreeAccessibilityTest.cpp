@@ -15,6 +15,7 @@
 #include "vek/hierarchyview/BasicMultiColumnListBase.h"
 #include "vek/hierarchyview/BasicTreeControlBase.h"
 #include "vek/hierarchyview/BasicTreeListRowGeometry.h"
+#include "vek/hierarchyview/TreeListGeometry.h"
 #include "vek/selection/Manager.h"
 #include "vek/selection/Node.h"
 #include "vek/trackview/PlatformScrollView.h"
@@ -27,7 +28,7 @@ using lumui::test::U16;
 namespace tv = vek::trackview;
 using Rect = tv::Rect;
 
-// Its cells read "a1" and so on, by the column's attribute. Those with a capital take no selection.
+// Its cells read "a1" and so on, by the column's attribute. Capitals take no selection.
 class Entry : public Named<HierarchyEntry>, public vek::selection::Node {
  public:
   explicit Entry(char inName) : Named(std::string(1, inName), nullptr, kNodeCollapsed) {}
@@ -45,8 +46,9 @@ class Entry : public Named<HierarchyEntry>, public vek::selection::Node {
 // Notes the rows that it paints, each as "a1@38" by its top in the data.
 class PaintNotingList : public BasicMultiColumnListBase {
  public:
-  PaintNotingList(tv::TrackView& inTrackView, bool inHideRoot)
-      : BasicMultiColumnListBase(&inTrackView, false, false, false, inHideRoot) {}
+  PaintNotingList(tv::TrackView& inTrackView, bool inHideRoot, bool inOwnGeometry)
+      : BasicMultiColumnListBase(&inTrackView, false, false, false, inHideRoot),
+        mOwnGeometry(inOwnGeometry) {}
   std::set<std::pair<float, std::string>> mPainted;
 
  private:
@@ -79,6 +81,16 @@ class PaintNotingList : public BasicMultiColumnListBase {
   std::auto_ptr<TreeRowGeometryFactory> CreateRowGeometryFactory() override {
     return std::auto_ptr<TreeRowGeometryFactory>(new Factory(*this));
   }
+  // A class of a host's own, whose rows are found by walking alone.
+  class Geometry : public TreeListGeometry {
+    using TreeListGeometry::TreeListGeometry;
+  };
+  std::auto_ptr<HierarchyGeometry> CreateGeometry() override {
+    if (!mOwnGeometry) return BasicMultiColumnListBase::CreateGeometry();
+    return std::auto_ptr<HierarchyGeometry>(new Geometry(this, 10, GetHideRoot()));
+  }
+
+  bool mOwnGeometry;
 };
 
 std::string* sEvents = nullptr;
@@ -108,8 +120,11 @@ class ReadTrees : public lumui::test::UITest {
   tv::TrackView& Track() { return *View().GetTrackView(); }
   tv::LUMPlatformView& View() { return mScroll->GetPlatformView(); }
   // The shape as ReadTree has it; the hidden root is not in it.
-  void Build(const std::string& inShape, bool inHideRoot = true) {
-    std::auto_ptr<tv::Overlay> overlay(mList = new PaintNotingList(Track(), inHideRoot));
+  void Build(const std::string& inShape, bool inHideRoot = true, bool inOwnGeometry = false) {
+    if (mList) Track().RemoveOverlay(mList);
+    View().DataPos(tv::Point(0, 0), true);
+    std::auto_ptr<tv::Overlay> overlay(mList =
+                                           new PaintNotingList(Track(), inHideRoot, inOwnGeometry));
     mList->InsertColumn(1U, 100, 10, U16("First").c_str(), nullptr);
     mList->InsertColumn(2U, 60, 10, U16("Second").c_str(), nullptr);
     HierarchyEntryBase* parent = nullptr;
@@ -166,22 +181,24 @@ class ReadTrees : public lumui::test::UITest {
 };
 
 TEST_F(ReadTrees, EachPaintedRowHasItsNode) {
-  Build("a [b c] d e [f] g h i");
-  const auto Check = [&](const std::string& inStart) {
-    EXPECT_EQ(Painted().substr(0, inStart.size()), inStart);
-    EXPECT_EQ(Nodes(), Painted());
-  };
-  Check("a1@0 d1@19 ");
-  mList->ExpandNode(mEntries['a'], true);
-  Check("a1@0 b1@19 c1@38 d1@57 ");
-  mList->ExpandAll();
-  View().DataPos(tv::Point(0, 30), true);
-  Check("b1@-11 c1@8 d1@27 e1@46 ");
-  mList->TakeOutEntry(mEntries['c']);
-  mList->ResizeHierarchy();
-  Check("b1@-11 d1@8 e1@27 f1@46 ");
-  mList->SetSortColumn(1);
-  Check("h1@-11 g1@8 e1@27 f1@46 ");
+  for (const bool ownGeometry : {false, true}) {
+    Build("a [b c] d e [f] g h i", true, ownGeometry);
+    const auto Check = [&](const std::string& inStart) {
+      EXPECT_EQ(Painted().substr(0, inStart.size()), inStart);
+      EXPECT_EQ(Nodes(), Painted());
+    };
+    Check("a1@0 d1@19 ");
+    mList->ExpandNode(mEntries['a'], true);
+    Check("a1@0 b1@19 c1@38 d1@57 ");
+    mList->ExpandAll();
+    View().DataPos(tv::Point(0, 30), true);
+    Check("b1@-11 c1@8 d1@27 e1@46 ");
+    mList->TakeOutEntry(mEntries['c']);
+    mList->ResizeHierarchy();
+    Check("b1@-11 d1@8 e1@27 f1@46 ");
+    mList->SetSortColumn(1);
+    Check("h1@-11 g1@8 e1@27 f1@46 ");
+  }
 }
 
 TEST_F(ReadTrees, RowsTellTheirPlaceStateAndCells) {
