@@ -114,7 +114,8 @@ int AccessibleRows::GetAccessibleIndex(ID inItem) const {
   if (!*row) return -1;
   const std::uint32_t cell = CellOf(inItem);
   if (cell == 0) return CountRowsTo(*row);
-  return cell <= GetColumns()->GetNumberOfColumns() ? static_cast<int>(cell - 1) : -1;
+  MultiColumnView const* const columns = GetColumns();
+  return columns && cell <= columns->GetNumberOfColumns() ? static_cast<int>(cell - 1) : -1;
 }
 
 bool AccessibleRows::DescribeAccessible(ID inItem, AccessibleItem& outItem) const {
