@@ -1,5 +1,6 @@
 vek_test(vek_trees_tests
   SOURCES
+    hierarchyview/TreeAccessibilityTest.cpp
     hierarchyview/TreeFuzzTest.cpp
     hierarchyview/TreeKeysTest.cpp
     hierarchyview/TreePaintingTest.cpp
@@ -7,7 +8,7 @@ vek_test(vek_trees_tests
     hierarchyview/TreeWindowTest.cpp
     lumui/UITest.cpp
     support/UIApplication.cpp
-  LIBRARIES vek)
+  LIBRARIES vek Qt6::Widgets Qt6::GuiPrivate)
 set_tests_properties(vek_trees_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 target_compile_definitions(vek_trees_tests PRIVATE
   "TEST_PICTURES=\"${CMAKE_CURRENT_SOURCE_DIR}/hierarchyview/pictures\"")

@@ -218,6 +218,11 @@ TEST(Headers, FindHandlesLeftOfTheEdges) {
     text += pair.mHeader->PointInResizeHandle(Point(x, 0), column) ? Joined(column) : "-";
   }
   EXPECT_EQ(text, "-0011-22-");
+  pair.mList->SetColumnWidth(0, 5);
+  unsigned short narrow = 9;
+  EXPECT_TRUE(pair.mHeader->PointInResizeHandle(Point(-1, 0), narrow));
+  EXPECT_FALSE(pair.mHeader->PointInResizeHandle(Point(-3, 0), narrow));
+  pair.mList->SetColumnWidth(0, 60);
   text.clear();
   for (const Rect& rect : {Rect(0, 0, 53, 20), Rect(0, 0, 53.5f, 20), Rect(60, 0, 1, 20),
                            Rect(70, 0, 20, 20), Rect(106, 0, 9, 20)}) {

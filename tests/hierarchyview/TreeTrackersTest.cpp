@@ -149,6 +149,10 @@ TEST_F(TreeTrackers, SurvivesATreeThatIsBuiltAnewInTheMiddleOfABand) {
   mTree->BuildHierarchy();
   Do("M25,200 r");
   EXPECT_EQ(Rows(), "a* c*!");
+  Do("p150,3 m25,30");
+  mTree->ResetGeometry();
+  Do("r");
+  EXPECT_EQ(mTree->GetFocusItem(), nullptr);
 }
 
 }  // namespace

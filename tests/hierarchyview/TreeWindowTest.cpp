@@ -12,6 +12,7 @@
 #include "lumui/ui/KeyframeThemeEditor.h"
 #include "support/ThemeDocuments.h"
 #include "support/TreeRig.h"
+#include "vek/selection/Restorer.h"
 #include "vek/trackview/PlatformScrollView.h"
 
 namespace {
@@ -55,8 +56,8 @@ class TreeWindow : public lumui::test::UITest {
     lumui::testing::TapKey(*mWindow, KeyboardCode::CreateFromControlCode(inKey, false));
   }
   void Click(float inX, float inY, unsigned char inModifiers = 0) {
-    lumui::testing::ClickMouse(*mWindow, tv::Point(inX, inY),
-                               lumui::ui::PointerEvent::kLeftButton, tv::Modifiers(inModifiers));
+    lumui::testing::ClickMouse(*mWindow, tv::Point(inX, inY), lumui::ui::PointerEvent::kLeftButton,
+                               tv::Modifiers(inModifiers));
   }
 
   lumui::testing::VirtualClock mClock;
@@ -134,11 +135,33 @@ TEST_F(TreeWindow, ALeavingNodeIsForgottenAndAManagerOutlivesItsTree) {
   EXPECT_FALSE(manager->AnySelectableNodes());
 }
 
+// Rows that a deed takes out and puts back are found again, wherever they stand by then.
+TEST_F(TreeWindow, ARestorerBringsBackSelectionAndFocusOfWhatIsThere) {
+  const boost::intrusive_ptr<vek::selection::Manager> manager(mTree->GetSelectionManager());
+  const std::unique_ptr<vek::selection::RestorerFactory> factory(manager->NewRestorerFactory());
+  mTree->ExpandAll();
+  for (const char* name : {"Beet", "Apple", "Zebra"})
+    mTree->SelectEntry(mNodes[name], true);
+  const std::unique_ptr<vek::selection::Restorer> restorer(factory->NewRestorer());
+  const EntryP zebra(mNodes["Zebra"]);
+  mTree->RemoveNode(zebra.get());
+  mTree->RemoveNode(mNodes["Apple"]);  // for good
+  mTree->SelectEntry(mNodes["Roots"], false);
+  restorer->Restore();
+  EXPECT_EQ(Rows(), "Fruits Cherry Roots Beet* Carrot");
+  mTree->AddEntry(mNodes["Fruits"], zebra);
+  restorer->Restore();
+  EXPECT_EQ(Rows(), "Fruits Cherry Zebra*! Roots Beet* Carrot");
+  Track().RemoveOverlay(mTree);
+  restorer->Restore();
+  EXPECT_TRUE(manager->SelectedSelectables().empty());
+}
+
 // Beside pictures of before, in tests/hierarchyview/pictures. Letters differ from system to system,
 // so a part of the pixels may; what is selected, a lost row or another colour is more than that.
 // Where VEK_NEW_PICTURES names a folder, the pictures of now are put there.
-class TreePictures : public TreeWindow, public testing::WithParamInterface<std::pair<float, bool>> {
-};
+class TreePictures : public TreeWindow,
+                     public testing::WithParamInterface<std::pair<float, bool>> {};
 
 TEST_P(TreePictures, LookAsTheyDid) {
   const auto [scale, isDark] = GetParam();
@@ -177,9 +200,9 @@ TEST_P(TreePictures, LookAsTheyDid) {
   EXPECT_LT(differing, width * height / 25) << name;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Scales, TreePictures,
-    testing::Values(std::pair(1.0f, true), std::pair(1.5f, true), std::pair(2.0f, true),
-                    std::pair(1.0f, false), std::pair(1.5f, false), std::pair(2.0f, false)));
+INSTANTIATE_TEST_SUITE_P(Scales, TreePictures,
+                         testing::Values(std::pair(1.0f, true), std::pair(1.5f, true),
+                                         std::pair(2.0f, true), std::pair(1.0f, false),
+                                         std::pair(1.5f, false), std::pair(2.0f, false)));
 
 }  // namespace

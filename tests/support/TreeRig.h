@@ -37,6 +37,7 @@ class LoggedTree : public BasicTreeControlBase {
   }
   using BasicTreeControlBase::GetSelJunction;
   using BasicTreeControlBase::SetRootEntry;
+  using TreeControlBase::ResetGeometry;
   using TreeControlBase::TypedownClosestMatch;
 
   void SelectionChanged() override { mLog.Add("changed"); }

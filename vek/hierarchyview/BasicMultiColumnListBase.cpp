@@ -8,6 +8,7 @@
 #include "vek/hierarchyview/BasicMultiColListSelJunction.h"
 #include "vek/hierarchyview/BasicMultiColRootNode.h"
 #include "vek/hierarchyview/BasicTreeListRowGeometry.h"
+#include "vek/hierarchyview/EntryManager.h"
 #include "vek/hierarchyview/EntryWalk.h"
 #include "vek/hierarchyview/HoldEntry.h"
 #include "vek/selection/ActiveManager.h"
@@ -23,10 +24,11 @@ using selection::Node;
 namespace {
 
 // A manager borrows its junction, and may be held when the control is gone.
-class ListManager : public Manager {
+class ListManager : public EntryManager {
  public:
-  explicit ListManager(boost::shared_ptr<BasicMultiColListSelJunction> const& inJunction)
-      : Manager(inJunction.get()), mJunction(inJunction) {}
+  ListManager(boost::shared_ptr<BasicMultiColListSelJunction> const& inJunction,
+              TreeControlBase* inControl)
+      : EntryManager(inJunction.get(), inControl), mJunction(inJunction) {}
 
  private:
   boost::shared_ptr<BasicMultiColListSelJunction> mJunction;
@@ -70,7 +72,7 @@ BasicMultiColumnListBase::BasicMultiColumnListBase(trackview::TrackView* inTrack
     : TreeListControlBase(inTrackView, inHideRoot, 0, inIsSingleSelect, inAllowsDragOut),
       mHasIcons(inHasIcons),
       mJunction(new BasicMultiColListSelJunction(this)),
-      mManager(new ListManager(mJunction)) {
+      mManager(new ListManager(mJunction, this)) {
   SetRootEntry(new BasicMultiColRootNode);
   mManager->GetSelectionChangeNotifier()->AddListener(this);
 }
@@ -79,6 +81,15 @@ BasicMultiColumnListBase::~BasicMultiColumnListBase() {
   mManager->GetSelectionChangeNotifier()->RemoveListener(this);
   mManager->DeselectAll();
   mJunction->ForgetControl();
+  mManager->ForgetControl();
+}
+
+Manager* BasicMultiColumnListBase::GetSelectionManager() const {
+  return mManager.get();
+}
+
+Manager* BasicMultiColumnListBase::GetSelectionManager() {
+  return mManager.get();
 }
 
 void BasicMultiColumnListBase::InsertEntry(HierarchyEntryBase* inParent,
@@ -189,6 +200,7 @@ int BasicMultiColumnListBase::NumSelectedEntries() {
 // Selected rows are marked from edge to edge.
 void BasicMultiColumnListBase::ListenToMessage(const selection::SelectionChangeMessage&) {
   GetTrackView()->GetPlatformView().InvalidateDataRect(GetTrackView()->DataArea());
+  AnnounceSelection();
 }
 
 void BasicMultiColumnListBase::DoBuildHierarchy() {}

@@ -13,12 +13,14 @@
 namespace vek::hierarchyview {
 
 class BasicMultiColListSelJunction;
+class EntryManager;
 
 // A tree list that is ready for use: it has a root, and a selection of its own with its manager.
 // Entries are of a host's classes; one that can be selected answers with a node from
 // GetDataAsSelNode. The columns are those that somebody inserts.
 //
-// Who wants to know what is selected listens to the manager. Entries may be put in and taken out
+// Who wants to know what is selected listens to the manager, whose restorers put back the selection
+// and the focus, for deeds. Entries may be put in and taken out
 // while the list shows: after a batch of those the caller sends one ResizeHierarchy.
 class VEK_API BasicMultiColumnListBase
     : public TreeListControlBase,
@@ -53,8 +55,8 @@ class VEK_API BasicMultiColumnListBase
   void DoViewActivation() override;
   bool DoDoubleClick(trackview::Modifiers inModifiers, const Point& inDataPoint) override;
   int NumSelectedEntries() override;
-  selection::Manager* GetSelectionManager() const override { return mManager.get(); }
-  selection::Manager* GetSelectionManager() override { return mManager.get(); }
+  selection::Manager* GetSelectionManager() const override;
+  selection::Manager* GetSelectionManager() override;
   void ListenToMessage(const selection::SelectionChangeMessage& inMessage) override;
 
  protected:
@@ -76,7 +78,7 @@ class VEK_API BasicMultiColumnListBase
   bool mHasIcons;
   bool mIsFlatList = false;
   boost::shared_ptr<BasicMultiColListSelJunction> mJunction;
-  boost::intrusive_ptr<selection::Manager> mManager;
+  boost::intrusive_ptr<EntryManager> mManager;
 };
 
 }  // namespace vek::hierarchyview

@@ -5,6 +5,7 @@
 
 #include "lumcore/debug/Contract.h"
 #include "vek/hierarchyview/BasicTreeRowGeometry.h"
+#include "vek/hierarchyview/EntryManager.h"
 #include "vek/hierarchyview/EntryWalk.h"
 #include "vek/hierarchyview/HoldEntry.h"
 #include "vek/selection/ActiveManager.h"
@@ -47,7 +48,7 @@ BasicTreeControlBase::BasicTreeControlBase(trackview::TrackView* inTrackView, bo
     : TreeControlBase(inTrackView, inHideRoot, inIndent, inIsSingleSelect, inAllowsDragOut),
       mHasIcons(inHasIcons),
       mJunction(*this),
-      mManager(new Manager(&mJunction)) {
+      mManager(new EntryManager(&mJunction, this)) {
   SetRootEntry(new BasicTreeRootNode);
   mJunction.Join(GetRootEntry());
   mManager->GetSelectionChangeNotifier()->AddListener(this);
@@ -56,6 +57,15 @@ BasicTreeControlBase::BasicTreeControlBase(trackview::TrackView* inTrackView, bo
 BasicTreeControlBase::~BasicTreeControlBase() {
   mManager->GetSelectionChangeNotifier()->RemoveListener(this);
   mManager->SetJunction(&NoNodes::Get());
+  mManager->ForgetControl();
+}
+
+Manager* BasicTreeControlBase::GetSelectionManager() const {
+  return mManager.get();
+}
+
+Manager* BasicTreeControlBase::GetSelectionManager() {
+  return mManager.get();
 }
 
 BasicTreeNode* BasicTreeControlBase::AddNode(HierarchyEntryBase* inParent,
@@ -198,6 +208,7 @@ bool BasicTreeControlBase::DoProcessOnOpenSelected() {
 void BasicTreeControlBase::ListenToMessage(const selection::SelectionChangeMessage&) {
   trackview::TrackView* const view = GetTrackView();
   view->GetPlatformView().InvalidateDataRect(view->DataArea());
+  AnnounceSelection();
 }
 
 }  // namespace vek::hierarchyview

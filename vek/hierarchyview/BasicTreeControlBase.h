@@ -14,6 +14,8 @@
 
 namespace vek::hierarchyview {
 
+class EntryManager;
+
 // A tree that is ready for use: it has a root, a selection of its own with its manager, rows of
 // twisty, icon and text, and needs no subclass.
 //
@@ -24,8 +26,9 @@ namespace vek::hierarchyview {
 //   trackView.InstallOverlay(overlay, false);
 //
 // Who wants to know what is selected listens to its manager. The manager may outlive the control,
-// and then knows no nodes. Nodes may be put into the tree and taken out again while it shows: after
-// a batch of those the caller sends one ResizeHierarchy.
+// and then knows no nodes; its restorers put back the selection and the focus, for deeds. Nodes may
+// be put into the tree and taken out again while it shows: after a batch of those the caller sends
+// one ResizeHierarchy.
 class VEK_API BasicTreeControlBase
     : public TreeControlBase,
       private messaging::Listener<const selection::SelectionChangeMessage&> {
@@ -65,8 +68,8 @@ class VEK_API BasicTreeControlBase
   // The view has got the keyboard: the tree's selection is the active one from now on.
   void DoViewActivation() override;
   int NumSelectedEntries() override;
-  selection::Manager* GetSelectionManager() const override { return mManager.get(); }
-  selection::Manager* GetSelectionManager() override { return mManager.get(); }
+  selection::Manager* GetSelectionManager() const override;
+  selection::Manager* GetSelectionManager() override;
 
  protected:
   // Leaves the nodes as they were added; a subclass may fill the tree here.
@@ -87,7 +90,7 @@ class VEK_API BasicTreeControlBase
 
   bool mHasIcons;
   BasicTreeSelJunction mJunction;
-  boost::intrusive_ptr<selection::Manager> mManager;
+  boost::intrusive_ptr<EntryManager> mManager;
   OpenFunction mOpen;
   DragOutFunction mDragOut;
 };

@@ -109,7 +109,9 @@ void HierarchyDragSelectTracker::GatherTouched(Modifiers inModifiers, const Poin
 void HierarchyDragSelectTracker::EndTracking(Modifiers inModifiers, const Point& inDataPoint,
                                              bool /*inCompleted*/) {
   ContinueTracking(inModifiers, inDataPoint);
-  if (mBegan && *mFocusTarget) {
+  // A host may have taken all rows down.
+  const bool hasRows = mControl->GetGeometry() && mControl->GetRowGeometryFactory();
+  if (mBegan && *mFocusTarget && hasRows) {
     mControl->SetFocusItem(*mFocusTarget, true);
     mTrackView->GetPlatformView().InvalidateDataRect(
         mControl->GetEntryGeometry(mFocusTarget)->GetRowRect());

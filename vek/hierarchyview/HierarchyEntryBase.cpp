@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <unordered_map>
 #include <vector>
 
 #include "lumcore/debug/Contract.h"
@@ -19,6 +20,13 @@ namespace vek::hierarchyview {
 namespace {
 
 std::uint64_t gShapeVersion = 0;
+std::uint32_t gLastSerial = 0;
+
+// Of the few that were asked for. It outlives entries that stand in statics.
+std::unordered_map<std::uint32_t, HierarchyEntryBase*>& GetSerials() {
+  static auto& serials = *new std::unordered_map<std::uint32_t, HierarchyEntryBase*>;
+  return serials;
+}
 
 void ShapeChanged() {
   ++gShapeVersion;
@@ -54,6 +62,7 @@ HierarchyEntryBase::HierarchyEntryBase(ENodeState const& inState, HierarchyEntry
 
 HierarchyEntryBase::~HierarchyEntryBase() {
   ShapeChanged();
+  if (mSerial != 0) GetSerials().erase(mSerial);
   List orphans;
   orphans.swap(mChildren);
   LeavePositions(orphans);
@@ -190,6 +199,18 @@ bool HierarchyEntryBase::SortByTexts(TreeListComparator const& inComparator) {
 
 std::uint64_t HierarchyEntryBase::GetShapeVersion() {
   return gShapeVersion;
+}
+
+std::uint32_t HierarchyEntryBase::GetSerial() const {
+  if (mSerial != 0) return mSerial;
+  GetSerials().emplace(gLastSerial + 1, const_cast<HierarchyEntryBase*>(this));
+  mSerial = ++gLastSerial;
+  return mSerial;
+}
+
+HierarchyEntryBase* HierarchyEntryBase::FindSerial(std::uint32_t inSerial) {
+  const auto found = GetSerials().find(inSerial);
+  return found == GetSerials().end() ? nullptr : found->second;
 }
 
 void HierarchyEntryBase::EnterPosition(List::iterator inPlace) {

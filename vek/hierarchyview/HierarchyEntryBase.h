@@ -102,6 +102,10 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // Another one after every change of the shape of any tree in the process, and after the end of
   // any entry: who remembers rows tells by it whether they may still be followed.
   static std::uint64_t GetShapeVersion();
+  // For who may ask about an entry that has gone: a number from 1 that no other entry ever has,
+  // given when it is first asked for; and the entry of a number, null when it has gone.
+  std::uint32_t GetSerial() const;
+  static HierarchyEntryBase* FindSerial(std::uint32_t inSerial);
 
  protected:
   friend class TreeControlBase;
@@ -143,6 +147,7 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // entry stands in that branch, and the own branch, once this entry was asked for its rows.
   bool mIsStale = false;
   std::uint32_t mOrdinal = 0;
+  mutable std::uint32_t mSerial = 0;  // 0: nobody has asked
   std::unique_ptr<RowBranch> mBranch;
 };
 

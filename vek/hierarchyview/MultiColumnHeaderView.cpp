@@ -96,11 +96,13 @@ bool MultiColumnHeaderView::PointInResizeHandle(Point const& inDataPoint,
                                                 unsigned short& outColumn) const {
   float right = 0;
   const unsigned short count = mMultiColumnView ? mMultiColumnView->GetNumberOfColumns() : 0;
-  for (unsigned short column = 0; column < count && right <= inDataPoint.x; ++column) {
+  for (unsigned short column = 0; column < count; ++column) {
     right += mMultiColumnView->GetColumnWidth(column);
-    if (right - kHandleLeft > inDataPoint.x || inDataPoint.x > right + kHandleRight) continue;
-    outColumn = column;
-    return true;
+    if (right - kHandleLeft <= inDataPoint.x && inDataPoint.x <= right + kHandleRight) {
+      outColumn = column;
+      return true;
+    }
+    if (right > inDataPoint.x) return false;
   }
   return false;
 }

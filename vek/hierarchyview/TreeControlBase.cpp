@@ -22,6 +22,8 @@
 
 namespace vek::hierarchyview {
 
+using lumui::ui::AccessibleChange;
+
 namespace {
 
 // In units.
@@ -59,6 +61,7 @@ void TreeControlBase::ResizeHierarchy() {
   mTrackView->ResizeDataSize(Point(area.width, area.height + fudge), true);
   mNodeCacheValid = false;
   mHierarchySized = true;
+  AnnounceRow(AccessibleChange::kItems, nullptr);
 }
 
 void TreeControlBase::ExpandAll() {
@@ -71,8 +74,15 @@ void TreeControlBase::ExpandAll() {
 }
 
 void TreeControlBase::ExpandNode(HierarchyEntryBase* inEntry, bool inResize) {
-  inEntry->SetNodeState(kNodeExpanded);
-  if (inResize) ResizeHierarchy();
+  SetOpen(inEntry, kNodeExpanded, inResize);
+}
+
+void TreeControlBase::SetOpen(HierarchyEntryBase* inEntry, ENodeState inState, bool inResize) {
+  const auto held = HoldEntry(inEntry);
+  inEntry->SetNodeState(inState);
+  if (!inResize) return;
+  ResizeHierarchy();
+  AnnounceRow(AccessibleChange::kState, inEntry);
 }
 
 bool TreeControlBase::CanExpandNode(HierarchyEntryBase const* inEntry) const {
@@ -80,8 +90,7 @@ bool TreeControlBase::CanExpandNode(HierarchyEntryBase const* inEntry) const {
 }
 
 void TreeControlBase::CollapseNode(HierarchyEntryBase* inEntry, bool inResize) {
-  inEntry->SetNodeState(kNodeCollapsed);
-  if (inResize) ResizeHierarchy();
+  SetOpen(inEntry, kNodeCollapsed, inResize);
 }
 
 bool TreeControlBase::CanCollapseNode(HierarchyEntryBase const* inEntry) const {

@@ -16,6 +16,7 @@
 #include "lumui/drawbot/Color.h"
 #include "lumui/drawbot/Font.h"
 #include "vek/config/Export.h"
+#include "vek/hierarchyview/AccessibleRows.h"
 #include "vek/hierarchyview/HierarchyEntryBase.h"
 #include "vek/hierarchyview/HierarchyGeometry.h"
 #include "vek/hierarchyview/TreeRowGeometry.h"
@@ -44,7 +45,7 @@ enum EDragFeedbackType : std::uint32_t {
 // ResizeHierarchy. Until that call rows are found by walking from the top, never by what the last
 // paint remembers, so an entry may go at any time. All positions are in data units of the view.
 // One thread, that of the view's events, has it to itself.
-class VEK_API TreeControlBase : public trackview::Overlay {
+class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows {
  public:
   using Point = trackview::Point;
   using Rect = trackview::Rect;
@@ -222,6 +223,7 @@ class VEK_API TreeControlBase : public trackview::Overlay {
   bool TypedownClosestMatch(lumcore::UTF16String const& inText);
 
  private:
+  friend class AccessibleRows;
   struct Step;
   class Painter;
 
@@ -234,6 +236,7 @@ class VEK_API TreeControlBase : public trackview::Overlay {
   HierarchyGeometry::iterator FindPassedRow(const Point& inDataPoint);
   void Invalidate(const Rect& inDataRect) const;
   bool Reveal(Rect inDataRect) const;
+  void SetOpen(HierarchyEntryBase* inEntry, ENodeState inState, bool inResize);
   bool SetOpenWhereSelected(bool inOpen);
   Rect NoteSelectedRow(HierarchyGeometry::iterator const& inRow, Step& ioStep);
   void TakeStep(Step& ioStep, bool inAlignToRows);

@@ -264,21 +264,25 @@ unsigned int TreeControlBase::GetTypeAheadID() const {
 
 bool TreeControlBase::TypedownClosestMatch(UTF16String const& inText) {
   if (!HasRows()) return false;
-  for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next()) {
-    if (IsSelected(row.GetEntry())) Invalidate(GetEntryGeometry(row.GetIterator())->GetRowRect());
-  }
   const unsigned int attribute = GetTypeAheadID();
   const TypedPrefix typed(inText);
+  HierarchyGeometry::iterator match;
+  boost::intrusive_ptr<HierarchyEntryBase> held;
+  UTF16String cell;
+  // What is selected is drawn anew down to the last row, also behind the match.
   for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next()) {
-    UTF16String cell;
+    if (IsSelected(row.GetEntry())) Invalidate(GetEntryGeometry(row.GetIterator())->GetRowRect());
+    if (*match) continue;
+    cell.clear();
     row.GetEntry()->GetCellText(attribute, cell);
     if (!typed.Begins(cell)) continue;
-    const auto held = HoldEntry(row.GetEntry());
-    Reveal(GetEntryGeometry(row.GetIterator())->GetRowRect());
-    DoSelectEntry(row.GetEntry(), false);
-    return true;
+    match = row.GetIterator();
+    held = HoldEntry(*match);
   }
-  return false;
+  if (!*match) return false;
+  Reveal(GetEntryGeometry(match)->GetRowRect());
+  DoSelectEntry(*match, false);
+  return true;
 }
 
 }  // namespace vek::hierarchyview

@@ -11,6 +11,8 @@
 
 namespace vek::hierarchyview {
 
+using lumui::ui::AccessibleChange;
+
 namespace {
 
 constexpr float kFocusMargin = 1.0f;  // units
@@ -90,6 +92,7 @@ void TreeControlBase::SetFocusItem(HierarchyEntryBase* inEntry, bool inInvalidat
                     area.height + 2 * kFocusMargin));
   }
   UpdateNodeArea(mFocusItem);
+  if (mFocusItem) AnnounceRow(AccessibleChange::kFocus, mFocusItem);
 }
 
 void TreeControlBase::RevealIfNotVisible(HierarchyEntryBase const* inEntry) const {

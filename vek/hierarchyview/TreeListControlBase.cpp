@@ -17,6 +17,7 @@ namespace vek::hierarchyview {
 
 using Point = trackview::Point;
 using Rect = trackview::Rect;
+using lumui::ui::AccessibleChange;
 
 namespace {
 
@@ -132,6 +133,7 @@ void TreeListControlBase::SortRows() {
   if (!Tell(kColumnSortChanged, mSortColumn)) return;
   trackview::TrackView& view = *GetTrackView();
   view.GetPlatformView().InvalidateDataRect(view.DataArea());
+  AnnounceRow(AccessibleChange::kItems, nullptr);
 }
 
 void TreeListControlBase::GetColumnDescriptor(unsigned short inColumn,
@@ -161,7 +163,7 @@ void TreeListControlBase::MoveColumn(unsigned short inFrom, unsigned short inTo)
   const auto from = std::next(mColumns.begin(), inFrom);
   mColumns.insert(std::next(mColumns.begin(), inTo), *from);
   mColumns.erase(from);
-  Tell(kColumnMoved, inFrom);
+  if (Tell(kColumnMoved, inFrom)) AnnounceRow(AccessibleChange::kItems, nullptr);
 }
 
 bool TreeListControlBase::GetColumnHitByPoint(Point const& inDataPoint,

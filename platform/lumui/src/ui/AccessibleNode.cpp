@@ -106,7 +106,11 @@ int AccessibleNode::indexOfChild(const QAccessibleInterface* inChild) const {
 }
 
 QAccessibleInterface* AccessibleNode::childAt(int inX, int inY) const {
-  if (QAccessibleInterface* const within = QAccessibleWidget::childAt(inX, inY)) return within;
+  // The base asks every child for its place, and would so describe every item of the node.
+  for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+    QAccessibleInterface* const within = QAccessibleWidget::child(i);
+    if (within && !within->state().invisible && within->rect().contains(inX, inY)) return within;
+  }
   AccessibleID item;
   const NodePeer* const peer = PeerOf(widget());
   if (!peer || !widget()->rect().contains(widget()->mapFromGlobal(QPoint(inX, inY))))
