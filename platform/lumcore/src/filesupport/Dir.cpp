@@ -24,25 +24,38 @@ void ThrowIfFailed(const std::error_code& inCode, const char* inKey, const std::
   if (inCode) ThrowSystemError(inKey, inPath, inCode.value());
 }
 
-// The names in a folder, sorted. Links count as what they point to; one that points nowhere is
-// neither a file nor a folder, as File::Exists has it.
 std::vector<std::string> Names(const std::string& inPath, bool inFolders) {
-  constexpr const char* kKey = "$$$/lumcore/filesupport/Error/ListFolder=Cannot list \"@0\": @1";
-  std::vector<std::string> names;
-  std::error_code code;
-  fs::directory_iterator at(paths::ToSystem(inPath), code);
-  ThrowIfFailed(code, kKey, inPath);
-  while (at != fs::directory_iterator()) {
-    std::error_code ignored;
-    const fs::file_status status = at->status(ignored);
-    if (fs::exists(status) && fs::is_directory(status) == inFolders) {
-      names.push_back(paths::FromSystem(at->path().filename()));
-    }
-    at.increment(code);
-    ThrowIfFailed(code, kKey, inPath);
-  }
+  std::vector<std::string> names = system::ListFolder(inPath, inFolders);
   std::sort(names.begin(), names.end());
   return names;
+}
+
+bool IsHidden(const std::string& inName) {
+  return inName.front() == '.';
+}
+
+// Only what is the same in every language.
+unsigned char ToLower(char inByte) {
+  return static_cast<unsigned char>(inByte >= 'A' && inByte <= 'Z' ? inByte + ('a' - 'A') : inByte);
+}
+
+bool GoesBefore(const std::string& inA, const std::string& inB) {
+  if (IsHidden(inA) != IsHidden(inB)) return IsHidden(inB);
+  const std::size_t length = std::min(inA.size(), inB.size());
+  for (std::size_t at = 0; at < length; ++at) {
+    const unsigned char a = ToLower(inA[at]);
+    const unsigned char b = ToLower(inB[at]);
+    if (a != b) return a < b;
+  }
+  return inA.size() != inB.size() ? inA.size() < inB.size() : inA < inB;
+}
+
+template <class Item>
+DirIterator<Item> Begin(const std::string& inPath, bool inFolders, bool inSkipHidden) {
+  std::vector<std::string> names = system::ListFolder(inPath, inFolders);
+  if (inSkipHidden) names.erase(std::remove_if(names.begin(), names.end(), IsHidden), names.end());
+  std::sort(names.begin(), names.end(), GoesBefore);
+  return DirIterator<Item>(paths::Join(inPath, ""), std::move(names));
 }
 
 }  // namespace
@@ -87,7 +100,7 @@ UTF16String Dir::FullPath() const {
 }
 
 UTF16String Dir::GetName() const {
-  return utility::ToUTF16(paths::FromSystem(paths::Name(mPath)));
+  return utility::ToUTF16(paths::NameText(mPath));
 }
 
 Dir Dir::Parent() const {
@@ -120,6 +133,27 @@ std::vector<Dir> Dir::GetDirs() const {
   for (const std::string& name : Names(mPath, true))
     dirs.emplace_back(*this, name);
   return dirs;
+}
+
+Dir::FileIterator Dir::BeginFiles(bool inSkipHidden) const {
+  return Begin<File>(mPath, false, inSkipHidden);
+}
+
+Dir::SubdirIterator Dir::BeginSubdirs(bool inSkipHidden) const {
+  return Begin<Dir>(mPath, true, inSkipHidden);
+}
+
+bool Dir::IsTopLevelDir() const {
+  const fs::path path = paths::ToSystem(paths::Full(mPath));
+  return !path.has_relative_path() || path == path.parent_path();
+}
+
+bool Dir::IsSameFolder(const Dir& inOther) const {
+  return system::AreSameFolder(mPath, inOther.mPath);
+}
+
+bool operator==(const Dir& inA, const Dir& inB) {
+  return inA.mPath == inB.mPath || paths::Full(inA.mPath) == paths::Full(inB.mPath);
 }
 
 }  // namespace lumcore::filesupport
