@@ -71,6 +71,7 @@ class VEK_API CommonFileDialog
   bool OnDoubleClick(UIMultiTreeListView& inView, UIMultiTreeListNode& inNode) override;
   void OnSelectionChanged(UIMultiTreeListView& inView,
                           std::list<UIMultiTreeListNode*> const& inSelected) override;
+  void OnSizeChanged(UIMultiTreeListView& inView) override;
   // Of the folder tree.
   void ListenToMessage(const selection::SelectionChangeMessage& inMessage) override;
 
@@ -97,6 +98,7 @@ class VEK_API CommonFileDialog
 
   lumcore::UTF16String mReadError;  // of the current folder
   bool mIsEmptying = false;
+  float mListWidth = 0;  // to which the columns were fitted
   boost::shared_ptr<ChangedFunction> mOnChanged;
   boost::shared_ptr<ChangedFunction> mOnTyped;
 };

@@ -12,8 +12,9 @@
 #include "vek/sharedui/UIShellSelectionJunction.h"
 
 namespace lumcore::filesupport {
+class FileError;
 struct Volume;
-}
+}  // namespace lumcore::filesupport
 
 namespace lumui::drawbot {
 class SupplierInterface;
@@ -163,6 +164,9 @@ class VEK_API UIShellFileNode : public UIShellHierarchyEntryBase {
   lumcore::filesupport::File mFile;
   mutable lumcore::filesupport::Dir mFolder;  // for GetDir
 };
+
+// For the place where the contents of a folder would be.
+VEK_API lumcore::UTF16String DescribeUnreadable(lumcore::filesupport::FileError const& inError);
 
 // Stands in a folder that cannot be read, and says why. It cannot be selected.
 class VEK_API UIShellNoteNode : public UIShellHierarchyEntryBase {

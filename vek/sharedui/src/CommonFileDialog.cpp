@@ -3,6 +3,7 @@
 
 #include "vek/sharedui/CommonFileDialog.h"
 
+#include <iterator>
 #include <limits>
 
 #include "lumcore/config/ThrowError.h"
@@ -22,7 +23,7 @@
 #include "vek/sharedui/UIShellIcons.h"
 #include "vek/sharedui/UIShellTrackView.h"
 #include "vek/sharedui/UIShellTrackViewAdapter.h"
-#include "vek/trackview/LUMPlatformView.h"
+#include "vek/trackview/PlatformScrollView.h"
 #include "vek/utility/VekResources.h"
 
 namespace vek::sharedui {
@@ -53,6 +54,12 @@ Kind* As(lumui::ui::UI_Node* inNode) {
   return node;
 }
 
+// In units; the names get what the others leave.
+float GetFirstWidth(unsigned short inColumn) {
+  constexpr float kWidths[] = {200, 60, 70, 110};
+  return inColumn < std::size(kWidths) ? kWidths[inColumn] : 100;
+}
+
 // A host may have registered them for archives of its own.
 lumui::utility::ResourceManager const& GetResources() {
   UI_NodeAdapterRegistry& adapters = UI_NodeAdapterRegistry::Get();
@@ -77,8 +84,13 @@ CommonFileDialog::CommonFileDialog(lumui::drawbot::SupplierInterface const* inSu
   SetButtons(mOKButton, mCancelButton);
   if (mOKButton) mOKButton->SetText(inOKText);
   if (mFilesList) {
-    mFilesList->GetTreeControl()->SetController(this);
-    mFilesList->GetTreeControl()->BuildHierarchy();
+    UIMultiTreeListView& list = *mFilesList->GetTreeControl();
+    list.SetController(this);
+    list.SetIsFlatList(true);
+    for (unsigned short column = 0; column < list.GetNumberOfColumns(); ++column)
+      list.SetColumnWidth(column, GetFirstWidth(column));
+    list.BuildHierarchy();
+    OnSizeChanged(list);
   }
   SetUpFolders(inInitialDir);
   SetUpFilename();
@@ -211,6 +223,24 @@ void CommonFileDialog::OnSelectionChanged(UIMultiTreeListView& inView,
   }
 }
 
+// The names grow and shrink with the list. Where somebody has made the columns wider than the list,
+// they stay.
+void CommonFileDialog::OnSizeChanged(UIMultiTreeListView& inView) {
+  if (!IsOwnList(inView) || inView.GetNumberOfColumns() == 0) return;
+  // Beside a bar, whether there is need of one or not.
+  auto const& scroll = *mFilesList->GetListScrollView();
+  const float width =
+      scroll.UI_GetLocalRectF().width -
+      (scroll.GetScrollBarY() ? scroll.GetScrollBarY()->UI_GetLocalRectF().width : 0);
+  float all = 0;
+  for (unsigned short column = 0; column < inView.GetNumberOfColumns(); ++column)
+    all += inView.GetColumnWidth(column);
+  const bool fits = all <= mListWidth || mListWidth == 0;
+  mListWidth = width;
+  const float names = inView.GetColumnWidth(kName) + width - all;
+  if (fits && names >= GetFirstWidth(kName)) inView.SetColumnWidth(kName, names);
+}
+
 void CommonFileDialog::ListenToMessage(const selection::SelectionChangeMessage& inMessage) {
   selection::Manager const& manager = *mFolderTree->GetSelectionManager();
   if (inMessage.GetAffectedNodes().empty() || manager.SelectedSelectables().empty()) {
@@ -250,7 +280,7 @@ void CommonFileDialog::ListFiles() {
     }
   } catch (const lumcore::filesupport::FileError& error) {
     // For the user, who sees it in the list.
-    mReadError = error.GetText();
+    mReadError = DescribeUnreadable(error);
     rows.emplace_back(new UIMultiTreeListNode(kNoteID));
   }
   if (mFilesList) mFilesList->GetTreeControl()->InsertItems(rows);

@@ -36,6 +36,12 @@ UTF16String Localized(const char* inKey) {
 
 }  // namespace
 
+UTF16String DescribeUnreadable(FileError const& inError) {
+  return lumcore::utility::ReplaceInString(
+      Localized("$$$/vek/sharedui/UIShellView/CannotRead=Cannot be read: @0"),
+      {inError.GetSystemWords()});
+}
+
 UIShellHierarchyEntryBase::UIShellHierarchyEntryBase(ENodeState inState,
                                                      HierarchyEntryBase* inParent,
                                                      JunctionP const& inJunction,
@@ -97,7 +103,7 @@ void UIShellHierarchyEntryBase::AddContentsOf(Dir const& inDir) {
     }
   } catch (const FileError& error) {
     // For the user, who sees it where the contents would be.
-    Link(new UIShellNoteNode(error.GetText(), this, mJunction, mTreeControl));
+    Link(new UIShellNoteNode(DescribeUnreadable(error), this, mJunction, mTreeControl));
   }
 }
 
