@@ -36,7 +36,7 @@ class UIShellTrackView;
 //
 // A double click on a file is OK. A folder that is not there has no files, and one that cannot be
 // read says why in the list; either can be chosen. What was typed stays in the field whatever else
-// the user does, until he picks a file. Running the dialog leaves the active selection as it was.
+// the user does, until he picks a file. RunModal leaves the active selection as it was.
 class VEK_API CommonFileDialog
     : public lumui::ui::UI_ArchivedDialog,
       public UIMultiTreeListController,

@@ -217,6 +217,7 @@ void CommonFileDialog::OnSelectionChanged(UIMultiTreeListView& inView,
   mUserTyped = false;
   mSelectedRows.clear();
   for (UIMultiTreeListNode const* const row : inSelected) {
+    if (row->GetID() >= mFiles.size()) continue;  // one that a host has put in
     mSelectedRows.push_back(row->GetID());
     if (mCurrentFolder && mFilenameCombo)
       mFilenameCombo->SetValueString(mFiles[row->GetID()].GetName(), true);

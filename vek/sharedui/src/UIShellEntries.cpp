@@ -92,11 +92,12 @@ void UIShellHierarchyEntryBase::Link(
 
 void UIShellHierarchyEntryBase::AddContentsOf(Dir const& inDir) {
   try {
-    for (auto dir = inDir.BeginSubdirs(); dir != inDir.EndSubdirs(); ++dir)
+    auto [dir, file] = inDir.BeginContents();
+    for (; dir != inDir.EndSubdirs(); ++dir)
       Link(new UIShellDirNode(*dir, this, mJunction, mTreeControl));
     UIShellTrackView const& tree = *GetShellTree();
     if (!tree.CanAddFilesAsLeafNodes()) return;
-    for (auto file = inDir.BeginFiles(); file != inDir.EndFiles(); ++file) {
+    for (; file != inDir.EndFiles(); ++file) {
       const File shown = *file;
       if (tree.CanDisplayFile(shown))
         Link(new UIShellFileNode(shown, this, mJunction, mTreeControl));

@@ -4,8 +4,10 @@
 #include "lumcore/filesupport/Dir.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "filesupport/Paths.h"
 #include "filesupport/SystemFile.h"
@@ -24,10 +26,9 @@ void ThrowIfFailed(const std::error_code& inCode, const char* inKey, const std::
   if (inCode) ThrowSystemError(inKey, inPath, inCode.value());
 }
 
-std::vector<std::string> Names(const std::string& inPath, bool inFolders) {
-  std::vector<std::string> names = system::ListFolder(inPath, inFolders);
-  std::sort(names.begin(), names.end());
-  return names;
+std::vector<std::string> Sorted(std::vector<std::string> inNames) {
+  std::sort(inNames.begin(), inNames.end());
+  return inNames;
 }
 
 bool IsHidden(const std::string& inName) {
@@ -39,23 +40,39 @@ unsigned char ToLower(char inByte) {
   return static_cast<unsigned char>(inByte >= 'A' && inByte <= 'Z' ? inByte + ('a' - 'A') : inByte);
 }
 
-bool GoesBefore(const std::string& inA, const std::string& inB) {
-  if (IsHidden(inA) != IsHidden(inB)) return IsHidden(inB);
-  const std::size_t length = std::min(inA.size(), inB.size());
-  for (std::size_t at = 0; at < length; ++at) {
-    const unsigned char a = ToLower(inA[at]);
-    const unsigned char b = ToLower(inB[at]);
-    if (a != b) return a < b;
+// Names in one folder are often long and begin alike.
+std::size_t CommonPrefix(const std::vector<std::string>& inNames) {
+  std::size_t length = inNames.empty() ? 0 : inNames.front().size();
+  for (const std::string& name : inNames) {
+    length = std::min(length, name.size());
+    const auto end = inNames.front().begin() + static_cast<std::ptrdiff_t>(length);
+    const auto differs = std::mismatch(inNames.front().begin(), end, name.begin()).first;
+    length = static_cast<std::size_t>(differs - inNames.front().begin());
   }
-  return inA.size() != inB.size() ? inA.size() < inB.size() : inA < inB;
+  return length;
+}
+
+void Sort(std::vector<std::string>& ioNames) {
+  const std::size_t prefix = CommonPrefix(ioNames);
+  std::sort(ioNames.begin(), ioNames.end(), [&](const std::string& inA, const std::string& inB) {
+    if (IsHidden(inA) != IsHidden(inB)) return IsHidden(inB);
+    const std::size_t length = std::min(inA.size(), inB.size());
+    for (std::size_t at = prefix; at < length; ++at) {
+      const unsigned char a = ToLower(inA[at]);
+      const unsigned char b = ToLower(inB[at]);
+      if (a != b) return a < b;
+    }
+    return inA.size() != inB.size() ? inA.size() < inB.size() : inA < inB;
+  });
 }
 
 template <class Item>
-DirIterator<Item> Begin(const std::string& inPath, bool inFolders, bool inSkipHidden) {
-  std::vector<std::string> names = system::ListFolder(inPath, inFolders);
-  if (inSkipHidden) names.erase(std::remove_if(names.begin(), names.end(), IsHidden), names.end());
-  std::sort(names.begin(), names.end(), GoesBefore);
-  return DirIterator<Item>(paths::Join(inPath, ""), std::move(names));
+DirIterator<Item> Walk(const std::string& inPath, std::vector<std::string> inNames,
+                       bool inSkipHidden) {
+  if (inSkipHidden)
+    inNames.erase(std::remove_if(inNames.begin(), inNames.end(), IsHidden), inNames.end());
+  Sort(inNames);
+  return DirIterator<Item>(paths::Join(inPath, ""), std::move(inNames));
 }
 
 }  // namespace
@@ -123,24 +140,30 @@ void Dir::RemoveAll() const {
 
 std::vector<File> Dir::GetFiles() const {
   std::vector<File> files;
-  for (const std::string& name : Names(mPath, false))
+  for (const std::string& name : Sorted(system::ListFolder(mPath).files))
     files.emplace_back(*this, name);
   return files;
 }
 
 std::vector<Dir> Dir::GetDirs() const {
   std::vector<Dir> dirs;
-  for (const std::string& name : Names(mPath, true))
+  for (const std::string& name : Sorted(system::ListFolder(mPath).folders))
     dirs.emplace_back(*this, name);
   return dirs;
 }
 
 Dir::FileIterator Dir::BeginFiles(bool inSkipHidden) const {
-  return Begin<File>(mPath, false, inSkipHidden);
+  return Walk<File>(mPath, system::ListFolder(mPath).files, inSkipHidden);
 }
 
 Dir::SubdirIterator Dir::BeginSubdirs(bool inSkipHidden) const {
-  return Begin<Dir>(mPath, true, inSkipHidden);
+  return Walk<Dir>(mPath, system::ListFolder(mPath).folders, inSkipHidden);
+}
+
+Dir::Contents Dir::BeginContents(bool inSkipHidden) const {
+  system::FolderNames names = system::ListFolder(mPath);
+  return {Walk<Dir>(mPath, std::move(names.folders), inSkipHidden),
+          Walk<File>(mPath, std::move(names.files), inSkipHidden)};
 }
 
 bool Dir::IsTopLevelDir() const {

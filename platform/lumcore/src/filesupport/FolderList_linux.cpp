@@ -31,19 +31,20 @@ Kind KindOf(const dirent& inEntry, int inFolder) {
 
 }  // namespace
 
-std::vector<std::string> ListFolder(const std::string& inPath, bool inFolders) {
+FolderNames ListFolder(const std::string& inPath) {
   if (inPath.find('\0') != inPath.npos) ThrowSystemError(kListKey, inPath, EINVAL);
   const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(inPath.c_str()), &::closedir);
   if (!folder) ThrowSystemError(kListKey, inPath, errno);
-  const Kind wanted = inFolders ? Kind::kFolder : Kind::kFile;
-  std::vector<std::string> names;
+  FolderNames names;
   for (;;) {
     errno = 0;
     const dirent* const entry = ::readdir(folder.get());
     if (!entry) break;
     const std::string_view name = entry->d_name;
-    if (name != "." && name != ".." && KindOf(*entry, ::dirfd(folder.get())) == wanted)
-      names.emplace_back(name);
+    if (name == "." || name == "..") continue;
+    const Kind kind = KindOf(*entry, ::dirfd(folder.get()));
+    if (kind == Kind::kFile) names.files.emplace_back(name);
+    if (kind == Kind::kFolder) names.folders.emplace_back(name);
   }
   if (errno != 0) ThrowSystemError(kListKey, inPath, errno);
   return names;

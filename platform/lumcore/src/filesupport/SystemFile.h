@@ -54,7 +54,11 @@ std::uint64_t FileSize(const std::string& inPath);
 void RemoveFile(const std::string& inPath);
 // The names in a folder, in no order. Links count as what they point to; one that points nowhere is
 // neither a file nor a folder.
-std::vector<std::string> ListFolder(const std::string& inPath, bool inFolders);
+struct FolderNames {
+  std::vector<std::string> folders;
+  std::vector<std::string> files;
+};
+FolderNames ListFolder(const std::string& inPath);
 bool AreSameFolder(const std::string& inA, const std::string& inB);  // by whatever ways
 std::int64_t ModifiedTime(const std::string& inPath);  // seconds since the beginning of 1970
 // See File::ReplaceContents.

@@ -84,6 +84,9 @@ class LUMCORE_API Dir {
   FileIterator EndFiles() const { return FileIterator(); }
   SubdirIterator BeginSubdirs(bool inSkipHidden = false) const;
   SubdirIterator EndSubdirs() const { return SubdirIterator(); }
+  // Both in one reading.
+  struct Contents;
+  Contents BeginContents(bool inSkipHidden = false) const;
 
   // Whether nothing is above it: "/", or a drive.
   bool IsTopLevelDir() const;
@@ -95,6 +98,11 @@ class LUMCORE_API Dir {
 
  private:
   std::string mPath;
+};
+
+struct Dir::Contents {
+  SubdirIterator subdirs;
+  FileIterator files;
 };
 
 }  // namespace lumcore::filesupport
