@@ -95,7 +95,8 @@ bench::Body Iterate(Tree& ioTree) {
   return [&](benchmark::State& ioState) {
     float top = 0;
     for (auto _ : ioState) {
-      for (auto row = ioTree.mGeometry.begin(); row != ioTree.mGeometry.end(); ++row)
+      const auto end = ioTree.mGeometry.end();
+      for (auto row = ioTree.mGeometry.begin(); row != end; ++row)
         top = ioTree.mGeometry.GetRowRect(row).y;
     }
     CheckEnd(ioState, top);

@@ -4,6 +4,7 @@ vek_test(lumui_controls_tests
     lumui/ArchivedDialogTest.cpp
     lumui/ControlsTest.cpp
     lumui/LayoutTest.cpp
+    lumui/MultiColumnTreeTest.cpp
     lumui/NodeArchiveTest.cpp
     lumui/UITest.cpp
     support/UIApplication.cpp

@@ -3,6 +3,8 @@ vek_test(outliner_tests
     hosts/CommandFilesTest.cpp
     hosts/DocumentsTest.cpp
     hosts/FileCheckTest.cpp
+    hosts/MapGesturesTest.cpp
+    hosts/MapLayoutTest.cpp
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp

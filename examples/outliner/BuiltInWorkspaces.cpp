@@ -26,6 +26,7 @@ using Types = std::vector<UTF8String>;
 constexpr int kNotesHeight = 170;
 constexpr int kNotesWidth = 380;
 constexpr int kCommandsWidth = 400;
+constexpr int kMapWidth = 560;
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -82,6 +83,13 @@ UTF8String CommandsLayout() {
                        Group(kCommandsWidth, {CommandsPanel(), NotesPanel()})}));
 }
 
+UTF8String WithMapLayout() {
+  const int width = BuiltInWorkspaces::GetWindowSize().x;
+  return Layout(Items("row", width,
+                      {Group(width - kMapWidth, {OutlinePanel()}),
+                       Group(kMapWidth, {MapPanel(), NotesPanel(), CommandsPanel()})}));
+}
+
 }  // namespace
 
 UTF16String BuiltInWorkspaces::GetDefaultName() {
@@ -90,14 +98,16 @@ UTF16String BuiltInWorkspaces::GetDefaultName() {
 
 std::vector<UTF16String> BuiltInWorkspaces::GetNames() const {
   return {GetDefaultName(), Localized("$$$/outliner/Workspaces/Notes=Notes"),
-          Localized("$$$/outliner/Workspaces/Commands=Commands")};
+          Localized("$$$/outliner/Workspaces/Commands=Commands"),
+          Localized("$$$/outliner/Workspaces/Map=Map")};
 }
 
 UTF8String BuiltInWorkspaces::GetLayout(const UTF16String& inName) const {
   const auto names = GetNames();
   if (inName == names[0]) return WritingLayout();
   if (inName == names[1]) return NotesLayout();
-  return inName == names[2] ? CommandsLayout() : UTF8String();
+  if (inName == names[2]) return CommandsLayout();
+  return inName == names[3] ? WithMapLayout() : UTF8String();
 }
 
 }  // namespace outliner

@@ -8,8 +8,8 @@
 
 namespace outliner {
 
-// The three arrangements that the outliner comes with: the outline over its notes to write in, both
-// side by side for long notes, and the outline beside all commands.
+// The four arrangements that the outliner comes with: the outline over its notes to write in, both
+// side by side for long notes, the outline beside all commands, and beside its map.
 class BuiltInWorkspaces final : public lumworkspace::workspace::BuiltInWorkspaceProviderBase {
  public:
   // Of the main window where no workspace says another.

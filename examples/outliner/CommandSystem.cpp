@@ -70,9 +70,25 @@ void LoadCommands(const File& inFile) {
 // every load.
 void AddContextKeys() {
   using lumui::ui::KeyboardCode;
-  KeyCommandManager::Get().AddKeyMapping(
-      kCommandGiveUpText, KeyboardCode(KeyboardCode::kEscape), KeyCommandManager::Modifiers(),
-      lumui::ui::KeyboardEvent::kActionKeyDown, TextContext().c_str(), false, true);
+  const auto letter = [](char inLetter) {
+    return KeyboardCode::CreateFromKeyboardChar(static_cast<unsigned short>(inLetter), false);
+  };
+  const struct {
+    int command;
+    KeyboardCode key;
+    const lumcore::UTF8String& context;
+  } keys[] = {{kCommandGiveUpText, KeyboardCode(KeyboardCode::kEscape), TextContext()},
+              {kCommandMapSelect, letter('V'), MapContext()},
+              {kCommandMapHand, letter('H'), MapContext()},
+              {kCommandMapZoom, letter('Z'), MapContext()},
+              {kCommandMapGoToRow, KeyboardCode(KeyboardCode::kReturn), MapContext()},
+              {kCommandMapGoToRow, KeyboardCode::CreateFromControlCode(KeyboardCode::kEnter, true),
+               MapContext()}};
+  for (const auto& each : keys) {
+    KeyCommandManager::Get().AddKeyMapping(each.command, each.key, KeyCommandManager::Modifiers(),
+                                           lumui::ui::KeyboardEvent::kActionKeyDown,
+                                           each.context.c_str(), false, true);
+  }
 }
 
 void LoadKeysFrom(const File& inFile) {
@@ -100,6 +116,11 @@ CommandFiles FindCommandFiles() {
 
 const lumcore::UTF8String& TextContext() {
   static const lumcore::UTF8String sContext = lumcore::utility::ToUTF8("outliner.text");
+  return sContext;
+}
+
+const lumcore::UTF8String& MapContext() {
+  static const lumcore::UTF8String sContext = lumcore::utility::ToUTF8("outliner.map");
   return sContext;
 }
 

@@ -20,6 +20,8 @@ CommandFiles FindCommandFiles();
 
 // The name for key maps of what has the keyboard while a text is edited.
 const lumcore::UTF8String& TextContext();
+// That of the map, whose tools have letters for keys.
+const lumcore::UTF8String& MapContext();
 
 // Gives commands their names and then their keys, from the files, for as long as it lives: it fills
 // the framework's registry and key map, of which a process has one each, and leaves them as they

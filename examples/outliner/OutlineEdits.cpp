@@ -222,6 +222,33 @@ void MoveDown(OutlineDocument& ioDocument) {
   edit.PostKeepingSelection();
 }
 
+bool CanMoveBelow(OutlineDocument& inDocument, const OutlineRow& inTarget) {
+  for (const OutlineRow* row = &inTarget; row->GetParent(); row = row->GetParent()) {
+    if (inDocument.IsSelected(*row)) return false;
+  }
+  return AnyRun(inDocument, [&](const Run& inRun) { return inRun.parent != &inTarget; });
+}
+
+void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget) {
+  if (!CanMoveBelow(ioDocument, inTarget)) return;
+  Edit edit(ioDocument, "$$$/outliner/Edit/MoveBelow=Move");
+  for (const Run& run : SelectedRuns(ioDocument)) {
+    if (run.parent != &inTarget) MoveRun(edit, run, MoveTarget::kLastBelow, inTarget);
+  }
+  edit.PostKeepingSelection();
+}
+
+void InsertBelow(OutlineDocument& ioDocument, OutlineRow& ioTarget, const LooseRows& inRows) {
+  if (inRows.empty()) return;
+  Edit edit(ioDocument, "$$$/outliner/Edit/InsertBelow=Insert");
+  OutlineTree::Rows rows = MakeRows(ioDocument.GetTree(), inRows);
+  std::vector<OutlineRow::Id> inserted;
+  for (const auto& row : rows)
+    inserted.push_back(row->GetId());
+  edit.Add<InsertRowsDeed>(ioTarget, ioTarget.GetChildCount(), std::move(rows));
+  edit.Post(std::make_unique<OutlineRestorer>(ioDocument, inserted));
+}
+
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& inText) {
   const UTF16String text = CleanText(inText);
   if (text == ioRow.GetText()) return;

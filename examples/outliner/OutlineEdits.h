@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "LooseRows.h"
 #include "OutlineRow.h"
 #include "lumcore/Strings.h"
 
@@ -38,6 +39,14 @@ bool CanMoveUp(OutlineDocument& inDocument);
 void MoveUp(OutlineDocument& ioDocument);
 bool CanMoveDown(OutlineDocument& inDocument);
 void MoveDown(OutlineDocument& ioDocument);
+
+// The selected branches become the last ones below the target, which may be the root. Not onto a
+// row that is selected or below one, and not where all of them are already.
+bool CanMoveBelow(OutlineDocument& inDocument, const OutlineRow& inTarget);
+void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget);
+
+// New rows become the last ones below the target, which may be the root, and are selected.
+void InsertBelow(OutlineDocument& ioDocument, OutlineRow& ioTarget, const LooseRows& inRows);
 
 // The same text as before posts nothing.
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const lumcore::UTF16String& inText);

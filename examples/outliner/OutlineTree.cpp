@@ -105,6 +105,14 @@ std::unique_ptr<OutlineRow> OutlineTree::NewRow(const UTF16String& inText) {
   return row;
 }
 
+std::unique_ptr<OutlineRow> OutlineTree::NewRow(const UTF16String& inText, Rows inBelow) {
+  auto row = NewRow(inText);
+  for (const auto& below : inBelow)
+    below->mParent = row.get();
+  row->mChildren = std::move(inBelow);
+  return row;
+}
+
 OutlineRow& OutlineTree::AppendRow(OutlineRow& inParent) {
   std::unique_ptr<OutlineRow> row(new OutlineRow(static_cast<OutlineRow::Id>(mRowsById.size())));
   row->mParent = &inParent;

@@ -62,6 +62,8 @@ class OutlineTree {
 
   // A row with a number of its own that is not in the tree yet.
   std::unique_ptr<OutlineRow> NewRow(const lumcore::UTF16String& inText);
+  // The same with rows below it that are not in the tree yet either.
+  std::unique_ptr<OutlineRow> NewRow(const lumcore::UTF16String& inText, Rows inBelow);
   // Puts rows, with what is below them, in front of the child numbered inIndex.
   void InsertRows(OutlineRow& inParent, std::size_t inIndex, Rows inRows);
   Rows RemoveRows(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount);

@@ -50,9 +50,11 @@ OutlinerApp::OutlinerApp(const Options& inOptions) : mOptions(inOptions) {
   GetDocumentFactory().RegisterDocumentType(type);
   SetMaximumRecentFiles(kRecentFiles);
   AddAttachment(&mCommands);
+  AddAttachment(&mMapCommands);
 }
 
 OutlinerApp::~OutlinerApp() {
+  RemoveAttachment(&mMapCommands);
   RemoveAttachment(&mCommands);
 }
 

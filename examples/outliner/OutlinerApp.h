@@ -10,6 +10,7 @@
 
 #include "ApplicationCommands.h"
 #include "CommandSystem.h"
+#include "MapCommands.h"
 #include "lumcore/filesupport/File.h"
 #include "vek/app/MultiDocApplication.h"
 
@@ -74,6 +75,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   // brought to the front and gets the keyboard.
   bool IsPanelInFront(int inCommand) const;
   void TogglePanel(int inCommand);
+  MapPane* FindMap() const;  // null while none is in front
   // Puts the panels of a built-in workspace back, if the user agrees.
   bool CanResetWorkspace() const;
   void ResetWorkspace();
@@ -134,6 +136,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   Options mOptions;
   std::unique_ptr<CommandSystem> mCommandSystem;
   ApplicationCommands mCommands{*this};
+  MapCommands mMapCommands{[this] { return FindMap(); }};
   std::unique_ptr<OutlinerMenus> mMenus;
   std::unique_ptr<vek::workspaceutils::WorkspacesCmdAttachment> mWorkspaceCommands;
   boost::intrusive_ptr<DocumentFrame> mFrame;

@@ -46,6 +46,15 @@ enum Command : int {
   kCommandWorkspaceReset,
   kCommandWorkspaceDelete,
   kCommandWorkspaceEdit,
+  kCommandShowMap,
+  kCommandMapSelect,
+  kCommandMapHand,
+  kCommandMapZoom,
+  kCommandMapZoomIn,
+  kCommandMapZoomOut,
+  kCommandMapActualSize,
+  kCommandMapFit,
+  kCommandMapGoToRow,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

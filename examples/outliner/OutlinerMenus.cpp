@@ -27,6 +27,7 @@ constexpr int kSeparator = 0;
 constexpr int kRecentFilesHere = -1;
 constexpr int kDocumentsHere = -2;
 constexpr int kBrightnessHere = -3;
+constexpr int kMapHere = -4;
 
 // Nobody answers for it, so that it is disabled: the line of an empty list.
 constexpr unsigned kNothing = kRecentFilesEnd;
@@ -56,9 +57,17 @@ const Items& RowItems() {
 }
 
 const Items& ViewItems() {
-  static const Items sItems = {kCommandShowOutline, kCommandShowNotes,    kCommandShowCommands,
-                               kSeparator,          kCommandNextDocument, kCommandPreviousDocument,
-                               kDocumentsHere,      kSeparator,           kBrightnessHere};
+  static const Items sItems = {kCommandShowOutline,
+                               kCommandShowNotes,
+                               kCommandShowCommands,
+                               kCommandShowMap,
+                               kMapHere,
+                               kSeparator,
+                               kCommandNextDocument,
+                               kCommandPreviousDocument,
+                               kDocumentsHere,
+                               kSeparator,
+                               kBrightnessHere};
   return sItems;
 }
 
@@ -146,6 +155,14 @@ void OutlinerMenus::AddBrightness(HMENU inMenu) {
     AppendItem(menu, NameOf(command), static_cast<unsigned>(command), true);
 }
 
+void OutlinerMenus::AddMap(HMENU inMenu) {
+  const HMENU menu = AppendSubMenu(inMenu, Localized("$$$/outliner/Menu/Map=Map Tools"), 0);
+  for (int command = kCommandMapSelect; command <= kCommandMapGoToRow; ++command) {
+    if (command == kCommandMapZoomIn || command == kCommandMapGoToRow) AppendSeparator(menu, 0);
+    AppendItem(menu, NameOf(command), static_cast<unsigned>(command), command < kCommandMapZoomIn);
+  }
+}
+
 void OutlinerMenus::Build(HMENU inBar) {
   const struct {
     UTF16String title;
@@ -164,6 +181,8 @@ void OutlinerMenus::Build(HMENU inBar) {
         mRecentFiles = AppendSubMenu(menu, Localized("$$$/outliner/Menu/Recent=Open Recent"), 0);
       } else if (item == kDocumentsHere) {
         mDocuments = AppendSubMenu(menu, Localized("$$$/outliner/Menu/Documents=Documents"), 0);
+      } else if (item == kMapHere) {
+        AddMap(menu);
       } else if (item == kBrightnessHere) {
         AddBrightness(menu);
       } else {

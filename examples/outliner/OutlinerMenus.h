@@ -41,6 +41,7 @@ class OutlinerMenus {
 
  private:
   static void AddBrightness(HMENU inMenu);
+  static void AddMap(HMENU inMenu);
 
   HMENU mRowMenu;  // owned
   HMENU mWorkspaces = nullptr;

@@ -7,6 +7,7 @@
 #include "CommandsPane.h"
 #include "CommandsView.h"
 #include "DocumentFrame.h"
+#include "MapPane.h"
 #include "NotesView.h"
 #include "OutlinerApp.h"
 #include "OutlinerCommands.h"
@@ -37,6 +38,7 @@ namespace {
 // Of panels that the workspace has no place for.
 constexpr int kNotesHeight = 170;
 constexpr int kCommandsWidth = 380;
+constexpr int kMapWidth = 480;
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -52,6 +54,7 @@ View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {
 const UTF8String& PanelOf(int inCommand) {
   return inCommand == kCommandShowOutline ? OutlinePanel()
          : inCommand == kCommandShowNotes ? NotesPanel()
+         : inCommand == kCommandShowMap   ? MapPanel()
                                           : CommandsPanel();
 }
 
@@ -75,6 +78,19 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
       new PanelCreator(CommandsPanel(), "$$$/outliner/Panel/Commands=Commands", place, [this] {
         return boost::intrusive_ptr<lumui::ui::UI_SubView>(
             new CommandsPane([this](int inCommand) { RunFromList(inCommand); }));
+      }));
+  place.size = kMapWidth;
+  inWorkspace->RegisterTabCreator(
+      new PanelCreator(MapPanel(), "$$$/outliner/Panel/Map=Map", place, [this] {
+        MapPane::Functions functions;
+        functions.focusOutline = [this] {
+          ShowOutlinePanel();
+          mFrame->FocusRows();
+        };
+        functions.openRowMenu = [this](const auto& inPlace) {
+          mMenus->OpenRowMenu(*FindMainWindow(), inPlace);
+        };
+        return boost::intrusive_ptr<lumui::ui::UI_SubView>(new MapPane(GetOutline(), functions));
       }));
 }
 
@@ -171,7 +187,12 @@ void OutlinerApp::TogglePanel(int inCommand) {
   GetWorkspace()->OpenTab(type);
   if (auto* const notes = FindView<NotesView>(GetWorkspace(), type)) notes->FocusField();
   if (auto* const commands = FindView<CommandsPane>(GetWorkspace(), type)) commands->FocusList();
+  if (MapPane* const map = FindMap(); map && type == MapPanel()) map->FocusMap();
   if (type == OutlinePanel()) mFrame->FocusRows();
+}
+
+MapPane* OutlinerApp::FindMap() const {
+  return IsPanelInFront(kCommandShowMap) ? FindView<MapPane>(GetWorkspace(), MapPanel()) : nullptr;
 }
 
 // The command finds the keyboard where it would be if it came from a menu.

@@ -54,6 +54,9 @@ inline auto SelectionInk() {
 inline auto IdleSelection() {
   return Of(lumui::ui::themev5::kColor_ListRowSelectedInactive);
 }
+inline auto DropTarget() {
+  return Of(lumui::ui::themev5::kColor_DropTarget);
+}
 inline auto EditField() {
   return Of(lumui::ui::themev5::kColor_FieldBackground);
 }

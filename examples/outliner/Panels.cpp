@@ -36,6 +36,11 @@ const UTF8String& CommandsPanel() {
   return sType;
 }
 
+const UTF8String& MapPanel() {
+  static const UTF8String sType = ToUTF8("outliner.map");
+  return sType;
+}
+
 ViewPanel::ViewPanel(Workspace* inWorkspace, WorkspaceFrameBase* inFrame,
                      const lumcore::UTF16String& inTitle, const UTF8String& inTabType,
                      const boost::intrusive_ptr<lumui::ui::UI_SubView>& inView)

@@ -16,6 +16,7 @@ namespace outliner {
 const lumcore::UTF8String& OutlinePanel();
 const lumcore::UTF8String& NotesPanel();
 const lumcore::UTF8String& CommandsPanel();
+const lumcore::UTF8String& MapPanel();
 
 // A panel that one view fills. The view may outlive it, and fill the next one.
 class ViewPanel final : public lumworkspace::workspace::TabPanel {

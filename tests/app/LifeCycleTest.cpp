@@ -10,6 +10,7 @@
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/Theme.h"
 #include "lumui/ui/ThemeColors.h"
+#include "lumui/ui/UI_NodeAdapter.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "lumui/ui/UI_SubView.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
@@ -168,6 +169,7 @@ TEST_F(LifeCycle, ASecondApplicationIsRefusedAndTheFirstStaysWhole) {
     EXPECT_STREQ(error.what(), "App object already initialized");
   }
   EXPECT_EQ(App::GetApp(), &app);
+  EXPECT_NE(lumui::ui::UI_NodeAdapterRegistry::Get().Find("vek::LUMPlatformView"), nullptr);
   EXPECT_EQ(lumcore::config::Localizer::Get(), localizer);
   EXPECT_EQ(vek::uisupport::CommandHandlerBase::GetDefaultCommandHandler(), &app);
   app.Terminate();

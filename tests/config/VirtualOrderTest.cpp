@@ -16,13 +16,16 @@
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/document/FileBasedDocument.h"
 #include "vek/hierarchyview/DynamicHierarchyEntry.h"
+#include "vek/hierarchyview/HierarchyArrowTracker.h"
 #include "vek/hierarchyview/HierarchyGeometry.h"
+#include "vek/hierarchyview/TreeControlBase.h"
 #include "vek/selection/Junction.h"
 #include "vek/selection/Manager.h"
 #include "vek/selection/Restorer.h"
 #include "vek/uisupport/CommandHandler.h"
 #include "vek/undo/MultiDeed.h"
 #include "vek/undo/MultiUndoerHooks.h"
+#include "vek/workspace/GenericPanelCreatorBase.h"
 
 namespace {
 
@@ -104,6 +107,36 @@ struct AppProbe : vek::app::MultiDocApplication {
   }
 };
 
+struct TreeProbe : vek::hierarchyview::TreeControlBase {
+  static std::string Get() {
+    using vek::selection::Manager;
+    Manager* (TreeProbe::*constManager)() const = &TreeProbe::GetSelectionManager;
+    Manager* (TreeProbe::*manager)() = &TreeProbe::GetSelectionManager;
+    return Positions(&TreeProbe::SelectionChanged, &TreeProbe::ResizeHierarchy,
+                     &TreeProbe::ExpandAll, &TreeProbe::ExpandNode, &TreeProbe::CanExpandNode,
+                     &TreeProbe::CollapseNode, &TreeProbe::CanCollapseNode, &TreeProbe::GotoLast,
+                     &TreeProbe::GotoFirst, &TreeProbe::SetBackgroundColor,
+                     &TreeProbe::SetCustomTextColor, &TreeProbe::SetCustomSelectionColor,
+                     &TreeProbe::DoBuildHierarchy, &TreeProbe::SetupIdleTimeCallback,
+                     &TreeProbe::ReleaseIdleTimeCallback, &TreeProbe::NumSelectedEntries,
+                     &TreeProbe::SetFocusItem, constManager, manager, &TreeProbe::CreateGeometry,
+                     &TreeProbe::CreateRowGeometryFactory, &TreeProbe::DoDeselectAll,
+                     &TreeProbe::DoSelectEntry, &TreeProbe::DoToggleEntrySelectionState,
+                     &TreeProbe::GetExpandedTwisty, &TreeProbe::GetUnExpandedTwisty,
+                     &TreeProbe::GetTypeAheadID, &TreeProbe::DoDrawItemDropFeedback,
+                     &TreeProbe::DoDrawViewDropFeedback, &TreeProbe::DoServeDropTracker,
+                     &TreeProbe::DoStartDragOut, &TreeProbe::DoProcessOnOpenSelected);
+  }
+};
+
+struct ArrowProbe : vek::hierarchyview::HierarchyArrowTracker {
+  static std::string Get() {
+    return Positions(&ArrowProbe::TrackClickOnItem, &ArrowProbe::TrackClickOffItem,
+                     &ArrowProbe::TrackClickOnColExpPart, &ArrowProbe::SelectHierarchyItem,
+                     &ArrowProbe::StartDragEvent);
+  }
+};
+
 struct EntryProbe : vek::hierarchyview::DynamicHierarchyEntry {
   static std::string Get() {
     void (EntryProbe::*const setMarquee)(bool) = &EntryProbe::HasMarquee;
@@ -144,11 +177,18 @@ TEST(VirtualOrder, IsWhatHostsWereCompiledAgainst) {
   EXPECT_EQ(AppProbe::GetOfDocuments(), "55 56 57 ");
   EXPECT_EQ(EntryProbe::Get(), "5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 ");
   // The destructor stands behind them.
+  EXPECT_EQ(ArrowProbe::Get(), "7 8 9 10 11 ");
+  std::string tree;
+  for (int i = 15; i <= 46; ++i)
+    tree += std::to_string(i) + " ";
+  EXPECT_EQ(TreeProbe::Get(), tree);
   using Geometry = vek::hierarchyview::HierarchyGeometry;
   EXPECT_EQ(Positions(&Geometry::EntryLevel, &Geometry::EntryWidthHeight, &Geometry::begin,
                       &Geometry::end, &Geometry::beginDeep, &Geometry::endDeep, &Geometry::rbegin,
                       &Geometry::rend),
             "0 1 2 3 4 5 6 7 ");
+  using Creator = vek::workspace::GenericPanelCreatorBase;
+  EXPECT_EQ(Positions(&Creator::BuildPanel, &Creator::GetFirstPlace), "2 3 ");
   // The destructor stands second.
   EXPECT_EQ(HandlerProbe::Get(), "0 3 4 5 6 7 8 9 10 11 12 ");
 }

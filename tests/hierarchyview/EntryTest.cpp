@@ -3,12 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <boost/make_shared.hpp>
 #include <memory>
+#include <vector>
 
 #include "support/EventLog.h"
 #include "support/RecordingJunction.h"
 #include "support/TestTree.h"
+#include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/DynamicHierarchyEntry.h"
 #include "vek/selection/Manager.h"
 
@@ -71,6 +74,36 @@ TEST(Sorting, CoversTheWholeSubtreeAndIsRemembered) {
   EXPECT_EQ(ShapeOf(*root), "r [A [e f g] a b [z y] c [a [x y] b B]]");
 }
 
+// The default order reads each text once and sorts those; a function like it is asked each time.
+TEST(Sorting, ByTextsIsStableAndAsByTheFunction) {
+  const char* const kNames[] = {"b", "", "ab", "a", "b", "abc", "B", "a"};
+  for (const bool ascending : {true, false}) {
+    std::string orders[2];
+    for (const bool byTexts : {true, false}) {
+      const EntryP root(new NamedEntry("r", nullptr));
+      std::vector<HierarchyEntryBase*> made;
+      for (const char* const name : kNames) {
+        made.push_back(new NamedEntry(name, root.get()));
+        root->AddChild(EntryP(made.back()), false);
+      }
+      const vek::hierarchyview::CompareCellTexts texts;
+      const auto alike = [=](unsigned int inAttribute, const HierarchyEntryBase* inA,
+                             const HierarchyEntryBase* inB) {
+        return texts(inAttribute, inA, inB);
+      };
+      root->SortChildren(1, ascending,
+                         byTexts ? boost::make_shared<CompareFunction>(texts)
+                                 : boost::make_shared<CompareFunction>(alike));
+      for (const EntryP& child : root->GetChildren()) {
+        const auto place = std::find(made.begin(), made.end(), child.get());
+        orders[byTexts] += std::to_string(place - made.begin());
+      }
+    }
+    EXPECT_EQ(orders[0], orders[1]);
+    EXPECT_EQ(orders[1], ascending ? "04523761" : "16372504");
+  }
+}
+
 TEST(Sorting, WithoutAFunctionFailsOrDoesNothingAndLosesNoChild) {
   const EntryP root = ReadTree("r [c [b a]]");
   EXPECT_THROW(root->SortChildren(3, true, nullptr), boost::bad_function_call);
@@ -107,8 +140,7 @@ TEST(Removing, TakesTheFirstThatIsTheEntryAndFollowsNoPointer) {
   EXPECT_EQ(log.Take(), "x:r [b y a] y:r");
 }
 
-// Each outlives the destructors of the ones above it, and the last but one lives on without a
-// parent.
+// Children go when their parent's destructor is through. One that lives on has no parent then.
 TEST(Dying, GoesDownTheDeepestTreeWithoutRecursion) {
   struct Noted : NamedEntry {
     using NamedEntry::NamedEntry;
@@ -134,7 +166,6 @@ TEST(Dying, GoesDownTheDeepestTreeWithoutRecursion) {
   last.reset();
   EXPECT_EQ(log.Take(), "y");
   EXPECT_EQ(kept->GetParent(), nullptr);
-  kept->SetParent(nullptr);
 }
 
 TEST(DynamicEntries, BuildAndDropTheirChildrenAtEverySetting) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/TestTree.h"
+#include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/PlainWalk.h"
 #include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/TreeGeometry.h"
@@ -175,13 +176,15 @@ class RandomTree {
   }
 
   void Sort(NamedEntry& ioEntry) {
-    ioEntry.SortChildren(
-        Below(2), Below(2) == 0,
-        boost::shared_ptr<vek::hierarchyview::CompareFunction>(
-            new vek::hierarchyview::CompareFunction(
-                [](unsigned int, const HierarchyEntryBase* inA, const HierarchyEntryBase* inB) {
-                  return NameOf(inA) < NameOf(inB);
-                })));
+    using vek::hierarchyview::CompareFunction;
+    boost::shared_ptr<CompareFunction> compare(
+        new CompareFunction(vek::hierarchyview::CompareCellTexts()));
+    if (Below(2) == 0) {
+      *compare = [](unsigned int, const HierarchyEntryBase* inA, const HierarchyEntryBase* inB) {
+        return NameOf(inA) < NameOf(inB);
+      };
+    }
+    ioEntry.SortChildren(Below(2), Below(2) == 0, compare);
   }
 
   // A second list of the same children, of which some then belong to it.

@@ -221,10 +221,11 @@ TEST(OutlinersWorkspaces, ComeBackAtTheNextStart) {
     EXPECT_EQ(Panels(host), "left[outline + notes|commands*] Notes");
     EXPECT_EQ(host.GetWindow().UI_GetLocalRectF().width, 700);
     lumui::testing::OpenMenu(host.GetWindow(), {ToUTF16("Workspace")});
-    EXPECT_EQ(ToStdString(lumui::testing::MenuAsText(nullptr)),
-              "&Writing | (*)&Notes | &Commands | --- | &Save Workspace | &Revert Workspace... | "
-              "R&eset Workspace... | --- | New W&orkspace... | &Delete Workspace... | "
-              "Ed&it Workspaces...");
+    EXPECT_EQ(
+        ToStdString(lumui::testing::MenuAsText(nullptr)),
+        "&Writing | (*)&Notes | &Commands | &Map | --- | &Save Workspace | &Revert Workspace... | "
+        "R&eset Workspace... | --- | New W&orkspace... | &Delete Workspace... | "
+        "Ed&it Workspaces...");
     lumui::testing::CloseMenus(host.GetWindow());
     host.AnswerNextBox("Cancel");
     ChooseWorkspace(host, "Reset Workspace...");

@@ -9,6 +9,7 @@
 #include "UITest.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/InputCapture.h"
+#include "lumui/utility/ksv/KeyboardShape.h"
 
 // The same road with a real window system and a window manager at its other end: input comes from
 // another process.
@@ -265,6 +266,36 @@ TEST_F(RealDisplay, KeysHaveTheReadingsOfTheirLayout) {
   for (const auto& row : kRows)
     EXPECT_EQ(KeysOf(row.layout, row.actions), row.keys) << row.layout << ": " << row.actions;
   KeysOf("us", "");
+}
+
+// The row below the digits and its neighbours to the right, "~" before keys that no command can
+// have, and the key beside the left Shift, which not every form has.
+TEST_F(RealDisplay, DrawnKeyboardsHaveTheCapsOfTheLayout) {
+  using namespace utility::ksv;
+  const struct {
+    const char* layout;
+    const char* caps;
+  } kRows[] = {
+      {"de", "ISO QWERTZUIOPÜ+ ~^ <"},
+      {"fr", "ISO AZERTYUIOP~^$ ² <"},
+      {"ru", "ISO ЙЦУКЕНГШЩЗХЪ Ё /"},
+      {"us", "ANSI QWERTYUIOP[] ` "},
+  };
+  for (const auto& row : kRows) {
+    KeysOf(row.layout, "");
+    const bool iso = GetLikelyForm() == KeyboardForm::kISO;
+    std::string letters;
+    std::string first;
+    std::string beside;
+    for (const KeyShape& key : MakeKeyboard(GetLikelyForm())) {
+      const std::string mark = key.code == KeyboardCode() ? "~" : "";
+      const std::string cap = mark + Text(lumcore::utility::ToUTF8(key.cap));
+      if (key.rect.y == 2.5f && key.rect.x >= 1.5f && key.rect.x < 13.5f) letters += cap;
+      if (key.rect.y == 1.5f && key.rect.x == 0) first = cap;
+      if (key.rect.y == 4.5f && key.rect.x == 1.25f) beside = cap;
+    }
+    EXPECT_EQ((iso ? "ISO " : "ANSI ") + letters + " " + first + " " + beside, row.caps);
+  }
 }
 
 TEST_F(RealDisplay, ClicksWheelsAndDragsComeOnce) {

@@ -58,7 +58,7 @@ class RecordingPlatformView : public tv::PlatformView {
   }
   tv::Point DataPos() const override { return mPosition; }
   unsigned char GetClickCount() override { return 1; }
-  const lumui::drawbot::SupplierInterface* GetDrawSupplier() const override { return nullptr; }
+  const lumui::drawbot::SupplierInterface* GetDrawSupplier() const override { return mSupplier; }
   void DisplayResized(bool inRedraw) override { mLog.Add(inRedraw ? "resized!" : "resized"); }
   void StartTimer(unsigned int inID, float inInterval) override {
     if (mFirstTimer == 0) mFirstTimer = inID;
@@ -73,6 +73,7 @@ class RecordingPlatformView : public tv::PlatformView {
 
   tv::Point mSize;
   tv::Point mPosition;
+  const lumui::drawbot::SupplierInterface* mSupplier = nullptr;
 
  private:
   void DoDataPos(const tv::Point& inPoint, bool inFlag) override {

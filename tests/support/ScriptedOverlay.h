@@ -75,7 +75,8 @@ class ScriptedOverlay : public tv::Overlay {
     return Does("menu", inAt);
   }
   std::auto_ptr<tv::Tracker> DoAcquireTracker(const tv::Point& inPoint, bool inHover,
-                                              tv::TrackerDragAndDropInterface*) override {
+                                              tv::TrackerDragAndDropInterface* inDrag) override {
+    mDrag = inDrag;
     Does(inHover ? "acquire?" : "acquire", inPoint);
     return std::auto_ptr<tv::Tracker>(mMakeTracker ? mMakeTracker() : nullptr);
   }
@@ -89,6 +90,7 @@ class ScriptedOverlay : public tv::Overlay {
   bool DoWantsDragDropEvents() const override { return Does("drops"); }
 
   bool mTakes = false;
+  tv::TrackerDragAndDropInterface* mDrag = nullptr;  // of the tracker that was asked for last
   std::map<std::string, std::function<void()>> mOn;
   std::function<tv::Tracker*()> mMakeTracker;
 

@@ -134,7 +134,8 @@ TEST_F(PlatformViews, ShowAgainWhatAPressWouldDo) {
 
 TEST_F(PlatformViews, ComeWholeOutOfArchives) {
   auto& adapters = lumui::ui::UI_NodeAdapterRegistry::Get();
-  adapters.Register(std::make_unique<LUMPlatformViewAdapter>());
+  LUMPlatformViewAdapter::RegisterOnce();
+  LUMPlatformViewAdapter::RegisterOnce();
   EXPECT_EQ(adapters.FindFor(*mScroll).GetClassName(), "vek::LUMPlatformView");
   const auto node = adapters.Find("vek::LUMPlatformView")->CreateNode(lumui::ui::NodeSource());
   lumui::ui::UI_NodeAdapterRegistry::Reset();

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "lumui/controls/UI_TextEdit.h"
+#include "lumui/datatransfer/OS_ReceiveData.h"
 #include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/UI_DragDropHandler.h"
@@ -16,8 +17,7 @@
 namespace {
 
 using lumui::controls::UI_TextEdit;
-using lumui::ui::DropEffect;
-using lumui::ui::DropEvent;
+using lumui::datatransfer::OS_ReceiveData;
 using lumui::ui::UI_SubView;
 using vek::workspace::TopLevelWindowT;
 using vek::workspace::Workspace;
@@ -49,56 +49,50 @@ TEST(TopLevelWindows, AreMadeNowOrLater) {
 class Logger : public lumui::ui::UI_DragDropHandler {
  public:
   Logger(std::string inName, std::string& outLog) : mName(std::move(inName)), mLog(outLog) {}
-  DropEffect DragEnter(const DropEvent& inEvent) override { return Note("enter", inEvent); }
-  DropEffect DragOver(const DropEvent& inEvent) override { return Note("over", inEvent); }
-  void DragLeave() override { mLog += mName + ":leave "; }
-  DropEffect Drop(const DropEvent& inEvent) override { return Note("drop", inEvent); }
+  bool UI_WantsDragDropEvents() const override { return true; }
+  bool UI_HandleDragEnter(Position inAt, OS_ReceiveData&, int&) override {
+    return Note("enter", inAt);
+  }
+  bool UI_HandleDragOver(Position inAt, OS_ReceiveData&, int&) override {
+    return Note("over", inAt);
+  }
+  bool UI_HandleDrop(Position inAt, OS_ReceiveData& inData, int&) override {
+    Note("drop", inAt);
+    std::vector<lumcore::UTF16String> files;
+    EXPECT_EQ(inData.ReadFiles(files), lumui::datatransfer::ReadResult::kRead);
+    mLog += lumcore::utility::ToStdString(files.back()) + " ";
+    return true;
+  }
 
  private:
-  DropEffect Note(const char* inWhat, const DropEvent& inEvent) {
-    mLog += mName + ":" + inWhat + "@" + std::to_string(inEvent.position.x) + " ";
-    if (!inEvent.files.empty() && std::string(inWhat) == "drop") {
-      mLog += lumcore::utility::ToStdString(inEvent.files.back()) + " ";
-    }
-    return DropEffect::kCopy;
+  bool Note(const char* inWhat, Position inAt) {
+    mLog += mName + ":" + inWhat + "@" + std::to_string(static_cast<int>(inAt.x)) + " ";
+    return true;
   }
 
   std::string mName;
   std::string& mLog;
 };
 
-class DropNode : public UI_SubView, public Logger {
- public:
-  explicit DropNode(std::string& outLog) : Logger("node", outLog) {}
-};
-
-TEST(TopLevelWindows, DropsGoToTheNodeElseToTheFallback) {
+TEST(TopLevelWindows, OfferDropsToTheFallback) {
   Workspace workspace(nullptr);
   const Rect rect(30, 40, 300, 200);
   const boost::intrusive_ptr<Pointer> window(
       new Pointer(&workspace, false, &rect, nullptr, false, false));
-  std::string log;
-  const boost::intrusive_ptr<DropNode> node(new DropNode(log));
-  node->UI_SetLocalRectF(lumcore::geom::RectT<float>(100, 0, 100, 200));
-  window->UI_AddChild(node);
   window->ConstructWindow(&rect);
   window->UI_Show(true);
   lumui::testing::ProcessEvents();
-  const auto drop = [&](float inX) {
+  std::string log;
+  const auto drop = [&] {
     log.clear();
-    const DropEffect effect = lumui::testing::DropOnWindow(
-        *window, {inX, 50}, {lumcore::utility::ToUTF16("/tmp/a b.txt")}, {});
-    return log + (effect == DropEffect::kNone ? "refused" : "taken");
+    const int effect = lumui::testing::DropOnWindow(
+        *window, {250, 50}, {lumcore::utility::ToUTF16("/tmp/a b.txt")}, {});
+    return log + std::to_string(effect);
   };
-  EXPECT_EQ(drop(250), "refused");
-  EXPECT_EQ(drop(130), "node:enter@30 node:drop@30 /tmp/a b.txt taken");
+  EXPECT_EQ(drop(), "0");
   boost::shared_ptr<lumui::ui::UI_DragDropHandler> fallback(new Logger("window", log));
   window->SetDragDropFallbackHandler(fallback);
-  EXPECT_EQ(drop(250),
-            "window:enter@0 window:over@0 window:over@250 window:drop@250 /tmp/a b.txt taken");
-  EXPECT_EQ(
-      drop(130),
-      "window:enter@0 window:over@0 window:leave node:enter@30 node:drop@30 /tmp/a b.txt taken");
+  EXPECT_EQ(drop(), "window:enter@0 window:over@0 window:over@250 window:drop@250 /tmp/a b.txt 1");
   window->UI_DestroyWindow();
 }
 

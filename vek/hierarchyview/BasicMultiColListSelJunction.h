@@ -3,25 +3,44 @@
 
 #pragma once
 
+#include <cstdint>
+#include <unordered_map>
+
 #include "vek/config/Export.h"
-#include "vek/selection/Junction.h"
+#include "vek/selection/KnowingJunction.h"
 
 namespace vek::hierarchyview {
 
+class HierarchyEntryBase;
 class TreeControlBase;
 
 // What can be selected in a ready-made list: the nodes of all its entries, open or closed, that say
 // they are selectable, from top to bottom. None once the control is gone.
-class VEK_API BasicMultiColListSelJunction : public selection::Junction {
+//
+// It remembers whose nodes it was asked for as long as no tree changes its shape, and with that no
+// entry dies. After a change one walk over all entries finds those again.
+class VEK_API BasicMultiColListSelJunction : public selection::KnowingJunction {
  public:
-  explicit BasicMultiColListSelJunction(TreeControlBase const* inControl) : mControl(inControl) {}
+  explicit BasicMultiColListSelJunction(TreeControlBase const* inControl);
+  ~BasicMultiColListSelJunction() override;
 
   std::list<selection::Node*> AllSelectables() override;
+  bool Knows(const selection::Node* inNode) override;
+
+  // An entry of the control whose node is about to be selected, so that it need not be looked for.
+  void Note(HierarchyEntryBase* inEntry);
   // For a manager that outlives the control.
-  void ForgetControl() { mControl = nullptr; }
+  void ForgetControl();
 
  private:
+  using Entries = std::unordered_map<const selection::Node*, HierarchyEntryBase*>;
+
+  bool IsThere(const selection::Node* inNode) const;
+  void FindAgain(bool inAll);
+
   TreeControlBase const* mControl;  // borrowed; null when it is gone
+  Entries mEntries;
+  std::uint64_t mShape = 0;  // when the entries were found
 };
 
 }  // namespace vek::hierarchyview

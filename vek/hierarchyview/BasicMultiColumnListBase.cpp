@@ -3,13 +3,12 @@
 
 #include "vek/hierarchyview/BasicMultiColumnListBase.h"
 
-#include <vector>
-
 #include "lumcore/debug/Contract.h"
 #include "lumui/drawbot/Image.h"
 #include "vek/hierarchyview/BasicMultiColListSelJunction.h"
 #include "vek/hierarchyview/BasicMultiColRootNode.h"
 #include "vek/hierarchyview/BasicTreeListRowGeometry.h"
+#include "vek/hierarchyview/EntryWalk.h"
 #include "vek/hierarchyview/HoldEntry.h"
 #include "vek/selection/ActiveManager.h"
 #include "vek/selection/Manager.h"
@@ -32,21 +31,6 @@ class ListManager : public Manager {
  private:
   boost::shared_ptr<BasicMultiColListSelJunction> mJunction;
 };
-
-// From top to bottom, without regard to what is open and without a recursion.
-template <class Function>
-void ForEach(HierarchyEntryBase* inTop, Function const& inFunction) {
-  std::vector<HierarchyEntryBase*> waiting(1, inTop);
-  while (!waiting.empty()) {
-    HierarchyEntryBase* const entry = waiting.back();
-    waiting.pop_back();
-    if (!entry) continue;
-    inFunction(entry);
-    const auto& children = entry->GetChildren();
-    for (auto child = children.rbegin(); child != children.rend(); ++child)
-      waiting.push_back(child->get());
-  }
-}
 
 Node* GetSelectable(HierarchyEntryBase const* inEntry) {
   Node* const node = inEntry->GetDataAsSelNode();
@@ -78,15 +62,6 @@ bool BasicMultiColRootNode::CanExpand() const {
 
 bool BasicMultiColRootNode::CanCollapse() const {
   return !GetChildren().empty();
-}
-
-std::list<Node*> BasicMultiColListSelJunction::AllSelectables() {
-  std::list<Node*> nodes;
-  if (!mControl) return nodes;
-  ForEach(mControl->GetRootEntry(), [&](HierarchyEntryBase* inEntry) {
-    if (Node* const node = GetSelectable(inEntry)) nodes.push_back(node);
-  });
-  return nodes;
 }
 
 BasicMultiColumnListBase::BasicMultiColumnListBase(trackview::TrackView* inTrackView,
@@ -137,7 +112,7 @@ void BasicMultiColumnListBase::TakeOutAllEntries() {
 // Everything that refers to the entry or to what is below it lets go.
 void BasicMultiColumnListBase::Forget(HierarchyEntryBase* inEntry) {
   std::list<Node*> leaving;
-  ForEach(inEntry, [&](HierarchyEntryBase* inLeaving) {
+  ForEachEntry(inEntry, [&](HierarchyEntryBase* inLeaving) {
     Node* const node = inLeaving->GetDataAsSelNode();
     if (node && mManager->Selected(node)) leaving.push_back(node);
   });
@@ -149,7 +124,7 @@ void BasicMultiColumnListBase::Forget(HierarchyEntryBase* inEntry) {
 TreeControlBase::EntryList BasicMultiColumnListBase::GetSelectedEntries() const {
   EntryList entries;
   if (mManager->SelectedSelectables().empty()) return entries;
-  ForEach(GetRootEntry(), [&](HierarchyEntryBase* inEntry) {
+  ForEachEntry(GetRootEntry(), [&](HierarchyEntryBase* inEntry) {
     if (inEntry->Selected(mManager.get())) entries.push_back(inEntry);
   });
   return entries;
@@ -231,6 +206,7 @@ void BasicMultiColumnListBase::DoSelectEntry(HierarchyEntryBase* inEntry, bool i
   Node* const node = GetSelectable(inEntry);
   if (!node) return;
   const auto held = HoldEntry(inEntry);
+  mJunction->Note(inEntry);
   const std::list<Node*> nodes(1, node);
   if (inExtend) {
     mManager->ToggleSelectables(nodes, selection::eSendMessages);
@@ -246,8 +222,11 @@ void BasicMultiColumnListBase::DoSelectEntry(HierarchyEntryBase* inEntry, bool i
 
 void BasicMultiColumnListBase::DoToggleEntrySelectionState(EntryList& ioEntries) {
   std::list<Node*> nodes;
-  for (HierarchyEntryBase const* const entry : ioEntries) {
-    if (Node* const node = GetSelectable(entry)) nodes.push_back(node);
+  for (HierarchyEntryBase* const entry : ioEntries) {
+    Node* const node = GetSelectable(entry);
+    if (!node) continue;
+    mJunction->Note(entry);
+    nodes.push_back(node);
   }
   mManager->ToggleSelectables(nodes, selection::eSendMessages);
 }

@@ -61,7 +61,7 @@ void HierarchyDragSelectTracker::ContinueTracking(Modifiers inModifiers, const P
   Tracker::ContinueTracking(inModifiers, inDataPoint);
   // A selection that changes may make a host build the tree anew.
   if (mFollowsControl) mGeometry = mControl->GetGeometry();
-  if (!mGeometry) return;
+  if (!mGeometry || !mControl->GetRowGeometryFactory()) return;
   EntryList selection = mInitialSelection;
   HierarchyGeometry::iterator target;
   GatherTouched(inModifiers, inDataPoint, selection, target);

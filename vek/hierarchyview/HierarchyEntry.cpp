@@ -12,11 +12,15 @@
 namespace vek::hierarchyview {
 
 HierarchyEntry::HierarchyEntry(ENodeState const& inState, HierarchyEntryBase* inParent)
-    : HierarchyEntryBase(inState, inParent) {}
+    : HierarchyEntryBase(inState, inParent) {
+  mIsHierarchyEntry = true;
+}
 
 HierarchyEntry::HierarchyEntry(ENodeState const& inState, HierarchyEntryBase* inParent,
                                List const& inChildren)
-    : HierarchyEntryBase(inState, inParent, inChildren) {}
+    : HierarchyEntryBase(inState, inParent, inChildren) {
+  mIsHierarchyEntry = true;
+}
 
 void HierarchyEntry::SortChildren(unsigned int const& inAxis, bool inAscending,
                                   boost::shared_ptr<CompareFunction> inCompare) {
@@ -52,8 +56,8 @@ void HierarchyEntry::SortChildrenImpl_(unsigned int const& inAxis, bool inAscend
   mCompareFunction = inComparator.GetCompareFunction();
   SortList(inComparator);
   for (const auto& child : GetChildren()) {
-    auto* entry = dynamic_cast<HierarchyEntry*>(child.get());
-    if (entry) entry->SortChildrenImpl_(inAxis, inAscending, inComparator);
+    if (!child || !child->mIsHierarchyEntry) continue;
+    static_cast<HierarchyEntry&>(*child).SortChildrenImpl_(inAxis, inAscending, inComparator);
   }
 }
 

@@ -6,8 +6,10 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <vector>
 
 #include "lumcore/debug/Contract.h"
+#include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/RowBranch.h"
 #include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/TreeListComparator.h"
@@ -153,9 +155,37 @@ HierarchyEntryBase::List::iterator HierarchyEntryBase::child_end() {
 
 void HierarchyEntryBase::SortList(TreeListComparator const& inComparator) {
   ShapeChanged();
-  // By reference: a merge would copy the comparator, and with it a counted pointer, many times.
   RowIndex::OrderChanged(*this);
+  const auto& compare = inComparator.GetCompareFunction();
+  if (compare && compare->target<CompareCellTexts>() && SortByTexts(inComparator)) return;
+  // By reference: a merge would copy the comparator, and with it a counted pointer, many times.
   mChildren.sort(std::cref(inComparator));
+}
+
+// As the function would, with each text read once. False for a list with a null in it.
+bool HierarchyEntryBase::SortByTexts(TreeListComparator const& inComparator) {
+  struct Key {
+    lumcore::UTF16String text;
+    List::iterator place;
+  };
+  std::vector<Key> keys;
+  keys.reserve(mChildren.size());
+  for (auto place = mChildren.begin(); place != mChildren.end(); ++place) {
+    if (!*place) return false;
+    keys.push_back({lumcore::UTF16String(), place});
+    (*place)->GetCellText(inComparator.GetAttribute(), keys.back().text);
+  }
+  std::vector<Key const*> order;
+  order.reserve(keys.size());
+  for (const Key& key : keys)
+    order.push_back(&key);
+  const bool greaterFirst = inComparator.IsAscending();
+  std::stable_sort(order.begin(), order.end(), [greaterFirst](Key const* inA, Key const* inB) {
+    return greaterFirst ? inA->text > inB->text : inB->text > inA->text;
+  });
+  for (Key const* const key : order)
+    mChildren.splice(mChildren.end(), mChildren, key->place);
+  return true;
 }
 
 std::uint64_t HierarchyEntryBase::GetShapeVersion() {

@@ -118,6 +118,7 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   friend class RowIndex;
   // By the list's links, so that places in it stay; also where the comparator throws.
   void SortList(TreeListComparator const& inComparator);
+  bool SortByTexts(TreeListComparator const& inComparator);
 
   void EnterPosition(List::iterator inPlace);
   void LeavePositions(List const& inLeaving);
@@ -134,9 +135,10 @@ class VEK_API HierarchyEntryBase : public virtual lumcore::utility::RefCountedOb
   // Where this entry stands in its parent's list, as long as no other position in any list holds
   // it. Sorting moves list nodes and leaves this right.
   List::iterator mPlace;
-  std::uint32_t mPositions = 0;  // too high for what was in a list that was handed out
-  bool mIsPlaced = false;        // mPlace is right, and the parent lives
-  bool mHandedOut = false;       // mutable iterators of the own list may be about
+  std::uint32_t mPositions = 0;    // too high for what was in a list that was handed out
+  bool mIsPlaced = false;          // mPlace is right, and the parent lives
+  bool mHandedOut = false;         // mutable iterators of the own list may be about
+  bool mIsHierarchyEntry = false;  // set by that class: sorting asks it of every child
   // For the row index: whether the owner's branch has this entry among the stale ones, where this
   // entry stands in that branch, and the own branch, once this entry was asked for its rows.
   bool mIsStale = false;

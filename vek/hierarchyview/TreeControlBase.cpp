@@ -3,7 +3,10 @@
 
 #include "vek/hierarchyview/TreeControlBase.h"
 
+#include <algorithm>
+#include <iterator>
 #include "lumcore/debug/Contract.h"
+
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/Fonts.h"
@@ -163,9 +166,34 @@ bool TreeControlBase::IsNodeCacheGood() const {
 
 HierarchyGeometry::iterator TreeControlBase::FindEntryInCache(const Point& inDataPoint) {
   if (!IsNodeCacheGood() || mNodeCache.empty()) return mGeometry->begin();
+  if (!mPassedRows.empty()) return FindPassedRow(inDataPoint);
   auto row = mNodeCache.lower_bound(inDataPoint.y);
   if (row != mNodeCache.begin()) --row;
   return row->second;
+}
+
+// As if each passed row stood in the map.
+HierarchyGeometry::iterator TreeControlBase::FindPassedRow(const Point& inDataPoint) {
+  const std::optional<RowIndex> index = RowIndex::Of(*mGeometry);
+  if (!index) return mGeometry->begin();
+  const auto behind = mNodeCache.lower_bound(inDataPoint.y);
+  const bool isAbove = behind != mNodeCache.begin();
+  const auto cached = isAbove ? std::prev(behind) : behind;
+  float top = cached->first;
+  bool found = isAbove;
+  std::optional<RowIndex::Row> passed;
+  const RowIndex::Row at = index->FindAt(inDataPoint.y);
+  for (const auto& [first, last] : mPassedRows) {
+    const bool runsAbove = index->GetTop(first) < inDataPoint.y;
+    const RowIndex::Row row = runsAbove ? std::min(at, last) : first;
+    const float rowTop = index->GetTop(row);
+    // Above the point the lowest row is wanted, below it the highest.
+    if (runsAbove ? found && rowTop <= top : found || rowTop >= top) continue;
+    top = rowTop;
+    found = runsAbove;
+    passed = row;
+  }
+  return passed ? index->GetIterator(*passed) : cached->second;
 }
 
 void TreeControlBase::DirtyNodeCache() {

@@ -9,6 +9,8 @@
 #include <list>
 #include <map>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "lumcore/Strings.h"
 #include "lumui/drawbot/Color.h"
@@ -227,7 +229,9 @@ class VEK_API TreeControlBase : public trackview::Overlay {
   HierarchyGeometry::iterator FindRow(HierarchyEntryBase const* inEntry) const;
   HierarchyGeometry::iterator GetRowAt(int inNumber) const;
   bool IsSelected(HierarchyEntryBase const* inEntry) const;
+  bool HasRows() const { return mGeometry && mRowGeometryFactory && mRootEntry; }
   bool IsNodeCacheGood() const;
+  HierarchyGeometry::iterator FindPassedRow(const Point& inDataPoint);
   void Invalidate(const Rect& inDataRect) const;
   bool Reveal(Rect inDataRect) const;
   bool SetOpenWhereSelected(bool inOpen);
@@ -275,6 +279,9 @@ class VEK_API TreeControlBase : public trackview::Overlay {
   boost::intrusive_ptr<HierarchyEntryBase> mHeldDragFeedbackEntry;
   std::uint64_t mNodeCacheShape = 0;  // HierarchyEntryBase::GetShapeVersion when it was emptied
   bool mSizesBeforePaint = false;
+  // Rows by their numbers, first and last, that stand in the cache as well: a paint that begins far
+  // below came by them. One by one they would cost more than all that is drawn.
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> mPassedRows;
 };
 
 }  // namespace vek::hierarchyview

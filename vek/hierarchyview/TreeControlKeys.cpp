@@ -106,7 +106,7 @@ TreeControlBase::Rect TreeControlBase::NoteSelectedRow(HierarchyGeometry::iterat
 }
 
 void TreeControlBase::SelectNext() {
-  if (!mGeometry) return;
+  if (!HasRows()) return;
   Step step;
   const int count = NumSelectedEntries();
   RowWalk row(*mGeometry);
@@ -135,7 +135,7 @@ void TreeControlBase::SelectNext() {
 
 // Rows are counted from the top, since a geometry's way back is not the reverse of its way down.
 void TreeControlBase::SelectPrevious() {
-  if (!mGeometry) return;
+  if (!HasRows()) return;
   Step step;
   const int count = NumSelectedEntries();
   int position = 0;
@@ -263,7 +263,7 @@ unsigned int TreeControlBase::GetTypeAheadID() const {
 }
 
 bool TreeControlBase::TypedownClosestMatch(UTF16String const& inText) {
-  if (!mGeometry) return false;
+  if (!HasRows()) return false;
   for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next()) {
     if (IsSelected(row.GetEntry())) Invalidate(GetEntryGeometry(row.GetIterator())->GetRowRect());
   }

@@ -13,6 +13,7 @@
 #include "lumui/ui/Theme.h"
 #include "lumui/ui/ThemeColors.h"
 #include "vek/hierarchyview/HoldEntry.h"
+#include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/TreeControlBase.h"
 #include "vek/hierarchyview/TreeControlSkin.h"
 #include "vek/trackview/TrackView.h"
@@ -138,7 +139,7 @@ class TreeControlBase::Painter {
       HierarchyGeometry::iterator row = mControl.FindEntryInCache(mDamage.Origin());
       if (mControl.mHideRoot && row != mControl.mGeometry->end() && !(*row)->GetParent()) ++row;
       if (!mControl.mRowGeometryFactory) return;
-      PaintRows(row);
+      if (*row) PaintRows(PassRows(row));
     }
     if (mControl.mDrawShadowBox) lumui::DrawListBoxShadow(mLocalArea, mDrawbot);
     if (mControl.mDrawBorder) PaintBorder();
@@ -147,19 +148,32 @@ class TreeControlBase::Painter {
   }
 
  private:
+  // Rows that end above the damage would show nothing, since rows are clipped to themselves: many
+  // of them are passed by at once.
+  HierarchyGeometry::iterator PassRows(HierarchyGeometry::iterator const& inRow) {
+    constexpr RowIndex::Row kFew = 64;
+    const std::optional<RowIndex> index = RowIndex::Of(*mControl.mGeometry);
+    const std::optional<RowIndex::Row> first = index ? index->Find(*inRow) : std::nullopt;
+    if (!first) return inRow;
+    const RowIndex::Row next = std::min(index->FindAt(mDamage.y), index->GetCount() - 1);
+    if (next <= *first + kFew) return inRow;
+    mControl.mPassedRows.emplace_back(*first, next - 1);
+    return index->GetIterator(next);
+  }
+
   void PaintRows(HierarchyGeometry::iterator inRow) {
     HierarchyGeometry& geometry = *mControl.mGeometry;
     while (inRow != geometry.end()) {
       const auto held = HoldEntry(*inRow);
       const std::uint64_t shape = HierarchyEntryBase::GetShapeVersion();
-      const RectT<float> area = geometry.EntryArea(inRow);
-      // Rows are clipped to themselves: what ends above the damage would show nothing.
+      RectT<float> area = geometry.EntryArea(inRow);
       if (area.Bottom() > mDamage.y) PaintRow(area, inRow);
       if (shape != HierarchyEntryBase::GetShapeVersion()) {
         // Drawing a row, which may read its text from elsewhere, has changed a tree.
         inRow = mControl.FindRow(*inRow);
         if (!*inRow) return;
         mControl.RenewNodeCache();
+        area = geometry.EntryArea(inRow);
       }
       mControl.mNodeCache.insert_or_assign(mControl.mNodeCache.end(), area.y, inRow);
       if (area.Bottom() > mDamage.Bottom()) return;
@@ -231,6 +245,7 @@ void TreeControlBase::DoImageRect(const Rect& inDataRect, Drawbot& inDrawbot,
 void TreeControlBase::RenewNodeCache() {
   if (IsNodeCacheGood()) return;
   mNodeCache.clear();
+  mPassedRows.clear();
   mNodeCacheValid = true;
   mNodeCacheShape = HierarchyEntryBase::GetShapeVersion();
 }

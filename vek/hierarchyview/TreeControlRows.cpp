@@ -18,7 +18,7 @@ constexpr float kFocusMargin = 1.0f;  // units
 }  // namespace
 
 HierarchyGeometry::iterator TreeControlBase::FindRowAt(const Point& inDataPoint) {
-  if (!mGeometry || !mRootEntry) return HierarchyGeometry::iterator();
+  if (!HasRows()) return HierarchyGeometry::iterator();
   HierarchyGeometry::iterator row = FindEntryInCache(inDataPoint);
   if (row == mGeometry->begin()) row = mGeometry->FindEntry(inDataPoint);
   return row == mGeometry->end() ? HierarchyGeometry::iterator() : row;
@@ -50,7 +50,7 @@ void TreeControlBase::UpdateNodeArea(HierarchyEntryBase const* inEntry) {
 
 // An iterator on null where the entry is no row at present.
 HierarchyGeometry::iterator TreeControlBase::FindRow(HierarchyEntryBase const* inEntry) const {
-  if (!inEntry || !mGeometry) return HierarchyGeometry::iterator();
+  if (!inEntry || !HasRows()) return HierarchyGeometry::iterator();
   if (const std::optional<RowIndex> index = RowIndex::Of(*mGeometry)) {
     const std::optional<RowIndex::Row> row = index->Find(inEntry);
     return row ? index->GetIterator(*row) : HierarchyGeometry::iterator();

@@ -18,6 +18,8 @@ class VEK_API TreeListComparator {
   bool operator()(boost::intrusive_ptr<HierarchyEntryBase> const& inA,
                   boost::intrusive_ptr<HierarchyEntryBase> const& inB) const;
 
+  std::uint32_t GetAttribute() const { return mAttribute; }
+  bool IsAscending() const { return mAscending; }
   boost::shared_ptr<CompareFunction> const& GetCompareFunction() const { return mCompareFunction; }
 
  private:

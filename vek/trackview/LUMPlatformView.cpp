@@ -14,6 +14,7 @@
 #include "lumui/ui/Fonts.h"
 #include "lumui/ui/Theme.h"
 #include "lumui/ui/UI_NodeManager.h"
+#include "vek/trackview/ViewItems.h"
 
 namespace vek::trackview {
 
@@ -55,11 +56,14 @@ IntRect Covering(const Rect& inRect) {
 
 }  // namespace
 
-LUMPlatformView::LUMPlatformView() {
+LUMPlatformView::LUMPlatformView() : mAccessibleItems(new ViewItems(*this)) {
   UI_SetNodeID("PlatformScrollView");
+  // A tracker dies before its view; of a mouse gesture the contract takes care.
+  SetBeforeTrackViewGoes([this] { mDropGesture.DeleteTracker(); });
 }
 
 LUMPlatformView::~LUMPlatformView() {
+  mDropGesture.DeleteAll();
   mGesture.DeleteTracker();
   std::auto_ptr<TrackView> none;
   SetTrackView(none);
@@ -182,6 +186,10 @@ void LUMPlatformView::StopTimer(unsigned int inTimerID) {
 
 void LUMPlatformView::UpdateNow() {
   UI_UpdateNow(AllFlags(~0u));
+}
+
+lumui::ui::AccessibleItems* LUMPlatformView::UI_GetAccessibleItems() {
+  return mAccessibleItems.get();
 }
 
 void LUMPlatformView::UI_SetLocalRectF(const Rect& inRect) {

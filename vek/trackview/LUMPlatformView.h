@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include <memory>
 #include <set>
 
 #include "lumui/ui/UI_SubView.h"
 #include "vek/config/Export.h"
+#include "vek/trackview/DropGesture.h"
 #include "vek/trackview/Gesture.h"
 #include "vek/trackview/PlatformView.h"
 
@@ -15,8 +17,9 @@ class UI_InteractiveControlChangedMessage;
 class UI_ScrollView;
 }  // namespace lumui::controls
 namespace lumui::ui {
+class AccessibleItems;
 struct OS_Event;
-}
+}  // namespace lumui::ui
 
 namespace vek::trackview {
 
@@ -29,7 +32,7 @@ namespace vek::trackview {
 class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformView {
  public:
   LUMPlatformView();
-  // Deletes the tracker and then the track view, while their calls are still answered.
+  // Deletes the trackers and then the track view, while their calls are still answered.
   ~LUMPlatformView() override;
 
   void UI_SetLocalRectF(const Rect& inRect) override;
@@ -43,6 +46,17 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   bool UI_WantsKeyboardFocus() const override;
   void UI_DoTimerNotify(unsigned int inTimerID) override;
   void UI_FocusChanged(int inReason) override;
+  // What the overlays offer that are AccessibleOverlays, the nearest first.
+  lumui::ui::AccessibleItems* UI_GetAccessibleItems() override;
+  // Drags go to the trackers of the overlays that want them; positions are local.
+  bool UI_WantsDragDropEvents() const override;
+  bool UI_HandleDragEnter(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                          int& ioEffect) override;
+  bool UI_HandleDragOver(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                         int& ioEffect) override;
+  void UI_HandleDragLeave(lumui::datatransfer::OS_ReceiveData& inData) override;
+  bool UI_HandleDrop(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                     int& ioEffect) override;
 
   virtual void UpdateNow();
   // What the scroll view shows, in local space. Not TrackView::LocalArea, which goes through data.
@@ -100,7 +114,9 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   const lumui::ui::OS_Event* mCurrentOSEvent = nullptr;
   Point mLastDataPoint;
   Modifiers mLastModifiers;
+  DropGesture mDropGesture;
   std::set<unsigned int> mTimers;  // that run
+  const std::unique_ptr<lumui::ui::AccessibleItems> mAccessibleItems;
 };
 
 }  // namespace vek::trackview

@@ -3,6 +3,9 @@
 
 #include "vek/trackview/LUMPlatformViewAdapter.h"
 
+#include <memory>
+#include <utility>
+
 #include "vek/trackview/PlatformScrollView.h"
 
 namespace vek::trackview {
@@ -11,6 +14,12 @@ LUMPlatformViewAdapter::LUMPlatformViewAdapter()
     : UI_NodeAdapterBase("vek::LUMPlatformView", "lumui::ui::UI_SubView") {}
 
 LUMPlatformViewAdapter::~LUMPlatformViewAdapter() = default;
+
+void LUMPlatformViewAdapter::RegisterOnce() {
+  auto& registry = lumui::ui::UI_NodeAdapterRegistry::Get();
+  auto adapter = std::make_unique<LUMPlatformViewAdapter>();
+  if (!registry.Find(adapter->GetClassName())) registry.Register(std::move(adapter));
+}
 
 boost::intrusive_ptr<lumui::ui::UI_Node> LUMPlatformViewAdapter::DoCreateNode(
     const lumui::ui::NodeSource&) const {

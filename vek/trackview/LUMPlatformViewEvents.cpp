@@ -115,6 +115,36 @@ void LUMPlatformView::DoNonMouseTrack(bool inOnlyIfInside) {
   mGesture.Hover(*this, mLastModifiers, mLastDataPoint);
 }
 
+bool LUMPlatformView::UI_WantsDragDropEvents() const {
+  const StKeepAlive keepAlive(*this);
+  return GetTrackView() && GetTrackView()->WantsDragDropEvents();
+}
+
+bool LUMPlatformView::UI_HandleDragEnter(Point inPosition,
+                                         lumui::datatransfer::OS_ReceiveData& inData,
+                                         int& ioEffect) {
+  const StKeepAlive keepAlive(*this);
+  return mDropGesture.Enter(*this, inPosition, inData, ioEffect);
+}
+
+bool LUMPlatformView::UI_HandleDragOver(Point inPosition,
+                                        lumui::datatransfer::OS_ReceiveData& inData,
+                                        int& ioEffect) {
+  const StKeepAlive keepAlive(*this);
+  return mDropGesture.Over(*this, inPosition, inData, ioEffect);
+}
+
+void LUMPlatformView::UI_HandleDragLeave(lumui::datatransfer::OS_ReceiveData&) {
+  const StKeepAlive keepAlive(*this);
+  mDropGesture.Leave(*this);
+}
+
+bool LUMPlatformView::UI_HandleDrop(Point inPosition, lumui::datatransfer::OS_ReceiveData& inData,
+                                    int& ioEffect) {
+  const StKeepAlive keepAlive(*this);
+  return mDropGesture.Drop(*this, inPosition, inData, ioEffect);
+}
+
 std::auto_ptr<lumui::datatransfer::OS_SendDataBase> LUMPlatformView::GetSendData() {
   return std::auto_ptr<lumui::datatransfer::OS_SendDataBase>(
       new lumui::datatransfer::OS_SendData(mCurrentOSEvent));

@@ -41,7 +41,9 @@ void PlatformView::SetTrackView(std::auto_ptr<TrackView>& ioTrackView) {
   TrackView* const trackView = ioTrackView.get();
   LUM_INPUT_CONTRACT(trackView == mTrackView || !IsTracking());
   ioTrackView.release();
-  if (trackView != mTrackView) delete std::exchange(mTrackView, trackView);
+  if (trackView == mTrackView) return;
+  if (mBeforeTrackViewGoes) mBeforeTrackViewGoes();
+  delete std::exchange(mTrackView, trackView);
 }
 
 void PlatformView::DataPos(const Point& inDataPoint, bool inFlag) {

@@ -71,6 +71,10 @@ class VEK_API PlatformView {
   // Whether the view empties its listeners' functions when it dies; not so at start.
   void SetEmptiesPositionListeners(bool inEmpties) { mEmptiesListeners = inEmpties; }
   void CallPositionListeners();
+  // Called when another track view takes the place of this one.
+  void SetBeforeTrackViewGoes(const boost::function<void()>& inFunction) {
+    mBeforeTrackViewGoes = inFunction;
+  }
 
  private:
   struct ListenerCall;
@@ -82,6 +86,7 @@ class VEK_API PlatformView {
   std::list<PositionListener> mPositionListeners;
   bool mEmptiesListeners = false;
   ListenerCall* mInnermostCall = nullptr;
+  boost::function<void()> mBeforeTrackViewGoes;
 };
 
 }  // namespace vek::trackview

@@ -25,8 +25,8 @@ class VEK_API KeyCommand {
   KeyCommand(const int& inCommand, lumui::ui::KeyboardCode inCode, Modifiers inModifiers,
              Action inKeyType, bool inRepeat, bool inIsProtected);
   virtual ~KeyCommand();
-  KeyCommand(const KeyCommand&) = delete;
-  KeyCommand& operator=(const KeyCommand&) = delete;
+  KeyCommand(const KeyCommand&) = default;
+  KeyCommand& operator=(const KeyCommand&) = default;
 
   // As menus show it, "Ctrl+Shift+Z". Empty for a key without a name.
   virtual lumcore::UTF16String GetAsString();

@@ -63,6 +63,8 @@ class VEK_API KeyCommandManager {
   bool GetShortcutString(int inCommand, lumcore::UTF16String& outText) const;
   // All global mappings of a command, borrowed until the next load.
   void GetShortcutList(int inCommand, std::list<KeyCommand*>& outMappings) const;
+  // Of all commands, in the order in which routing looks through them.
+  const KeyCommandList& GetGlobalMappings() const { return mGlobalMappings; }
   // "Ctrl+Alt+Page Up". Empty, without modifiers too, for a key without a name.
   static lumcore::UTF16String GetShortcutString(lumui::ui::KeyboardCode inCode,
                                                 Modifiers inModifiers);

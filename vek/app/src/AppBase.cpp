@@ -31,10 +31,12 @@
 #include "lumworkspace/workspace/WorkspaceUIManager.h"
 #include "vek/app/App.h"
 #include "vek/app/src/MenuState.h"
+#include "vek/trackview/LUMPlatformViewAdapter.h"
 #include "vek/uisupport/DeferredActionManager.h"
 #include "vek/uisupport/KeyCommandManager.h"
 #include "vek/uisupport/MainWindowLookup.h"
 #include "vek/utility/VekResources.h"
+#include "vek/workspace/GenericPanelRegistry.h"
 #include "vek/workspace/Workspace.h"
 
 namespace vek::app {
@@ -151,6 +153,8 @@ bool AppBase::Initialize(AppInitArgs& inArgs, const Dir& inLocalizationDir) {
   uisupport::SetDrawSupplierLookup([this]() -> lumui::drawbot::SupplierInterface* {
     return mWorkspace ? mWorkspace->UI_GetDrawSupplier() : nullptr;
   });
+  // Before anybody can restore a layout, which would lose the panels that nobody makes.
+  if (mWorkspace) workspace::GenericPanelRegistry::GetInstance().RegisterTabCreators(*mWorkspace);
   mLastStage = kStageSplashScreen;
   const boost::intrusive_ptr<lumui::sharedui::LUMAboutDlog> splashScreen = GetNewSplashScreen();
   if (splashScreen) splashScreen->Show(true);
@@ -212,6 +216,7 @@ void AppBase::StartLook(AppInitArgs& inArgs) {
   Delete(mWorkspaceUIManager);  // there is one at a time
   mWorkspaceUIManager = new lumworkspace::workspace::WorkspaceUIManager;
   mLastStage = kStageModules;
+  trackview::LUMPlatformViewAdapter::RegisterOnce();
   InitModules();
   InitPreferences();
   mLastStage = kStageResources;

@@ -141,6 +141,15 @@ UTF16String ToUpperCase(const UTF16String& inText) {
 }
 
 UTF16String ToLowerCase(const UTF16String& inText) {
+  // Most texts are ASCII, and ICU's way is a long one for those.
+  const auto isPlain = [](unsigned short inUnit) { return inUnit < 0x80; };
+  if (std::all_of(inText.begin(), inText.end(), isPlain)) {
+    UTF16String lower = inText;
+    for (unsigned short& unit : lower) {
+      if (unit >= 'A' && unit <= 'Z') unit = static_cast<unsigned short>(unit + ('a' - 'A'));
+    }
+    return lower;
+  }
   return MapCase(inText, [](UChar* outText, int32_t inCapacity, const UChar* inFrom,
                             int32_t inLength, UErrorCode* ioStatus) {
     return u_strToLower(outText, inCapacity, inFrom, inLength, "", ioStatus);

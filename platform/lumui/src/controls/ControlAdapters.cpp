@@ -6,6 +6,7 @@
 
 #include "lumcore/proplist/Utils.h"
 #include "lumui/controls/UI_Checkbox.h"
+#include "lumui/controls/UI_MultiColumnTree.h"
 #include "lumui/controls/UI_PictureButton.h"
 #include "lumui/controls/UI_Popup_Combo.h"
 #include "lumui/controls/UI_StaticImage.h"
@@ -155,6 +156,8 @@ void RegisterControlAdapters(UI_NodeAdapterRegistry& ioRegistry) {
   ioRegistry.Register(std::make_unique<ImageAdapter<UI_StaticImage>>(
       "lumui::controls::UI_StaticImage", "lumui::controls::UI_ControlView"));
   ioRegistry.Register(TextEditAdapter());
+  ioRegistry.Register(Adapter<UI_MultiColumnTree>("lumui::controls::UI_MultiColumnTree",
+                                                  "lumui::controls::UI_InteractiveControlView"));
   ioRegistry.Register(std::make_unique<PopupAdapter<UI_Popup>>(
       "lumui::controls::UI_Popup", "lumui::controls::UI_InteractiveControlView"));
   ioRegistry.Register(std::make_unique<PopupAdapter<UI_Popup_Combo>>(

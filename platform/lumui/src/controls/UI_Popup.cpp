@@ -29,7 +29,7 @@ class ComboBox : public EditWidgetT<QComboBox> {
 
   bool mBelow = false;
   bool mDivider = false;
-  QString mTextOfNone;  // while no item is chosen
+  QString mShownText;  // where nothing is chosen, or in the place of what is
   std::function<void(const QString&)> mOnTyped;
   std::function<void()> mOnTypingEnded;
 
@@ -52,7 +52,7 @@ class ComboBox : public EditWidgetT<QComboBox> {
  protected:
   void initStyleOption(QStyleOptionComboBox* outOption) const override {
     EditWidgetT::initStyleOption(outOption);
-    if (currentIndex() < 0 && !isEditable()) outOption->currentText = mTextOfNone;
+    if (!isEditable()) outOption->currentText = mShownText;
   }
   void paintEvent(QPaintEvent* inEvent) override {
     QComboBox::paintEvent(inEvent);
@@ -191,6 +191,12 @@ void UI_Popup::SetValueString(const lumcore::UTF16String& inText, bool inNotify)
   if (inNotify) TellChanged(UI_InteractiveControlChangedMessage::kChanged, false);
 }
 
+void UI_Popup::SetShownText(const lumcore::UTF16String& inText) {
+  mText = inText;
+  mTyping = false;
+  ShowState();
+}
+
 void UI_Popup::SetPopupType(int inType) {
   mType = inType;
   ShowState();
@@ -213,10 +219,12 @@ void UI_Popup::SetEditableState(bool inEditable) {
 
 void UI_Popup::HandleChosen(int inIndex) {
   const bool same = inIndex == mValue && !mTyping;
+  if (same && !mAlwaysNotify) return;
   mValue = inIndex;
   mText = GetItemString(inIndex);
   mTyping = false;
-  if (!same || mAlwaysNotify) TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+  ShowState();
+  TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
 }
 
 void UI_Popup::HandleTyped(const lumcore::UTF16String& inText) {
@@ -255,8 +263,9 @@ void UI_Popup::DoShowState() {
     if (combo->currentText() != text) combo->setEditText(text);
     return;
   }
-  combo->mTextOfNone = text;
-  combo->setAccessibleDescription(mValue < 0 ? text : QString());
+  combo->mShownText = text;
+  const bool isItem = mValue >= 0 && mText == GetItemString(mValue);
+  combo->setAccessibleDescription(isItem ? QString() : text);
 }
 
 }  // namespace lumui::controls

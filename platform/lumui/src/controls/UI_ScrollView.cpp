@@ -52,6 +52,11 @@ void UI_ScrollView::SetContentRectF(const Rect& inRect) {
   mContentRect = inRect;
 }
 
+void UI_ScrollView::SetMovesPicture(bool inMoves) {
+  mMovesPicture = inMoves;
+  mContent->UI_SetOpaque(inMoves);
+}
+
 void UI_ScrollView::SetLineStep(float inUnits) {
   LUM_INPUT_CONTRACT(inUnits > 0);
   mLineStep = inUnits;
@@ -126,10 +131,27 @@ bool UI_ScrollView::MoveTo(const Point& inWanted) {
   const auto snapped = [&](double inUnits) { return std::round(inUnits * scale) / scale; };
   const Point offset(snapped(mWanted.x), snapped(mWanted.y));
   if (offset == mOffset) return false;
+  const Point before = mOffset;
   mOffset = offset;
   mContent->GetPeer()->SetContentOrigin(offset);
   ShowOffsetInBars();
-  mContent->UI_InvalidateAll();
+  if (!MovePicture(before)) mContent->UI_InvalidateAll();
+  return true;
+}
+
+// False where everything is to be drawn anew: between whole units the picture cannot be moved.
+bool UI_ScrollView::MovePicture(const Point& inOldOffset) {
+  QWidget* const widget = mContent->GetPeer()->GetWidget();
+  const Point way = inOldOffset - mOffset;
+  const Point size = GetViewSize();
+  if (!mMovesPicture || !widget || way.x != std::floor(way.x) || way.y != std::floor(way.y) ||
+      std::abs(way.x) >= size.x || std::abs(way.y) >= size.y) {
+    return false;
+  }
+  const QRect area(0, 0, static_cast<int>(size.x), static_cast<int>(size.y));
+  widget->scroll(static_cast<int>(way.x), static_cast<int>(way.y), area);
+  // The bars cover the rest, but for the corner between their ends.
+  widget->update(QRect(area.bottomRight() + QPoint(1, 1), widget->rect().bottomRight()));
   return true;
 }
 

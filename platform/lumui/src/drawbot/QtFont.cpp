@@ -41,8 +41,9 @@ QString ToOneLine(const lumcore::UTF16String& inText) {
   return text;
 }
 
-std::unique_ptr<PreparedText> Prepare(const QString& inText, const QFont& inFont) {
-  auto prepared = std::make_unique<PreparedText>();
+// Both the layout and its line live as long as the function runs.
+template <class Use>
+void WithLine(const QString& inText, const QFont& inFont, Use inUse) {
   QTextOption option;
   option.setWrapMode(QTextOption::NoWrap);
   QTextLayout layout(inText, inFont);
@@ -50,8 +51,15 @@ std::unique_ptr<PreparedText> Prepare(const QString& inText, const QFont& inFont
   layout.beginLayout();
   QTextLine line = layout.createLine();
   line.setLineWidth(std::numeric_limits<int>::max());  // a line has no ascent before it has a width
-  prepared->ascent = line.ascent();
   layout.endLayout();
+  inUse(line);
+}
+
+std::unique_ptr<PreparedText> Prepare(const QString& inText, const QFont& inFont) {
+  auto prepared = std::make_unique<PreparedText>();
+  QTextOption option;
+  option.setWrapMode(QTextOption::NoWrap);
+  WithLine(inText, inFont, [&](const QTextLine& inLine) { prepared->ascent = inLine.ascent(); });
 
   prepared->text.setTextFormat(Qt::PlainText);
   prepared->text.setTextOption(option);
@@ -119,7 +127,16 @@ void QtFont::Draw(QPainter& inPainter, const lumcore::UTF16String& inText,
   if (inText.size() > kLongestCachedText) return inPainter.drawText(inOrigin, ToOneLine(inText));
   TextEntry& entry = Remember(inText);
   if (!entry.prepared) entry.prepared = Prepare(ToOneLine(inText), mFont);
-  inPainter.drawStaticText(inOrigin - QPointF(0, entry.prepared->ascent), entry.prepared->text);
+  const QPointF origin = inOrigin - QPointF(0, entry.prepared->ascent);
+  // Prepared text is laid out anew for each other scale; glyphs are only drawn at it.
+  const bool isScaled = inPainter.worldTransform().type() > QTransform::TxTranslate;
+  if (!isScaled) return inPainter.drawStaticText(origin, entry.prepared->text);
+  QList<QGlyphRun>& runs = entry.prepared->runs;
+  if (runs.isEmpty()) {
+    WithLine(ToOneLine(inText), mFont, [&](const QTextLine& inLine) { runs = inLine.glyphRuns(); });
+  }
+  for (const QGlyphRun& run : runs)
+    inPainter.drawGlyphRun(origin, run);
 }
 
 TextEntry& QtFont::Remember(const lumcore::UTF16String& inText) const {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QGlyphRun>
 #include <QStaticText>
 #include <cstddef>
 #include <memory>
@@ -18,6 +19,7 @@ namespace lumui::drawbot {
 struct PreparedText {
   QStaticText text;
   double ascent = 0;
+  QList<QGlyphRun> runs;  // the same glyphs once more, made when the text is drawn scaled
 };
 
 // What a font remembers of one text. The width is always there; the rest is made when it is drawn.

@@ -4,14 +4,11 @@
 #include "lumui/testing/SyntheticInput.h"
 
 #include <private/qhighdpiscaling_p.h>
-#include <qpa/qplatformdrag.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <QCoreApplication>
 #include <QInputMethodEvent>
-#include <QMimeData>
 #include <QSessionManager>
-#include <QUrl>
 #include <QWidget>
 #include <QWindow>
 #include <cmath>
@@ -225,35 +222,6 @@ void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
                            ScreenPixels(local, native), QPoint(), angle,
                            ui::QtFromModifiers(inModifiers));
   System::sendWindowSystemEvents(QEventLoop::AllEvents);
-}
-
-ui::DropEffect DropOnWindow(ui::OS_Window& inWindow, const Position& inPosition,
-                            const std::vector<lumcore::UTF16String>& inFiles,
-                            const lumcore::UTF16String& inText) {
-  QWindow* const native = NativeWindow(inWindow);
-  QMimeData data;
-  QList<QUrl> urls;
-  for (const lumcore::UTF16String& file : inFiles)
-    urls << QUrl::fromLocalFile(drawbot::ToQt(file));
-  if (!urls.isEmpty()) data.setUrls(urls);
-  if (!inText.empty()) data.setText(drawbot::ToQt(inText));
-  const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-  // The first move enters the window.
-  const QPoint target = InPixels(NativePosition(inWindow, inPosition), native).toPoint();
-  for (const QPoint& point : {QPoint(0, target.y()), target}) {
-    System::handleDrag(native, &data, point, actions, Qt::LeftButton, Qt::NoModifier);
-  }
-  const auto response =
-      System::handleDrop(native, &data, target, actions, Qt::LeftButton, Qt::NoModifier);
-  if (!response.isAccepted()) return ui::DropEffect::kNone;
-  switch (response.acceptedAction()) {
-    case Qt::MoveAction:
-      return ui::DropEffect::kMove;
-    case Qt::LinkAction:
-      return ui::DropEffect::kLink;
-    default:
-      return ui::DropEffect::kCopy;
-  }
 }
 
 void RequestClose(ui::OS_Window& inWindow) {

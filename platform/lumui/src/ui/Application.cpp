@@ -46,6 +46,7 @@ Application::Application(int& ioArgumentCount, char** ioArguments)
 
 Application::~Application() {
   mImpl->manager->EndInputCapture(true);
+  NodeManagerImpl().drops.Leave();
   MenuPeer::DropAll();
   NodePeer::DropAllWidgets();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -106,6 +107,7 @@ int Application::Run() {
 void Application::Quit(int inCode) {
   mImpl->exitCode = inCode;
   mImpl->quitting = true;
+  mImpl->gate->CancelDrag();
   // The loop may be waiting in the system.
   if (auto* const dispatcher = QAbstractEventDispatcher::instance(mImpl->gate->thread())) {
     dispatcher->wakeUp();

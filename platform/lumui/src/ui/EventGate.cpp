@@ -3,6 +3,7 @@
 
 #include "ui/EventGate.h"
 
+#include <QDrag>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -14,6 +15,8 @@
 #include <exception>
 #include <utility>
 
+#include "datatransfer/DragWatch.h"
+#include "datatransfer/HeadlessDrag.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
@@ -23,6 +26,7 @@
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "lumui/utility/InteractionRegistry.h"
+#include "ui/AccessibleNode.h"
 #include "ui/FrameRegistry.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
@@ -81,12 +85,22 @@ bool BelongsToMenus(const OS_Window& inWindow, const QEvent& inEvent) {
          inWindow.GetPeer()->GetChromeHeight();
 }
 
+// Qt sends it when the drag's loop is over.
+bool IsReleaseOfDrag(const QWindow& inNative, const QEvent& inEvent) {
+  return inEvent.type() == QEvent::MouseButtonRelease && !inEvent.spontaneous() &&
+         FindWindowOf(inNative);
+}
+
 }  // namespace
 
 EventGate::EventGate(int& ioArgumentCount, char** ioArguments)
     : QApplication(ioArgumentCount, ioArguments) {
   sGate = this;
   setQuitOnLastWindowClosed(false);
+  InstallAccessibleNodes();
+  mDragWatch = std::make_unique<datatransfer::DragWatch>([] {
+    if (auto* const manager = NodeManagerImplIfAny()) manager->drops.Leave();
+  });
   connect(this, &QGuiApplication::commitDataRequest, this, &EventGate::CommitData);
   const auto displayChanged = [this] { TellDisplayChange(); };
   const auto watchScreen = [this, displayChanged](QScreen* inScreen) {
@@ -141,6 +155,13 @@ bool EventGate::RouteMarked(QWindow& inNative, QEvent& inEvent) {
 bool EventGate::RouteWindow(QWindow& inNative, QEvent& inEvent) {
   if (inEvent.type() == QEvent::WindowBlocked && FindWindowOf(inNative)) {
     NodeManagerImpl().capture.End(true);
+  }
+  if (mDragTakesInput && IsRoutedToNodes(inEvent.type())) return HandleInDrag(inNative, inEvent);
+  if (inEvent.type() == QEvent::Drop) mDropCameHere = true;
+  if (IsReleaseOfDrag(inNative, inEvent)) {
+    // Qt's idea of the held buttons wants it, but the gesture has ended as the drag began.
+    const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
+    return QApplication::notify(&inNative, &inEvent);
   }
   OS_Window* const window = inEvent.spontaneous() ? FindWindowOf(inNative) : nullptr;
   if (!window) return RouteForeign(inNative, inEvent);
@@ -280,6 +301,41 @@ bool EventGate::HandleClose(OS_Window& inWindow, QEvent& inEvent) {
     }
   });
   return true;
+}
+
+// Qt's own drags take what they need in a filter that comes before the widgets.
+bool EventGate::HandleInDrag(QWindow& inNative, QEvent& inEvent) {
+  datatransfer::HeadlessDrag* const headless = datatransfer::HeadlessDrag::GetRunning();
+  if (!headless) return QApplication::notify(&inNative, &inEvent);
+  headless->HandleEvent(inEvent);
+  if (!IsPointerEvent(inEvent.type())) return true;
+  const lumcore::utility::StScopedValue<bool> swallow(mSwallowMouse, true);
+  return QApplication::notify(&inNative, &inEvent);
+}
+
+int EventGate::RunDrag(const std::function<int()>& inLoop) {
+  const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, true);
+  mDragging = true;
+  mDropCameHere = false;
+  mDragWatch->Forget();
+  int effect = inLoop();
+  if (!mDropCameHere) effect = mDragWatch->AwaitFinish(effect);
+  mDragging = false;
+  return effect;
+}
+
+void EventGate::RunDrop(const std::function<void()>& inDrop) {
+  const lumcore::utility::StScopedValue<bool> takesInput(mDragTakesInput, false);
+  inDrop();
+}
+
+void EventGate::CancelDrag() {
+  if (!mDragging) return;
+  const auto cancel = [] {
+    if (auto* const headless = datatransfer::HeadlessDrag::GetRunning()) return headless->Cancel();
+    QDrag::cancel();
+  };
+  QMetaObject::invokeMethod(this, cancel, Qt::QueuedConnection);
 }
 
 void EventGate::TellDisplayChange() {

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <QApplication>
+#include <atomic>
 #include <boost/intrusive_ptr.hpp>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "lumui/Export.h"
@@ -20,6 +22,10 @@ class QMouseEvent;
 class QSessionManager;
 class QWidget;
 class QWindow;
+
+namespace lumui::datatransfer {
+class DragWatch;
+}
 
 namespace lumui::ui {
 
@@ -51,6 +57,14 @@ class LUMUI_API EventGate : public QApplication {
   bool IsInEvent() const { return mDepth > 0; }
   bool IsInPointerEvent() const { return mInPointerEvent; }
   bool IsPainting() const { return mPainting; }
+
+  // Runs a drag's own loop: until it ends the pointer and the keys are the drag's.
+  int RunDrag(const std::function<int()>& inLoop);
+  bool IsDragging() const { return mDragging; }
+  // Of a drop: what it opens has the pointer and the keys again.
+  void RunDrop(const std::function<void()>& inDrop);
+  // From any thread; it ends as if the user had given up.
+  void CancelDrag();
 
   // The key event that is being dispatched, for the node that Qt asks. Null at other times.
   const KeyboardEvent* GetCurrentKey() const { return mKey ? &mKey->event : nullptr; }
@@ -88,6 +102,7 @@ class LUMUI_API EventGate : public QApplication {
   // With the repeats of held keys marked as such.
   bool RouteMarked(QWindow& inWindow, QEvent& inEvent);
   bool RouteWindow(QWindow& inWindow, QEvent& inEvent);
+  bool HandleInDrag(QWindow& inNative, QEvent& inEvent);
   bool RouteForeign(QWindow& inWindow, QEvent& inEvent);
   bool RouteWidget(QWidget& inWidget, QEvent& inEvent);
   void WatchWidget(QWidget& inWidget, QEvent& inEvent);
@@ -109,6 +124,10 @@ class LUMUI_API EventGate : public QApplication {
   bool mSwallowMouse = false;
   bool mInPointerEvent = false;
   bool mPainting = false;
+  std::atomic<bool> mDragging{false};
+  bool mDragTakesInput = false;
+  bool mDropCameHere = false;  // of the drag, so no other program's answer follows
+  std::unique_ptr<datatransfer::DragWatch> mDragWatch;
   ModifierKeys mTypingModifiers;
   bool mSessionEnding = false;
   int mAnnouncedModals = 0;

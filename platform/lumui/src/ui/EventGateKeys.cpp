@@ -81,6 +81,11 @@ void EventGate::TypeCharacters(OS_Window& inWindow, const QString& inText) {
 }
 
 bool EventGate::HandleShortcutOverride(OS_Window& inWindow, QKeyEvent& inEvent) {
+  const UI_Node* const focus = inWindow.UI_GetFocusNode();
+  if (focus && focus->UI_ClaimsAllKeys()) {
+    inEvent.accept();
+    return true;
+  }
   if (!mShortcutClaim && NodeManagerImpl().mnemonics) return false;
   const KeyboardEvent event = KeyEventOf(inWindow.UI_GetHandle(), inEvent, inEvent.isAutoRepeat());
   bool claimed = !NodeManagerImpl().mnemonics;

@@ -147,7 +147,44 @@ KeyReadings ReadThirdLevel(const QKeyEvent& inEvent, KeyReadings inReadings) {
   return inReadings;
 }
 
+// Of the keys that a layout may have dead: what they put on letters, standing alone.
+struct DeadKey {
+  int key;
+  char16_t mark;
+};
+
+constexpr DeadKey kDeadKeys[] = {
+    {Qt::Key_Dead_Grave, u'`'},          {Qt::Key_Dead_Acute, u'\u00B4'},
+    {Qt::Key_Dead_Circumflex, u'^'},     {Qt::Key_Dead_Tilde, u'~'},
+    {Qt::Key_Dead_Diaeresis, u'\u00A8'}, {Qt::Key_Dead_Abovering, u'\u02DA'},
+    {Qt::Key_Dead_Caron, u'\u02C7'},     {Qt::Key_Dead_Cedilla, u'\u00B8'},
+    {Qt::Key_Dead_Macron, u'\u00AF'},    {Qt::Key_Dead_Breve, u'\u02D8'},
+    {Qt::Key_Dead_Ogonek, u'\u02DB'},    {Qt::Key_Dead_Doubleacute, u'\u02DD'}};
+
+// The key that keyboards of the form without it do not have.
+constexpr int kBesideShiftPlace = 86;
+
 }  // namespace
+
+PrintedKey PrintedAt(int inPlace) {
+  int key = AskLayout(*MakePressAt(inPlace)).cap;
+  for (const DeadKey& dead : kDeadKeys) {
+    if (dead.key == key) return {KeyboardCode(), lumcore::UTF16String(1, dead.mark)};
+  }
+  if (!IsCharacter(key)) key = inPlace == kBesideShiftPlace ? '<' : LatinKeyAt(inPlace);
+  const KeyboardCode code = CharacterCode(key, false);
+  return {code, lumcore::UTF16String(1, code.GetCharacter())};
+}
+
+bool IsLayoutOfUnitedStates() {
+  for (const PlaceRow& row : kPlaceRows) {
+    for (std::size_t i = 0; i < row.keys.size(); ++i) {
+      const int key = AskLayout(*MakePressAt(row.firstPlace + static_cast<int>(i))).cap;
+      if (key != 0 && key != row.keys[i]) return false;
+    }
+  }
+  return true;
+}
 
 KeyReadings ReadKey(const QKeyEvent& inEvent) {
   const bool keypad = inEvent.modifiers().testFlag(Qt::KeypadModifier);

@@ -71,6 +71,7 @@ void NodePeer::Connect(QWidget* inWidget, NodeWidgetLink* inLink) {
   Peers().insert(inWidget, this);
   inWidget->setMouseTracking(true);
   if (IsDrawn()) inWidget->setAttribute(Qt::WA_InputMethodEnabled);
+  if (mIsOpaque) inWidget->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 void NodePeer::WidgetGone() {
@@ -187,6 +188,11 @@ void NodePeer::ApplyVisible() {
 
 void NodePeer::ApplyDisabled() {
   if (mWidget) mWidget->setEnabled(!mNode->UI_IsDisabled());
+}
+
+void NodePeer::SetOpaque(bool inOpaque) {
+  mIsOpaque = inOpaque;
+  if (mWidget) mWidget->setAttribute(Qt::WA_OpaquePaintEvent, inOpaque);
 }
 
 void NodePeer::ApplyToolTip() {

@@ -85,6 +85,7 @@ class LUMUI_API NodePeer {
   void ApplySize(int inWidth, int inHeight);
   void ApplyVisible();
   void ApplyDisabled();
+  void SetOpaque(bool inOpaque);
   virtual void ApplyToolTip();
   // After UI_SetWantsKeyboardFocus; a drawn node is asked when it matters.
   virtual void ApplyWantsFocus() {}
@@ -140,6 +141,7 @@ class LUMUI_API NodePeer {
   std::unique_ptr<const lumcore::proplist::PropList> mArchived;
   bool mApplyingRect = false;
   int mChromeHeight = 0;
+  bool mIsOpaque = false;
   lumcore::geom::PointT<double> mContentOrigin;
   lumcore::geom::PointT<float> mLastPosition;
 };

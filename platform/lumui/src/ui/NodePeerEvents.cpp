@@ -88,6 +88,7 @@ bool NodePeer::HandleEvent(QEvent& inEvent) {
     case QEvent::EnabledChange:
       if (!mWidget->isEnabled() || inEvent.type() == QEvent::Hide) {
         NodeManagerImpl().capture.CancelFor(*mNode);
+        NodeManagerImpl().drops.LeaveFor(*mNode);
       }
       return false;
     default:
@@ -198,6 +199,7 @@ void NodePeer::HandleFocus(QEvent& inEvent) {
   if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) return;
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   EventGate::Get()->RunGuarded([&] { mNode->UI_FocusChanged(ReasonFromQt(reason)); });
+  mNode->NoteChange();
 }
 
 // The user, or a widget of Qt that lays out others, has moved the widget: the node follows.

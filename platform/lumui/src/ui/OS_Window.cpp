@@ -138,6 +138,7 @@ void OS_Window::UI_ConstructWindow(const lumcore::geom::RectT<int>* inRect) {
     GetPeer()->ApplySize(frame.width, frame.height);
   }
   GetPeer()->ApplyVisible();
+  NodeManagerImpl().TellNodeChanged(*this);
 }
 
 bool OS_Window::UI_TakeFrame(HWND inFrame) {
@@ -170,6 +171,7 @@ void OS_Window::UI_DestroyWindow() {
   auto& windows = Windows();
   windows.erase(std::remove(windows.begin(), windows.end(), this), windows.end());
   GetPeer()->Destroy();
+  if (auto* const manager = NodeManagerImplIfAny()) manager->TellNodeChanged(*this);
   const HMENU menu = std::exchange(mMenu, nullptr);
   EventGate* const gate = EventGate::Get();
   const OSEventFunction function = mEventFunction;

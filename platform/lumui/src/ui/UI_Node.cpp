@@ -11,6 +11,7 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/utility/InteractionRegistry.h"
@@ -51,7 +52,8 @@ UI_Node::UI_Node(std::unique_ptr<NodePeer> inPeer) : mPeer(std::move(inPeer)) {
 UI_Node::~UI_Node() {
   if (auto* const manager = NodeManagerImplIfAny()) {
     manager->timers.RemoveAll(*this);
-    UI_SetWantsPrePointerEvents(false);
+    auto& nodes = manager->prePointerNodes;
+    nodes.erase(std::remove(nodes.begin(), nodes.end(), this), nodes.end());
   }
   mPeer->Destroy();
   for (const auto& child : mChildren)
@@ -70,6 +72,7 @@ void UI_Node::UI_InsertChild(const boost::intrusive_ptr<UI_Node>& inChild, std::
   mChildren.insert(mChildren.begin() + static_cast<std::ptrdiff_t>(index), child);
   child->mParent = this;
   mPeer->PlaceChild(*child, UI_GetChild(index + 1));
+  NoteChange();
 }
 
 bool UI_Node::UI_RemoveChild(UI_Node* inChild) {
@@ -83,7 +86,13 @@ bool UI_Node::UI_RemoveChild(UI_Node* inChild) {
   mChildren.erase(found);
   child->mParent = nullptr;
   child->mPeer->TakeOut();
+  NoteChange();
   return true;
+}
+
+// For those who show the tree; see UI_NodeManager::InstallNodeChangedFunction.
+void UI_Node::NoteChange() {
+  if (auto* const manager = NodeManagerImplIfAny()) manager->TellNodeChanged(*this);
 }
 
 UI_Node* UI_Node::UI_GetChild(std::size_t inIndex) const {
@@ -107,10 +116,11 @@ bool UI_Node::UI_IsAncestorOf(const UI_Node& inNode) const {
 
 void UI_Node::UI_SetNodeID(const lumcore::UTF8String& inID) {
   mNodeID = inID;
+  NoteChange();
 }
 
 void UI_Node::UI_SetNodeID(const char* inID) {
-  mNodeID = lumcore::utility::ToUTF8(std::string_view(inID));
+  UI_SetNodeID(lumcore::utility::ToUTF8(std::string_view(inID)));
 }
 
 UI_Node* UI_Node::UI_GetNodeForID(const lumcore::UTF8String& inID) {
@@ -124,11 +134,22 @@ UI_Node* UI_Node::UI_GetNodeForID(const lumcore::UTF8String& inID) {
 void UI_Node::UI_Show(bool inShow) {
   mVisible = inShow;
   mPeer->ApplyVisible();
+  NoteChange();
+}
+
+bool UI_Node::UI_IsShown() const {
+  const QWidget* const widget = mPeer->GetWidget();
+  return widget && widget->isVisible();
 }
 
 void UI_Node::UI_SetDisabled(bool inDisabled) {
   mDisabled = inDisabled;
   mPeer->ApplyDisabled();
+  NoteChange();
+}
+
+void UI_Node::UI_SetOpaque(bool inOpaque) {
+  mPeer->SetOpaque(inOpaque);
 }
 
 void UI_Node::UI_SetToolTip(const lumcore::UTF16String& inText) {
@@ -138,14 +159,23 @@ void UI_Node::UI_SetToolTip(const lumcore::UTF16String& inText) {
 
 void UI_Node::UI_SetLocalRectF(const lumcore::geom::RectT<float>& inRect) {
   const bool resized = inRect.width != mLocalRect.width || inRect.height != mLocalRect.height;
+  const bool changed = inRect != mLocalRect;
   mLocalRect = inRect;
   mPeer->ApplyRect();
+  if (changed) NoteChange();
   if (resized) UI_SizeChanged(lumcore::geom::RectT<float>(0, 0, inRect.width, inRect.height));
 }
 
 void UI_Node::UI_SizeChanged(const lumcore::geom::RectT<float>&) {}
 
 void UI_Node::UI_Draw(drawbot::Drawbot*) const {}
+
+void UI_Node::UI_DispatchDrawFromRoot(const drawbot::ColorRGBA& inGround,
+                                      drawbot::Drawbot* inDrawbot, bool inFill) const {
+  if (!inFill) return;
+  const lumcore::geom::RectT<float> all(0, 0, mLocalRect.width, mLocalRect.height);
+  inDrawbot->FillRect(all, inGround);
+}
 
 bool UI_Node::UI_DoMouseEvent(UI_Node*, const MouseEvent&) {
   return false;
@@ -175,6 +205,10 @@ bool UI_Node::UI_DoPrePointerEvent(const MouseEvent&) {
   return false;
 }
 
+AccessibleItems* UI_Node::UI_GetAccessibleItems() {
+  return nullptr;
+}
+
 bool UI_Node::UI_SupportsDrawbot() const {
   return true;
 }
@@ -198,6 +232,7 @@ bool UI_Node::UI_HasKeyboardFocus() const {
 void UI_Node::UI_SetWantsKeyboardFocus(bool inWants) {
   mWantsFocus = inWants;
   mPeer->ApplyWantsFocus();
+  NoteChange();
 }
 
 void UI_Node::UI_SetWantsPrePointerEvents(bool inWants) {
@@ -205,6 +240,14 @@ void UI_Node::UI_SetWantsPrePointerEvents(bool inWants) {
   const auto found = std::find(nodes.begin(), nodes.end(), this);
   if (inWants && found == nodes.end()) nodes.push_back(this);
   if (!inWants && found != nodes.end()) nodes.erase(found);
+  NoteChange();
+}
+
+bool UI_Node::UI_WantsPrePointerEvents() const {
+  const auto* const manager = NodeManagerImplIfAny();
+  if (!manager) return false;
+  const auto& nodes = manager->prePointerNodes;
+  return std::find(nodes.begin(), nodes.end(), this) != nodes.end();
 }
 
 bool UI_Node::UI_DispatchPrePointerEvent(UI_Node* inRoot, const MouseEvent& inEvent) {

@@ -57,6 +57,17 @@ Qt::CursorShape QtFromShape(CursorShape inShape) {
   return Qt::ArrowCursor;
 }
 
+// Functions that were taken back go at the next chance.
+template <class Function>
+void Install(std::vector<boost::shared_ptr<Function>>& ioFunctions,
+             const boost::shared_ptr<Function>& inFunction) {
+  LUM_INPUT_CONTRACT(inFunction != nullptr);
+  const auto cleared = [](const auto& inEntry) { return inEntry->empty(); };
+  ioFunctions.erase(std::remove_if(ioFunctions.begin(), ioFunctions.end(), cleared),
+                    ioFunctions.end());
+  ioFunctions.push_back(inFunction);
+}
+
 }  // namespace
 
 UI_NodeManager::Impl& NodeManagerImpl() {
@@ -76,6 +87,14 @@ void UI_NodeManager::Impl::TellActivation(bool inActive) {
   const auto functions = activationFunctions;
   for (const auto& function : functions) {
     if (*function) EventGate::Get()->RunGuarded([&] { (*function)(inActive); });
+  }
+}
+
+void UI_NodeManager::Impl::TellNodeChanged(UI_Node& inNode) {
+  if (nodeChangedFunctions.empty()) return;
+  const auto functions = nodeChangedFunctions;
+  for (const auto& function : functions) {
+    if (*function) EventGate::Get()->RunGuarded([&] { (*function)(inNode); });
   }
 }
 
@@ -131,11 +150,18 @@ CursorShape UI_NodeManager::GetCursor() const {
 
 void UI_NodeManager::InstallApplicationActivationChangedFunction(
     const boost::shared_ptr<boost::function<void(bool)>>& inFunction) {
-  LUM_INPUT_CONTRACT(inFunction != nullptr);
-  auto& functions = mImpl->activationFunctions;
-  const auto cleared = [](const auto& inEntry) { return inEntry->empty(); };
-  functions.erase(std::remove_if(functions.begin(), functions.end(), cleared), functions.end());
-  functions.push_back(inFunction);
+  Install(mImpl->activationFunctions, inFunction);
+}
+
+void UI_NodeManager::InstallNodeChangedFunction(
+    const boost::shared_ptr<boost::function<void(UI_Node&)>>& inFunction) {
+  Install(mImpl->nodeChangedFunctions, inFunction);
+}
+
+std::vector<OS_Window*> UI_NodeManager::GetWindows() const {
+  std::vector<OS_Window*> windows;
+  ForEachWindow([&](OS_Window& inWindow) { windows.push_back(&inWindow); });
+  return windows;
 }
 
 void UI_NodeManager::EnableMnemonics() {

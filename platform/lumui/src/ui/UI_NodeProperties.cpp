@@ -42,9 +42,10 @@ boost::intrusive_ptr<drawbot::ImageInterface> NodeSource::LoadImage(
     const UTF16String& inName) const {
   if (inName.empty() || !resources) return nullptr;
   const drawbot::SupplierInterface& images = supplier ? *supplier : *drawbot::GetDefaultSupplier();
+  // A dialog that opens again has the same pictures. Never destroyed: they may outlive all else.
+  static const auto* const sImages = new utility::DrawbotImageResourceCache;
   try {
-    return utility::DrawbotImageResourceCache().GetImage(*resources, images,
-                                                         lumcore::utility::ToUTF8(inName));
+    return sImages->GetImage(*resources, images, lumcore::utility::ToUTF8(inName));
   } catch (const lumcore::config::Error& error) {
     ThrowError(error.GetText());
   }

@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QResizeEvent>
 
+#include "datatransfer/DragEvents.h"
 #include "docking/DockArea.h"
 #include "docking/Docking.h"
 #include "docking/FramePeer.h"
@@ -27,6 +28,10 @@ class WorkspaceFrameBase::Peer::Dock : public lumui::ui::NodeWidgetT<QDockWidget
   WorkspaceFrameBase* mFrame = nullptr;
 
  protected:
+  bool event(QEvent* inEvent) override {
+    return lumui::datatransfer::HandleDragEvent(*this, *inEvent) ||
+           NodeWidgetT<QDockWidget>::event(inEvent);
+  }
   void closeEvent(QCloseEvent* inEvent) override {
     inEvent->ignore();
     if (mFrame && mFrame->mDocking) {
@@ -62,6 +67,7 @@ QWidget* WorkspaceFrameBase::Peer::DoMakeWidget(QWidget* inParent) {
   WorkspaceFrameBase& frame = GetFrame();
   auto* const dock = new Dock(*this, inParent);
   dock->mFrame = &frame;
+  dock->setAcceptDrops(true);
   dock->setFeatures(
       QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable |
       (mClosable ? QDockWidget::DockWidgetClosable : QDockWidget::NoDockWidgetFeatures));

@@ -38,6 +38,9 @@ class LUMUI_API UI_Popup : public UI_InteractiveControlView {
   // inNotify tells the listeners, but not those to the user's changes.
   void SetValueString(const lumcore::UTF16String& inText, bool inNotify);
   const lumcore::UTF16String& GetValueString() const { return mText; }
+  // Shows a text in the place of the one that was chosen, or where nothing is, until the next
+  // choice; what is chosen stays, whatever the text. GetValueString answers it.
+  void SetShownText(const lumcore::UTF16String& inText);
 
   // kOverItem or kBelowItem.
   void SetPopupType(int inType);

@@ -48,6 +48,10 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   // How far an arrow of a bar, or a third of a notch of the wheel, moves; 20 at start.
   void SetLineStep(float inUnits);
   float GetLineStep() const { return mLineStep; }
+  // Whether scrolling moves what is on the screen already, so that only what comes into view is
+  // drawn. False at start. It is for a content that is opaque, as this makes it, and of which
+  // nothing stands still while the rest moves.
+  void SetMovesPicture(bool inMoves);
 
   bool UI_DoMouseWheel(ui::UI_Node* inNode, const ui::WheelEvent& inEvent) override;
 
@@ -67,6 +71,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   lumcore::geom::PointT<double> GetViewSize() const;
   void PlaceBars();
   void ShowOffsetInBars();
+  bool MovePicture(const lumcore::geom::PointT<double>& inOldOffset);
 
   lumcore::utility::Flags<unsigned int> mFlags;
   boost::intrusive_ptr<ui::UI_Node> mContent;
@@ -76,6 +81,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   lumcore::geom::PointT<double> mWanted;  // with the fractions that are less than a device's unit
   lumcore::geom::PointT<double> mOffset;
   float mLineStep = 20;
+  bool mMovesPicture = false;
 };
 
 // A scroll view whose owner decides on the offset: it may lie anywhere, also outside the content.

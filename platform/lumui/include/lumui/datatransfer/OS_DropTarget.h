@@ -15,9 +15,9 @@ class UI_DragDropHandler;
 
 namespace lumui::datatransfer {
 
-// Lets a window take what is dropped on it: the innermost node under the pointer that handles drops
-// gets it, else the fallback handler, for which a drop means "open this". Controls that take text
-// by themselves go before both.
+// Lets a window, with the panels of it that float, take what is dragged over it: the nodes under
+// the pointer that want drags are asked, see UI_DragDropHandler, and then the fallback handler, for
+// which a drop means "open this". Controls that take text by themselves go before both.
 class LUMUI_API OS_DropTarget {
  public:
   OS_DropTarget();
@@ -33,8 +33,9 @@ class LUMUI_API OS_DropTarget {
   // Null for none.
   void SetFallbackHandler(const boost::shared_ptr<ui::UI_DragDropHandler>& inHandler);
 
- private:
   class Impl;
+
+ private:
   std::unique_ptr<Impl> mImpl;
 };
 

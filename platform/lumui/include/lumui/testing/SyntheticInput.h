@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "lumcore/Strings.h"
@@ -60,11 +62,35 @@ LUMUI_API void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
                          const lumcore::geom::PointT<float>& inNotches,
                          ui::ModifierKeys inModifiers = ui::ModifierKeys());
 
+// A drag of another program's over a window of ours. It need not come to an end here: it may leave,
+// or go out of being as when the other program crashes. Bytes go by the names of media types.
+class LUMUI_API ForeignDrag {
+ public:
+  explicit ForeignDrag(ui::OS_Window& inWindow,
+                       int inAllowedEffects = ui::kDropCopy | ui::kDropMove);
+  ~ForeignDrag();
+  ForeignDrag(const ForeignDrag&) = delete;
+  ForeignDrag& operator=(const ForeignDrag&) = delete;
+
+  void AddFiles(const std::vector<lumcore::UTF16String>& inPaths);
+  void AddText(const lumcore::UTF16String& inText);
+  void AddBytes(const char* inFormat, const std::string& inBytes);
+
+  // What a drop there would do, and what it has done.
+  int Move(const Position& inPosition, ui::ModifierKeys inModifiers = ui::ModifierKeys());
+  int Drop(const Position& inPosition, ui::ModifierKeys inModifiers = ui::ModifierKeys());
+  void Leave();
+
+ private:
+  class Impl;
+  std::unique_ptr<Impl> mImpl;
+};
+
 // Files, by their full paths, and a text that another program drags into the window, moves to the
 // position and drops there. What the drop has done.
-LUMUI_API ui::DropEffect DropOnWindow(ui::OS_Window& inWindow, const Position& inPosition,
-                                      const std::vector<lumcore::UTF16String>& inFiles,
-                                      const lumcore::UTF16String& inText);
+LUMUI_API int DropOnWindow(ui::OS_Window& inWindow, const Position& inPosition,
+                           const std::vector<lumcore::UTF16String>& inFiles,
+                           const lumcore::UTF16String& inText);
 
 // As the cross in the window's frame does.
 LUMUI_API void RequestClose(ui::OS_Window& inWindow);

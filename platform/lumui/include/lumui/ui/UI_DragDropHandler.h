@@ -3,38 +3,53 @@
 
 #pragma once
 
-#include <vector>
-
-#include "lumcore/Strings.h"
 #include "lumcore/geom/Point.h"
 #include "lumui/Export.h"
-#include "lumui/ui/ModifierKeys.h"
+
+namespace lumui::datatransfer {
+class OS_ReceiveData;
+}
 
 namespace lumui::ui {
 
-enum class DropEffect { kNone, kCopy, kMove, kLink };
-
-// What is dragged, and where it is now.
-struct DropEvent {
-  std::vector<lumcore::UTF16String> files;  // full paths
-  lumcore::UTF16String text;                // empty for none
-  lumcore::geom::PointT<int> position;      // local to the node that is asked, else to the window
-  ModifierKeys modifiers;
-  DropEffect proposed = DropEffect::kNone;  // by the source and the keys that are held
+// What a drop does to what is dragged. They are summed where several are allowed.
+enum DropEffect : int {
+  kDropNone = 0,
+  kDropCopy = 1,
+  kDropMove = 2,
+  kDropLink = 4,
 };
 
-// Takes what is dropped from elsewhere. A node that derives from it is asked for what is dragged
-// over it, and over the nodes within it that do not. After an enter comes a leave or a drop.
+// Takes what is dragged over it, from this program or another one. Every node is one, and the
+// fallback of a window another; the base operations take nothing.
+//
+// Of the handlers under the pointer that want drags the innermost is asked first, and the ones
+// around it as long as none serves the drag. To each the order is kept: an enter first, then overs,
+// and at last one leave or one drop, also where a node comes under the pointer or goes in the
+// middle of a drag. A drop that nobody serves, or that would do nothing, is a leave.
+//
+// Positions are those of UI_Node::UI_DoMouseEvent, of a fallback those of the window. ioEffect is
+// what the source and the held keys propose, and becomes what a drop here would do, or what it has
+// done: one DropEffect that the source allows, else nothing is done. The result says whether the
+// handler serves the drag; if it does not, ioEffect says nothing. What a handler throws goes to the
+// application's error function and refuses the drag.
+//
+// The data is there for the length of the call. Reading it may take a while: see OS_ReceiveData.
 class LUMUI_API UI_DragDropHandler {
  public:
+  using Position = lumcore::geom::PointT<float>;
+
   virtual ~UI_DragDropHandler();
 
-  // What a drop here would do; kNone refuses it.
-  virtual DropEffect DragEnter(const DropEvent& inEvent) = 0;
-  virtual DropEffect DragOver(const DropEvent& inEvent) = 0;
-  virtual void DragLeave() = 0;
-  // What it has done.
-  virtual DropEffect Drop(const DropEvent& inEvent) = 0;
+  virtual bool UI_WantsDragDropEvents() const;
+  virtual bool UI_HandleDragEnter(Position inPosition, datatransfer::OS_ReceiveData& inData,
+                                  int& ioEffect);
+  virtual bool UI_HandleDragOver(Position inPosition, datatransfer::OS_ReceiveData& inData,
+                                 int& ioEffect);
+  // The data has gone: none is offered any more.
+  virtual void UI_HandleDragLeave(datatransfer::OS_ReceiveData& inData);
+  virtual bool UI_HandleDrop(Position inPosition, datatransfer::OS_ReceiveData& inData,
+                             int& ioEffect);
 
  protected:
   UI_DragDropHandler() = default;

@@ -15,14 +15,17 @@
 #include "lumcore/utility/Flags.h"
 #include "lumcore/utility/RefCounted.h"
 #include "lumui/Export.h"
+#include "lumui/ui/UI_DragDropHandler.h"
 
 namespace lumui::drawbot {
 class Drawbot;
+struct ColorRGBA;
 class SupplierInterface;
 }  // namespace lumui::drawbot
 
 namespace lumui::ui {
 
+class AccessibleItems;
 class KeyboardEvent;
 class MouseEvent;
 class NodePeer;
@@ -44,7 +47,7 @@ enum FocusChangeReason : int {
 // Every event operation may remove the node it is called on, drop the last reference to it, or
 // destroy its window: the caller holds it until the operation returns, and the event ends there.
 // What an operation throws goes to the application's error function and counts as an event taken.
-class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
+class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_DragDropHandler {
  public:
   UI_Node(const UI_Node&) = delete;
   UI_Node& operator=(const UI_Node&) = delete;
@@ -74,9 +77,14 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // visible, a top-level window hidden.
   void UI_Show(bool inShow);
   bool UI_IsVisible() const { return mVisible; }
+  // Whether it is on the screen: in a window that shows, with all that holds it, and not behind
+  // another tab. What other windows or nodes cover counts as shown.
+  bool UI_IsShown() const;
   // A disabled node and what it holds get no pointer and key events; its parent gets them.
   void UI_SetDisabled(bool inDisabled);
   bool UI_IsDisabled() const { return mDisabled; }
+  // Whether the node fills all of its rectangle at each paint, so that nothing behind it is drawn.
+  void UI_SetOpaque(bool inOpaque);
   void UI_SetToolTip(const lumcore::UTF16String& inText);
   const lumcore::UTF16String& UI_GetToolTip() const { return mToolTip; }
 
@@ -92,6 +100,10 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // Draws the node itself, in its local coordinates (content coordinates in a scroll view), clipped
   // to it. The children draw themselves over it, later. The base operation draws nothing.
   virtual void UI_Draw(drawbot::Drawbot* inDrawbot) const;
+  // For a node that is a ground for others: fills all of it with the colour, if inFill says so.
+  // What it holds is drawn over that, as always.
+  void UI_DispatchDrawFromRoot(const drawbot::ColorRGBA& inGround, drawbot::Drawbot* inDrawbot,
+                               bool inFill) const;
   // For the events below inNode is where the event began, also when an ancestor is asked. True
   // takes the event; else the parent is asked. The base operations answer false.
   virtual bool UI_DoMouseEvent(UI_Node* inNode, const MouseEvent& inEvent);
@@ -110,6 +122,9 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   // so. True swallows the press.
   virtual bool UI_DoPrePointerEvent(const MouseEvent& inEvent);
   virtual bool UI_SupportsDrawbot() const;
+  // What the node draws, for those who do not see it; null, as the base operation answers, for
+  // nothing. Asked when the node is first read, and then each time.
+  virtual AccessibleItems* UI_GetAccessibleItems();
   // What makes images, fonts and paths for drawing on this node. Borrowed, never null.
   drawbot::SupplierInterface* UI_GetDrawSupplier() const;
 
@@ -117,8 +132,13 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   bool UI_SetKeyboardFocus(int inReason);
   bool UI_HasKeyboardFocus() const;
   void UI_SetWantsKeyboardFocus(bool inWants);
+  // While the node has the focus, each key is an event for it before any mnemonic: for who takes
+  // keys as such, to be stored.
+  void UI_SetClaimsAllKeys(bool inClaims) { mClaimsAllKeys = inClaims; }
+  bool UI_ClaimsAllKeys() const { return mClaimsAllKeys; }
 
   void UI_SetWantsPrePointerEvents(bool inWants);
+  bool UI_WantsPrePointerEvents() const;
   // Offers the event to the nodes under inRoot (itself included) that want it, in the order in
   // which they said so. True as soon as one takes it.
   static bool UI_DispatchPrePointerEvent(UI_Node* inRoot, const MouseEvent& inEvent);
@@ -156,6 +176,8 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
  private:
   friend class NodePeer;
 
+  void NoteChange();
+
   UI_Node* mParent = nullptr;
   std::vector<boost::intrusive_ptr<UI_Node>> mChildren;
   lumcore::UTF8String mNodeID;
@@ -164,6 +186,7 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject {
   bool mVisible = true;
   bool mDisabled = false;
   bool mWantsFocus = false;
+  bool mClaimsAllKeys = false;
   std::unique_ptr<NodePeer> mPeer;
 };
 

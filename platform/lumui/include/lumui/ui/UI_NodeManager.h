@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <boost/function.hpp>
 #include <boost/intrusive_ptr.hpp>
@@ -15,6 +16,7 @@ namespace lumui::ui {
 
 class Executor;
 class InputCapture;
+class OS_Window;
 class UI_Node;
 
 enum class CursorShape {
@@ -60,6 +62,15 @@ class LUMUI_API UI_NodeManager {
   // Whoever installed a function takes it back by clearing it.
   void InstallApplicationActivationChangedFunction(
       const boost::shared_ptr<boost::function<void(bool)>>& inFunction);
+  // Called within each change of what a node tells of itself: its children, id, rectangle, whether
+  // it is visible, disabled, has the keyboard or wants it, and for a window that its native part
+  // was made or destroyed. The node may be in the middle of something else: the function only notes
+  // that there is something to look at. It is taken back by clearing it.
+  void InstallNodeChangedFunction(
+      const boost::shared_ptr<boost::function<void(UI_Node&)>>& inFunction);
+  // Those with a native part, in the order in which that was made.
+  std::vector<OS_Window*> GetWindows() const;
+
   // Alt and a letter open menus and press buttons from now on.
   void EnableMnemonics();
   bool AreMnemonicsEnabled() const;

@@ -1,0 +1,193 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include "lumui/controls/UI_MultiColumnTree.h"
+#include "lumui/controls/UI_TextButton.h"
+#include "lumui/datatransfer/Clipboard.h"
+#include "lumui/ui/InputCapture.h"
+#include "lumui/ui/OS_Window.h"
+#include "lumui/ui/PointerEvent.h"
+#include "lumui/ui/UI_NodeManager.h"
+#include "support/Panels.h"
+#include "vek/workspace/NodeListing.h"
+#include "vek/workspace/ViewDebuggerTab.h"
+#include "vek/workspace/ViewDebuggerTabCreator.h"
+
+namespace viewdebugger_test {
+
+// A class whose name is worth reading.
+class Lamp : public lumui::ui::UI_SubView {
+ public:
+  explicit Lamp(bool* outGone = nullptr) : mGone(outGone) {}
+  ~Lamp() override {
+    if (mGone) *mGone = true;
+  }
+  bool UI_DoMouseEvent(lumui::ui::UI_Node*, const lumui::ui::MouseEvent& inEvent) override {
+    if (inEvent.GetAction() != lumui::ui::PointerEvent::kActionMove) ++mPresses;
+    return true;
+  }
+  int mPresses = 0;
+
+ private:
+  bool* mGone;
+};
+
+}  // namespace viewdebugger_test
+
+namespace {
+
+using namespace test_support;
+using lumcore::geom::RectT;
+using lumui::controls::UI_MultiColumnTree;
+using lumui::ui::UI_Node;
+using vek::workspace::NodeListing;
+using vek::workspace::ViewDebuggerTab;
+using viewdebugger_test::Lamp;
+
+TEST(NodeListings, TellOfEachNodeWhatItTellsOfItself) {
+  const boost::intrusive_ptr<lumui::ui::OS_Window> window(new lumui::ui::OS_Window);
+  window->UI_SetLocalRectF(RectT<float>(10, 20, 300, 200));
+  const boost::intrusive_ptr<UI_Node> first(new lumui::ui::UI_SubView);
+  const boost::intrusive_ptr<UI_Node> lamp(new Lamp);
+  window->UI_AddChild(first);
+  first->UI_AddChild(lamp);
+  window->UI_AddChild(new lumui::ui::UI_SubView);
+  first->UI_SetNodeID("first");
+  first->UI_SetLocalRectF(RectT<float>(-4.5f, 7.25f, 30, 0));
+  first->UI_SetDisabled(true);
+  lamp->UI_Show(false);
+  lamp->UI_SetWantsKeyboardFocus(true);
+  lamp->UI_SetWantsPrePointerEvents(true);
+  EXPECT_EQ(lumcore::utility::ToStdString(NodeListing::AsText(NodeListing::OfAllWindows())),
+            "Class\tId\tRectangle\tVisible\tEnabled\tFocus\tWants\n"
+            "lumui::ui::OS_Window\t\t10, 20, 300, 200\tno\tyes\t\t\n"
+            "  lumui::ui::UI_SubView\tfirst\t-4.5, 7.3, 30, 0\tyes\tno\t\t\n"
+            "    viewdebugger_test::Lamp\t\t0, 0, 0, 0\tno\tyes\t\tfocus, presses\n"
+            "  lumui::ui::UI_SubView\t\t0, 0, 0, 0\tyes\tyes\t\t\n");
+  window->UI_DestroyWindow();
+  EXPECT_FALSE(NodeListing::IsLive(first.get()));
+}
+
+class ViewDebugger : public ::testing::Test, protected PanelWorkspace {
+ protected:
+  ViewDebugger() {
+    mLamp = new Lamp(&mLampGone);
+    mLamp->UI_SetNodeID("lamp");
+    mLamp->UI_SetLocalRectF(RectT<float>(40, 50, 60, 30));
+    main->GetCentralNode()->UI_AddChild(mLamp);
+    workspace.RegisterTabCreator(new vek::workspace::ViewDebuggerTabCreator);
+    mTab = dynamic_cast<ViewDebuggerTab*>(
+        workspace.OpenTab(U8(vek::workspace::ViewDebuggerTabCreator::kTabType)));
+    lumui::testing::ActivateWindow(main);
+    Settle();
+  }
+
+  UI_MultiColumnTree& Tree() {
+    return dynamic_cast<UI_MultiColumnTree&>(*mTab->UI_GetNodeForID(U8("Nodes")));
+  }
+  // The row of the lamp, its columns with blanks between; empty where it is not listed.
+  std::string LampRow(UI_MultiColumnTree::RowID inParent = UI_MultiColumnTree::kNoRow) {
+    for (const auto row : Tree().GetChildRows(inParent)) {
+      if (Tree().GetText(row, NodeListing::kID) == U16("lamp")) {
+        std::string text;
+        for (const int column : {NodeListing::kRectangle, NodeListing::kVisible})
+          text += lumcore::utility::ToStdString(Tree().GetText(row, column)) + ";";
+        return text + (Tree().GetSelectedRow() == row ? "*" : "");
+      }
+      const std::string below = LampRow(row);
+      if (!below.empty()) return below;
+    }
+    return std::string();
+  }
+  lumui::testing::Position LampMiddle() {
+    lumcore::geom::PointT<int> point(30, 15);
+    mLamp->UI_LocalToGlobal(point);
+    return {static_cast<float>(point.x), static_cast<float>(point.y)};
+  }
+  std::size_t Bars() { return main->UI_GetChildCount() - 1; }  // besides the docks
+
+  bool mLampGone = false;
+  boost::intrusive_ptr<Lamp> mLamp;
+  ViewDebuggerTab* mTab = nullptr;
+};
+
+TEST_F(ViewDebugger, FollowsTheNodesAndRestsWhenNothingChanges) {
+  EXPECT_EQ(LampRow(), "40, 50, 60, 30;yes;");
+  mTab->ChooseNode(mLamp.get());
+  Settle();
+  int changes = 0;
+  boost::shared_ptr<boost::function<void(UI_Node&)>> count(
+      new boost::function<void(UI_Node&)>([&](UI_Node&) { ++changes; }));
+  lumui::ui::UI_NodeManager::Get(true)->InstallNodeChangedFunction(count);
+  mLamp->UI_SetLocalRectF(RectT<float>(41, 50, 60, 30));
+  EXPECT_EQ(LampRow(), "40, 50, 60, 30;yes;*") << "within the turn nothing is done";
+  Settle();
+  EXPECT_EQ(LampRow(), "41, 50, 60, 30;yes;*");
+  // The lamp, and the four bars that have moved with it.
+  EXPECT_EQ(changes, 5);
+  mLamp->UI_SetLocalRectF(RectT<float>(41, 50, 60, 30));
+  Settle();
+  EXPECT_EQ(changes, 5);
+  count->clear();
+  const boost::intrusive_ptr<UI_Node> parent = mLamp->UI_GetParentNode();
+  const boost::intrusive_ptr<UI_Node> another(new Lamp);
+  another->UI_AddChild(mLamp);
+  parent->UI_AddChild(another);
+  Settle();
+  EXPECT_EQ(LampRow(), "41, 50, 60, 30;yes;*") << "a level deeper";
+}
+
+TEST_F(ViewDebugger, HoldsNoNodeAndForgetsTheOnesThatGo) {
+  mTab->ChooseNode(mLamp.get());
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  EXPECT_EQ(Bars(), 4u);
+  main->GetCentralNode()->UI_RemoveChild(mLamp.get());
+  mLamp = nullptr;
+  EXPECT_TRUE(mLampGone);
+  EXPECT_EQ(mTab->GetChosenNode(), nullptr);
+  Settle();
+  EXPECT_EQ(LampRow(), "");
+  EXPECT_EQ(Bars(), 0u);
+  mTab->ChooseNode(main->GetCentralNode());
+  EXPECT_EQ(Bars(), 4u);
+  workspace.CloseTab(mTab->GetTabType());
+  EXPECT_EQ(Bars(), 0u);
+  Settle();
+}
+
+TEST_F(ViewDebugger, PicksUnderThePointerWithoutPressingAnything) {
+  auto& pick = dynamic_cast<lumui::controls::UI_TextButton&>(*mTab->UI_GetNodeForID(U8("Pick")));
+  pick.Press();
+  const auto at = LampMiddle();
+  lumui::testing::MoveMouse(*main, at);
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  EXPECT_EQ(LampRow(), "40, 50, 60, 30;yes;*");
+  lumui::testing::MoveMouse(*main, {at.x, at.y + 40});
+  EXPECT_EQ(mTab->GetChosenNode(), main->GetCentralNode());
+  // Also where the outline of what was picked before lies.
+  lumui::testing::MoveMouse(*main, {at.x - 29, at.y});
+  lumui::testing::ClickMouse(*main, {at.x - 29, at.y});
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  EXPECT_EQ(mLamp->mPresses, 0);
+  EXPECT_EQ(lumui::ui::UI_NodeManager::Get(true)->GetInputCapture(), nullptr);
+  lumui::testing::ClickMouse(*main, at);
+  EXPECT_EQ(mLamp->mPresses, 2) << "press and release, through the outline";
+  // Called off by a key.
+  mTab->BeginPicking();
+  Tree().UI_SetKeyboardFocus(lumui::ui::kFocusOther);
+  lumui::testing::TapKey(*main, lumui::ui::KeyboardCode(lumui::ui::KeyboardCode::kEscape));
+  EXPECT_EQ(lumui::ui::UI_NodeManager::Get(true)->GetInputCapture(), nullptr);
+}
+
+TEST_F(ViewDebugger, CopiesWhatItListsAndNotItsOutline) {
+  const auto before = mTab->GetText();
+  mTab->ChooseNode(mLamp.get());
+  dynamic_cast<lumui::controls::UI_TextButton&>(*mTab->UI_GetNodeForID(U8("Copy"))).Press();
+  EXPECT_EQ(lumui::datatransfer::GetClipboardText(), before);
+  EXPECT_NE(lumcore::utility::ToStdString(before).find("viewdebugger_test::Lamp\tlamp\t"),
+            std::string::npos);
+}
+
+}  // namespace

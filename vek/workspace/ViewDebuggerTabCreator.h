@@ -1,0 +1,25 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "lumworkspace/workspace/TabCreator.h"
+#include "vek/config/Export.h"
+
+namespace vek::workspace {
+
+// Offers the view debugger to a workspace. A host that wants it registers one, once its workspace
+// is ready, and opens the tab by a command of its own.
+class VEK_API ViewDebuggerTabCreator : public lumworkspace::workspace::TabCreator {
+ public:
+  static constexpr char kTabType[] = "vek.ViewDebugger";
+
+  ViewDebuggerTabCreator();
+  ~ViewDebuggerTabCreator() override;
+
+  boost::intrusive_ptr<lumworkspace::workspace::TabPanel> CreateTabPanel(
+      lumworkspace::workspace::Workspace* inWorkspace,
+      lumworkspace::workspace::WorkspaceFrameBase* inFrame) override;
+};
+
+}  // namespace vek::workspace
