@@ -10,6 +10,7 @@ vek_test(lumcore_tests
     lumcore/DebugDatabaseTest.cpp
     lumcore/ErrorManagerTest.cpp
     lumcore/FilesTest.cpp
+    lumcore/PlacesTest.cpp
     lumcore/PropListTest.cpp
     lumcore/RectanglesTest.cpp
     lumcore/ReplacingTest.cpp

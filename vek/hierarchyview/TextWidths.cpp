@@ -10,11 +10,10 @@ float TextWidths::Get(lumui::drawbot::FontP const& inFont, lumcore::UTF16String 
     mWidths.clear();
     mFont = inFont;
   }
-  const auto known = mWidths.find(inText);
-  if (known != mWidths.end()) return known->second;
-  const float width = inFont->MeasureWidthOnce(inText);
-  if (mWidths.size() >= kMaxTexts) mWidths.clear();
-  mWidths.emplace(inText, width);
+  const auto [known, isNew] = mWidths.try_emplace(inText, kNotMeasured);
+  if (!isNew && known->second != kNotMeasured) return known->second;
+  const float width = known->second = inFont->MeasureWidthOnce(inText);
+  if (mWidths.size() > kMaxTexts) mWidths.clear();
   return width;
 }
 

@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <boost/functional/hash.hpp>
 #include <cstddef>
+#include <functional>
+#include <string_view>
 #include <unordered_map>
 
 #include "lumcore/Strings.h"
@@ -23,9 +24,14 @@ class TextWidths {
   static constexpr std::size_t kMaxTexts = std::size_t{1} << 18;
 
  private:
+  // Stays where measuring threw.
+  static constexpr float kNotMeasured = -1;
+
   struct Hash {
     std::size_t operator()(lumcore::UTF16String const& inText) const {
-      return boost::hash_range(inText.begin(), inText.end());
+      return std::hash<std::string_view>()(
+          std::string_view(reinterpret_cast<const char*>(inText.data()),
+                           inText.size() * sizeof(lumcore::UTF16String::value_type)));
     }
   };
 

@@ -4,8 +4,10 @@
 #include "lumcore/filesupport/Dir.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "filesupport/Paths.h"
 #include "filesupport/SystemFile.h"
@@ -24,25 +26,53 @@ void ThrowIfFailed(const std::error_code& inCode, const char* inKey, const std::
   if (inCode) ThrowSystemError(inKey, inPath, inCode.value());
 }
 
-// The names in a folder, sorted. Links count as what they point to; one that points nowhere is
-// neither a file nor a folder, as File::Exists has it.
-std::vector<std::string> Names(const std::string& inPath, bool inFolders) {
-  constexpr const char* kKey = "$$$/lumcore/filesupport/Error/ListFolder=Cannot list \"@0\": @1";
-  std::vector<std::string> names;
-  std::error_code code;
-  fs::directory_iterator at(paths::ToSystem(inPath), code);
-  ThrowIfFailed(code, kKey, inPath);
-  while (at != fs::directory_iterator()) {
-    std::error_code ignored;
-    const fs::file_status status = at->status(ignored);
-    if (fs::exists(status) && fs::is_directory(status) == inFolders) {
-      names.push_back(paths::FromSystem(at->path().filename()));
-    }
-    at.increment(code);
-    ThrowIfFailed(code, kKey, inPath);
+std::vector<std::string> Sorted(std::vector<std::string> inNames) {
+  std::sort(inNames.begin(), inNames.end());
+  return inNames;
+}
+
+bool IsHidden(const std::string& inName) {
+  return inName.front() == '.';
+}
+
+// Only what is the same in every language.
+unsigned char ToLower(char inByte) {
+  return static_cast<unsigned char>(inByte >= 'A' && inByte <= 'Z' ? inByte + ('a' - 'A') : inByte);
+}
+
+// Names in one folder are often long and begin alike.
+std::size_t CommonPrefix(const std::vector<std::string>& inNames) {
+  std::size_t length = inNames.empty() ? 0 : inNames.front().size();
+  for (const std::string& name : inNames) {
+    length = std::min(length, name.size());
+    const auto end = inNames.front().begin() + static_cast<std::ptrdiff_t>(length);
+    const auto differs = std::mismatch(inNames.front().begin(), end, name.begin()).first;
+    length = static_cast<std::size_t>(differs - inNames.front().begin());
   }
-  std::sort(names.begin(), names.end());
-  return names;
+  return length;
+}
+
+void Sort(std::vector<std::string>& ioNames) {
+  const std::size_t prefix = CommonPrefix(ioNames);
+  std::sort(ioNames.begin(), ioNames.end(), [&](const std::string& inA, const std::string& inB) {
+    if (IsHidden(inA) != IsHidden(inB)) return IsHidden(inB);
+    const std::size_t length = std::min(inA.size(), inB.size());
+    for (std::size_t at = prefix; at < length; ++at) {
+      const unsigned char a = ToLower(inA[at]);
+      const unsigned char b = ToLower(inB[at]);
+      if (a != b) return a < b;
+    }
+    return inA.size() != inB.size() ? inA.size() < inB.size() : inA < inB;
+  });
+}
+
+template <class Item>
+DirIterator<Item> Walk(const std::string& inPath, std::vector<std::string> inNames,
+                       bool inSkipHidden) {
+  if (inSkipHidden)
+    inNames.erase(std::remove_if(inNames.begin(), inNames.end(), IsHidden), inNames.end());
+  Sort(inNames);
+  return DirIterator<Item>(paths::Join(inPath, ""), std::move(inNames));
 }
 
 }  // namespace
@@ -87,7 +117,7 @@ UTF16String Dir::FullPath() const {
 }
 
 UTF16String Dir::GetName() const {
-  return utility::ToUTF16(paths::FromSystem(paths::Name(mPath)));
+  return utility::ToUTF16(paths::NameText(mPath));
 }
 
 Dir Dir::Parent() const {
@@ -110,16 +140,43 @@ void Dir::RemoveAll() const {
 
 std::vector<File> Dir::GetFiles() const {
   std::vector<File> files;
-  for (const std::string& name : Names(mPath, false))
+  for (const std::string& name : Sorted(system::ListFolder(mPath).files))
     files.emplace_back(*this, name);
   return files;
 }
 
 std::vector<Dir> Dir::GetDirs() const {
   std::vector<Dir> dirs;
-  for (const std::string& name : Names(mPath, true))
+  for (const std::string& name : Sorted(system::ListFolder(mPath).folders))
     dirs.emplace_back(*this, name);
   return dirs;
+}
+
+Dir::FileIterator Dir::BeginFiles(bool inSkipHidden) const {
+  return Walk<File>(mPath, system::ListFolder(mPath).files, inSkipHidden);
+}
+
+Dir::SubdirIterator Dir::BeginSubdirs(bool inSkipHidden) const {
+  return Walk<Dir>(mPath, system::ListFolder(mPath).folders, inSkipHidden);
+}
+
+Dir::Contents Dir::BeginContents(bool inSkipHidden) const {
+  system::FolderNames names = system::ListFolder(mPath);
+  return {Walk<Dir>(mPath, std::move(names.folders), inSkipHidden),
+          Walk<File>(mPath, std::move(names.files), inSkipHidden)};
+}
+
+bool Dir::IsTopLevelDir() const {
+  const fs::path path = paths::ToSystem(paths::Full(mPath));
+  return !path.has_relative_path() || path == path.parent_path();
+}
+
+bool Dir::IsSameFolder(const Dir& inOther) const {
+  return system::AreSameFolder(mPath, inOther.mPath);
+}
+
+bool operator==(const Dir& inA, const Dir& inB) {
+  return inA.mPath == inB.mPath || paths::Full(inA.mPath) == paths::Full(inB.mPath);
 }
 
 }  // namespace lumcore::filesupport

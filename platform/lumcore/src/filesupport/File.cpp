@@ -36,12 +36,18 @@ UTF16String File::FullPath() const {
 }
 
 UTF16String File::GetName() const {
-  return utility::ToUTF16(paths::FromSystem(paths::Name(mPath)));
+  return utility::ToUTF16(paths::NameText(mPath));
 }
 
-UTF16String File::GetExtension() const {
-  const UTF16String extension = utility::ToUTF16(paths::FromSystem(paths::Name(mPath).extension()));
-  return extension.empty() ? extension : extension.substr(1);
+UTF16String File::GetExtension(bool inWithDot) const {
+  const std::string extension =
+      paths::FromSystem(paths::ToSystem(paths::NameText(mPath)).extension());
+  if (extension.empty()) return UTF16String();
+  return utility::ToUTF16(std::string_view(extension).substr(inWithDot ? 0 : 1));
+}
+
+std::int64_t File::Modified() const {
+  return system::ModifiedTime(mPath);
 }
 
 Dir File::Parent() const {

@@ -41,6 +41,11 @@ int FileError::GetSystemCode() const {
   return mSystemCode;
 }
 
+UTF16String FileError::GetSystemWords() const {
+  if (mSystemCode == 0) return UTF16String();
+  return utility::ToUTF16(std::system_category().message(mSystemCode));
+}
+
 eof_error::eof_error(std::string inPath)
     : FileError(Text("$$$/lumcore/filesupport/Error/EndOfFile=\"@0\" ends too early", inPath, {}),
                 inPath, 0) {}

@@ -20,9 +20,18 @@ namespace {
 constexpr UTF16String::value_type kFirstByteMark = 0xDC00;
 constexpr UChar32 kReplacementCharacter = 0xFFFD;
 
+constexpr char kSeparators[] = {'/', static_cast<char>(fs::path::preferred_separator), '\0'};
+
 // A separator at the end would make an empty last component.
 fs::path WithoutEndSeparator(const fs::path& inPath) {
   return !inPath.has_filename() && inPath.has_relative_path() ? inPath.parent_path() : inPath;
+}
+
+// Whether nothing is left to resolve, as far as that can be told at a glance.
+bool IsFull(const std::string& inPath) {
+  return fs::path::preferred_separator == '/' && inPath.size() > 1 && inPath.front() == '/' &&
+         inPath.back() != '/' && inPath.find("//") == inPath.npos &&
+         inPath.find("/.") == inPath.npos;
 }
 
 }  // namespace
@@ -92,13 +101,17 @@ std::string Parent(const std::string& inPath) {
   return parent.empty() ? "." : FromSystem(parent);
 }
 
-fs::path Name(const std::string& inPath) {
+std::string NameText(const std::string& inPath) {
+  // The common case, without taking all of the path apart: lists ask for thousands of names.
+  const std::size_t separator = inPath.find_last_of(kSeparators);
+  if (separator != inPath.npos && separator + 1 < inPath.size())
+    return inPath.substr(separator + 1);
   const fs::path path = WithoutEndSeparator(ToSystem(inPath));
-  return path.has_filename() ? path.filename() : path;
+  return FromSystem(path.has_filename() ? path.filename() : path);
 }
 
 std::string Full(const std::string& inPath) {
-  if (inPath.empty()) return inPath;
+  if (inPath.empty() || IsFull(inPath)) return inPath;
   std::error_code code;
   const fs::path full = fs::absolute(ToSystem(inPath), code);
   if (code) {

@@ -23,7 +23,7 @@ std::string FromText(const UTF16String& inText);
 std::string Join(const std::string& inFolder, std::string_view inName);
 std::string Parent(const std::string& inPath);
 // The last component; the root's is the root itself.
-std::filesystem::path Name(const std::string& inPath);
+std::string NameText(const std::string& inPath);
 // Absolute, "." and ".." resolved, no separator at the end. Throws FileError where the current
 // folder is gone.
 std::string Full(const std::string& inPath);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What the file classes ask of the system. Each platform has one file that implements all of it;
 // paths are those of File, and every failure is a FileError with the system's own words.
@@ -44,12 +45,22 @@ std::intptr_t OpenForReading(const std::string& inPath);
 std::intptr_t OpenForWriting(const std::string& inPath);
 
 std::string ProgramPath();   // of this process's executable file
+std::string HomePath();      // the user's own folder
 std::string SettingsPath();  // the folder for the settings of all of the user's programs
 bool FileExists(const std::string& inPath);
 bool FolderExists(const std::string& inPath);
 bool IsAbsent(const std::string& inPath);
 std::uint64_t FileSize(const std::string& inPath);
 void RemoveFile(const std::string& inPath);
+// The names in a folder, in no order. Links count as what they point to; one that points nowhere is
+// neither a file nor a folder.
+struct FolderNames {
+  std::vector<std::string> folders;
+  std::vector<std::string> files;
+};
+FolderNames ListFolder(const std::string& inPath);
+bool AreSameFolder(const std::string& inA, const std::string& inB);  // by whatever ways
+std::int64_t ModifiedTime(const std::string& inPath);  // seconds since the beginning of 1970
 // See File::ReplaceContents.
 void ReplaceFile(const std::string& inPath, std::string_view inBytes);
 // See File::Recreate.

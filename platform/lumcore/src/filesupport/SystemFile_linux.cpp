@@ -341,16 +341,18 @@ std::string ProgramPath() {
   return paths::FromSystem(path);
 }
 
+std::string HomePath() {
+  const char* const home = std::getenv("HOME");
+  if (home && *home) return home;
+  const passwd* const user = ::getpwuid(::geteuid());
+  return user ? user->pw_dir : "/";
+}
+
 std::string SettingsPath() {
   // The desktop's rule: an absolute path, or the folder of that name in the user's home.
   const char* const chosen = std::getenv("XDG_CONFIG_HOME");
   if (chosen && *chosen == '/') return chosen;
-  const char* home = std::getenv("HOME");
-  if (!home || !*home) {
-    const passwd* const user = ::getpwuid(::geteuid());
-    home = user ? user->pw_dir : "/";
-  }
-  return paths::Join(home, ".config");
+  return paths::Join(HomePath(), ".config");
 }
 
 bool FileExists(const std::string& inPath) {

@@ -3,6 +3,8 @@
 
 #include "lumui/ui/Cursors.h"
 
+#include <QGuiApplication>
+
 #include "lumui/ui/UI_NodeManager.h"
 
 namespace lumui::ui {
@@ -28,6 +30,14 @@ CursorShape ShapeOf(int inCursor) {
 void SetCursorByID(int inCursor) {
   if (UI_NodeManager* const manager = UI_NodeManager::Get(false))
     manager->SetCursor(ShapeOf(inCursor));
+}
+
+StBusyCursor::StBusyCursor() : mIsShown(qobject_cast<QGuiApplication*>(qApp) != nullptr) {
+  if (mIsShown) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+StBusyCursor::~StBusyCursor() {
+  if (mIsShown && qobject_cast<QGuiApplication*>(qApp)) QGuiApplication::restoreOverrideCursor();
 }
 
 }  // namespace lumui::ui

@@ -31,8 +31,10 @@ class LUMCORE_API File {
   // Absolute, with "." and ".." resolved by text; links stay. A File of this text names the same
   // file again: a byte that is no UTF-8 is a lone surrogate in it, U+DC80 to U+DCFF.
   UTF16String FullPath() const;
-  UTF16String GetName() const;       // the last component
-  UTF16String GetExtension() const;  // behind the last dot, without it; empty for ".profile"
+  UTF16String GetName() const;  // the last component
+  // Behind the last dot, without it or with it; empty for ".profile".
+  UTF16String GetExtension(bool inWithDot = false) const;
+  std::int64_t Modified() const;  // seconds since the beginning of 1970; throws FileError
   Dir Parent() const;
 
   // The whole content. Throws FileError.

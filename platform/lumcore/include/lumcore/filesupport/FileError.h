@@ -19,6 +19,7 @@ class LUMCORE_API FileError : public config::Error {
   const std::string& GetPath() const;  // UTF-8
   // errno, or GetLastError() on Windows; 0 where the system said nothing.
   int GetSystemCode() const;
+  UTF16String GetSystemWords() const;  // what the system says about that code; empty for 0
 
  private:
   std::string mPath;

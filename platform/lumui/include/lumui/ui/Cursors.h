@@ -20,4 +20,17 @@ enum CursorID : int {
 // cursor; without an application nothing happens.
 LUMUI_API void SetCursorByID(int inCursor);
 
+// While one lives, the cursor is the busy one over all our windows, whatever is asked for
+// meanwhile. They nest. For work that keeps the loop from running.
+class LUMUI_API StBusyCursor {
+ public:
+  StBusyCursor();
+  ~StBusyCursor();
+  StBusyCursor(const StBusyCursor&) = delete;
+  StBusyCursor& operator=(const StBusyCursor&) = delete;
+
+ private:
+  const bool mIsShown;  // not without an application
+};
+
 }  // namespace lumui::ui
