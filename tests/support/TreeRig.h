@@ -116,20 +116,21 @@ class TreeRig : public testing::Test {
     mViewLog.Take();
   }
   bool Key(std::uint32_t inControlCode, bool inExtended = false) {
-    using namespace lumui::ui;
-    return mTree->DoKeyEvent(KeyboardEvent(
-        KeyboardEvent::kActionKeyDown,
-        KeyboardCode::CreateFromControlCode(static_cast<unsigned short>(inControlCode), inExtended),
-        ModifierKeys(), false, OS_Event()));
+    namespace ui = lumui::ui;
+    return mTree->DoKeyEvent(
+        ui::KeyboardEvent(ui::KeyboardEvent::kActionKeyDown,
+                          ui::KeyboardCode::CreateFromControlCode(
+                              static_cast<unsigned short>(inControlCode), inExtended),
+                          ui::ModifierKeys(), false, ui::OS_Event()));
   }
   // What each character's event answers, "+" or "-".
   std::string Type(const lumcore::UTF16String& inText) {
-    using namespace lumui::ui;
+    namespace ui = lumui::ui;
     std::string answers;
     for (const unsigned short unit : inText) {
-      const KeyboardEvent event(KeyboardEvent::kActionCharacter,
-                                KeyboardCode(KeyboardCode::kCharacterBit | unit), ModifierKeys(),
-                                false, OS_Event());
+      const ui::KeyboardEvent event(ui::KeyboardEvent::kActionCharacter,
+                                    ui::KeyboardCode(ui::KeyboardCode::kCharacterBit | unit),
+                                    ui::ModifierKeys(), false, ui::OS_Event());
       answers += mTree->DoKeyEvent(event) ? '+' : '-';
     }
     return answers;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <boost/make_shared.hpp>
+#include <memory>
 
 #include "lumcore/config/ThrowError.h"
 #include "lumui/controls/UI_ScrollBar.h"
@@ -156,9 +157,9 @@ TEST_F(PlatformViews, ShowAgainWhatAPressWouldDo) {
 
 TEST_F(PlatformViews, ComeWholeOutOfArchives) {
   auto& adapters = lumui::ui::UI_NodeAdapterRegistry::Get();
-  LUMPlatformViewAdapter::RegisterOnce();
-  LUMPlatformViewAdapter::RegisterOnce();
-  EXPECT_EQ(adapters.FindFor(*mScroll).GetClassName(), "vek::LUMPlatformView");
+  adapters.RegisterIfNew(std::make_unique<LUMPlatformViewAdapter>());
+  adapters.RegisterIfNew(std::make_unique<LUMPlatformViewAdapter>());
+  EXPECT_EQ(adapters.FindFor(*mScroll).GetNodeClass(), "vek::LUMPlatformView");
   const auto node = adapters.Find("vek::LUMPlatformView")->CreateNode(lumui::ui::NodeSource());
   lumui::ui::UI_NodeAdapterRegistry::Reset();
   auto& view = dynamic_cast<PlatformScrollView&>(*node).GetPlatformView();

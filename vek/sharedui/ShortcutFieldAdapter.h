@@ -10,7 +10,7 @@
 namespace vek::sharedui {
 
 // Makes "vek::ShortcutField" of node archives, with the properties "keyboardCode" and "modifiers",
-// both numbers. An application registers it once, in lumui::ui::UI_NodeAdapterRegistry.
+// both numbers. An App registers it when it starts.
 class VEK_API ShortcutFieldAdapter : public lumui::ui::UI_NodeAdapterT<ShortcutField> {
  public:
   ShortcutFieldAdapter();

@@ -73,8 +73,8 @@ class VEK_API UIMultiTreeList : public lumui::ui::UI_SubView {
   std::vector<lumcore::UTF16String> mTitles;
 };
 
-// An application registers it once, in lumui::ui::UI_NodeAdapterRegistry. Properties: "columns",
-// "fullRowSelect", "hasIcons", "headerHeight", "showHeader".
+// An App registers it when it starts. Properties: "columns", "fullRowSelect", "hasIcons",
+// "headerHeight", "showHeader".
 VEK_API std::unique_ptr<lumui::ui::UI_NodeAdapterBase> NewUIMultiTreeListAdapter();
 
 }  // namespace vek

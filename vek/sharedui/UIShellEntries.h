@@ -59,7 +59,6 @@ class VEK_API UIShellHierarchyEntryBase : public hierarchyview::DynamicHierarchy
   // The folders in the folder and then, where the tree wants them, the files; or, where it cannot
   // be read, a row that says so.
   void AddContentsOf(lumcore::filesupport::Dir const& inDir);
-  hierarchyview::ENodeState GetStoredState(lumcore::UTF8String const& inKey) const;
   void StoreState(lumcore::UTF8String const& inKey);
   UIShellTrackView* GetShellTree() const;  // null once it is gone
   lumui::drawbot::SupplierInterface const& GetImageSupplier() const;

@@ -53,6 +53,8 @@ class VEK_API UIShellTrackView : public UIShellTrackViewBase {
   // By full path, true for open; "MyComputer" for the computer; "LastSel" for what was selected.
   lumcore::proplist::PropList* GetFolderSettings() const { return mFolderSettings; }
   void SetFolderSettings(lumcore::proplist::PropList* inSettings) { mFolderSettings = inSettings; }
+  // What the settings have for the key of an entry; false without settings.
+  bool WasExpanded(lumcore::UTF8String const& inKey) const;
 
   // Opens the way down to the folder, by its volume, and the folder itself, and selects it. False
   // if it is not there, or is not reached.

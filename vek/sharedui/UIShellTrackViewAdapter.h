@@ -12,8 +12,7 @@ class UIShellTrackView;
 
 // Makes "vek::UIShellTrackView" of node archives: a scroll view around a platform view whose track
 // view has a UIShellTrackView without settings. Properties: "filetypes", "filesAtLeafNodes"; the
-// tree is built when they are set. An application registers it once, in
-// lumui::ui::UI_NodeAdapterRegistry.
+// tree is built when they are set. An App registers it when it starts.
 class VEK_API UIShellTrackViewAdapter : public lumui::ui::UI_NodeAdapterBase {
  public:
   UIShellTrackViewAdapter();

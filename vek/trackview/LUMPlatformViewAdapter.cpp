@@ -15,12 +15,6 @@ LUMPlatformViewAdapter::LUMPlatformViewAdapter()
 
 LUMPlatformViewAdapter::~LUMPlatformViewAdapter() = default;
 
-void LUMPlatformViewAdapter::RegisterOnce() {
-  auto& registry = lumui::ui::UI_NodeAdapterRegistry::Get();
-  auto adapter = std::make_unique<LUMPlatformViewAdapter>();
-  if (!registry.Find(adapter->GetClassName())) registry.Register(std::move(adapter));
-}
-
 boost::intrusive_ptr<lumui::ui::UI_Node> LUMPlatformViewAdapter::DoCreateNode(
     const lumui::ui::NodeSource&) const {
   return PlatformScrollView::Create();

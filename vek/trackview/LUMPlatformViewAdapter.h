@@ -9,15 +9,12 @@
 namespace vek::trackview {
 
 // Makes "vek::LUMPlatformView" of node archives: a scroll view around a platform view with a track
-// view, see PlatformScrollView::Create. It has no properties of its own. The application registers
+// view, see PlatformScrollView::Create. It has no properties of its own. An App registers
 // it when it starts.
 class VEK_API LUMPlatformViewAdapter : public lumui::ui::UI_NodeAdapterBase {
  public:
   LUMPlatformViewAdapter();
   ~LUMPlatformViewAdapter() override;
-
-  // In lumui::ui::UI_NodeAdapterRegistry, unless it is there.
-  static void RegisterOnce();
 
  private:
   boost::intrusive_ptr<lumui::ui::UI_Node> DoCreateNode(

@@ -4,6 +4,7 @@
 #include "vek/app/AppBase.h"
 
 #include <exception>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -31,6 +32,9 @@
 #include "lumworkspace/workspace/WorkspaceUIManager.h"
 #include "vek/app/App.h"
 #include "vek/app/src/MenuState.h"
+#include "vek/sharedui/ShortcutFieldAdapter.h"
+#include "vek/sharedui/UIMultiTreeList.h"
+#include "vek/sharedui/UIShellTrackViewAdapter.h"
 #include "vek/trackview/LUMPlatformViewAdapter.h"
 #include "vek/uisupport/DeferredActionManager.h"
 #include "vek/uisupport/KeyCommandManager.h"
@@ -45,6 +49,15 @@ using lumcore::UTF16String;
 using lumcore::filesupport::Dir;
 
 namespace {
+
+// Of the nodes that vek has besides the platform's, so that archives may hold them.
+void RegisterNodeAdapters() {
+  auto& registry = lumui::ui::UI_NodeAdapterRegistry::Get();
+  registry.RegisterIfNew(std::make_unique<trackview::LUMPlatformViewAdapter>());
+  registry.RegisterIfNew(NewUIMultiTreeListAdapter());
+  registry.RegisterIfNew(std::make_unique<sharedui::ShortcutFieldAdapter>());
+  registry.RegisterIfNew(std::make_unique<sharedui::UIShellTrackViewAdapter>());
+}
 
 struct AutoDisable {
   static AutoDisable& Get() {
@@ -216,7 +229,7 @@ void AppBase::StartLook(AppInitArgs& inArgs) {
   Delete(mWorkspaceUIManager);  // there is one at a time
   mWorkspaceUIManager = new lumworkspace::workspace::WorkspaceUIManager;
   mLastStage = kStageModules;
-  trackview::LUMPlatformViewAdapter::RegisterOnce();
+  RegisterNodeAdapters();
   InitModules();
   InitPreferences();
   mLastStage = kStageResources;

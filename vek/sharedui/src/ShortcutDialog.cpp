@@ -95,7 +95,7 @@ ShortcutDialog::~ShortcutDialog() {
 
 template <class Control>
 boost::intrusive_ptr<Control> ShortcutDialog::NeedControl(const char* inID) const {
-  const boost::intrusive_ptr<Control> control(dynamic_cast<Control*>(GetNodeForID(inID).get()));
+  boost::intrusive_ptr<Control> control(dynamic_cast<Control*>(GetNodeForID(inID).get()));
   if (!control) {
     lumcore::config::ThrowError(
         "$$$/lumcore/utility/Error/InvalidTypeConversion=Invalid type conversion.");

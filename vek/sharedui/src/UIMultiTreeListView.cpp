@@ -52,10 +52,10 @@ template <class Function>
 void ForEachNode(UIMultiTreeListNode& inTop, Function const& inFunction) {
   std::vector<HierarchyEntryBase*> waiting(1, &inTop);
   while (!waiting.empty()) {
-    HierarchyEntryBase* const entry = waiting.back();
+    HierarchyEntryBase& entry = *waiting.back();
     waiting.pop_back();
-    if (auto* const node = dynamic_cast<UIMultiTreeListNode*>(entry)) inFunction(*node);
-    for (const auto& child : entry->GetChildren()) {
+    if (auto* const node = dynamic_cast<UIMultiTreeListNode*>(&entry)) inFunction(*node);
+    for (const auto& child : entry.GetChildren()) {
       if (child) waiting.push_back(child.get());
     }
   }

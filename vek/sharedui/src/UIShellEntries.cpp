@@ -108,12 +108,6 @@ void UIShellHierarchyEntryBase::AddContentsOf(Dir const& inDir) {
   }
 }
 
-ENodeState UIShellHierarchyEntryBase::GetStoredState(UTF8String const& inKey) const {
-  UIShellTrackView const* const tree = GetShellTree();
-  lumcore::proplist::PropList const* const settings = tree ? tree->GetFolderSettings() : nullptr;
-  return settings && settings->Get<bool>(inKey, false) ? kNodeExpanded : kNodeCollapsed;
-}
-
 void UIShellHierarchyEntryBase::StoreState(UTF8String const& inKey) {
   UIShellTrackView const* const tree = GetShellTree();
   if (!tree || !tree->GetFolderSettings()) return;
@@ -149,8 +143,10 @@ Dir const* UIShellRootNode::GetDir() const {
 void UIShellRootNode::DoAddChildren() {
   if (const auto documents = FindUserDir(UserDir::kDocuments))
     Link(new UIShellMyDocsNode(*documents, this, GetJunction(), GetTreeControl()));
-  Link(new UIShellMyComputerNode(GetStoredState(UIShellMyComputerNode::GetSettingsKey()), this,
-                                 GetJunction(), GetTreeControl()));
+  UIShellTrackView const* const tree = GetShellTree();
+  const bool wasExpanded = tree && tree->WasExpanded(UIShellMyComputerNode::GetSettingsKey());
+  Link(new UIShellMyComputerNode(wasExpanded ? kNodeExpanded : kNodeCollapsed, this, GetJunction(),
+                                 GetTreeControl()));
   if (mDesktop) AddContentsOf(*mDesktop);
 }
 

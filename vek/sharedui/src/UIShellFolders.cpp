@@ -59,7 +59,7 @@ UTF16String PutInto(UTF16String const& inFormat, UTF16String const& inFirst,
 }
 
 UTF16String MakeDisplayName(Volume const& inVolume) {
-  const UTF16String path = inVolume.dir.FullPath();
+  UTF16String path = inVolume.dir.FullPath();
   std::optional<UTF16String> label = lumcore::filesupport::FindVolumeLabel(inVolume);
   if (!label) return path;
   if (label->empty()) label = Localized("$$$/vek/sharedui/UIShellView/LocalDisk=Local Disk");
@@ -74,6 +74,13 @@ bool LeadsBack(Dir const& inDir) {
   return false;
 }
 
+// Where a new folder stands: what the settings have, unless it could not open.
+hierarchyview::ENodeState GetFirstState(Dir const& inDir, TreeControlBase* inTree) {
+  auto const* const tree = dynamic_cast<UIShellTrackView const*>(inTree);
+  if (!tree || !tree->WasExpanded(MakeKey(inDir)) || LeadsBack(inDir)) return kNodeCollapsed;
+  return hierarchyview::kNodeExpanded;
+}
+
 }  // namespace
 
 UIShellDirNode::UIShellDirNode(Dir const& inDir, HierarchyEntryBase* inParent,
@@ -83,15 +90,11 @@ UIShellDirNode::UIShellDirNode(Dir const& inDir, HierarchyEntryBase* inParent,
 UIShellDirNode::UIShellDirNode(Dir const& inDir, UTF16String const& inName,
                                HierarchyEntryBase* inParent, JunctionP const& inJunction,
                                TreeControlBase* inTree)
-    : UIShellHierarchyEntryBase(kNodeCollapsed, inParent, inJunction, inTree),
+    : UIShellHierarchyEntryBase(GetFirstState(inDir, inTree), inParent, inJunction, inTree),
       mDir(inDir),
       mShellTree(dynamic_cast<UIShellTrackView*>(inTree)),
       mKey(MakeKey(inDir)),
-      mName(inName) {
-  // Past what an open entry does when its state is set: it is not linked yet.
-  if (GetStoredState(mKey) != kNodeCollapsed && CanExpand())
-    HierarchyEntryBase::SetNodeState(hierarchyview::kNodeExpanded);
-}
+      mName(inName) {}
 
 bool UIShellDirNode::CanExpand() const {
   if (!mLeadsBack) mLeadsBack = LeadsBack(mDir);

@@ -76,6 +76,10 @@ void UIShellTrackView::DoBuildHierarchy() {
   root->BuildChildList();
 }
 
+bool UIShellTrackView::WasExpanded(lumcore::UTF8String const& inKey) const {
+  return mFolderSettings && mFolderSettings->Get<bool>(inKey, false);
+}
+
 bool UIShellTrackView::ExpandAndSelectNode(Dir const& inDir) {
   if (!inDir.Exists()) return false;
   if (!GetRootEntry()) BuildHierarchy();

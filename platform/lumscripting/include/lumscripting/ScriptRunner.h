@@ -26,9 +26,9 @@ class ScriptWorker;
 // objects of the ScriptRegistry and the functions that the host adds; both run on the user
 // interface thread while the script waits. Between scripts, the listeners that they have added hear
 // the events that were queued. A script or a listener that never ends can be stopped, and a runner
-// that dies stops what it runs: neither thread hangs. The thread begins with the first script. So does
-// the engine; where it cannot be loaded, scripts fail with a lumcore::filesupport::FileError that names
-// its file.
+// that dies stops what it runs: neither thread hangs. The thread begins with the first script. So
+// does the engine; where it cannot be loaded, scripts fail with a lumcore::filesupport::FileError
+// that names its file.
 //
 // One thread makes a runner, uses it and destroys it, that of the user interface, while the
 // application object lives. What the host hands over is kept, called and destroyed there.

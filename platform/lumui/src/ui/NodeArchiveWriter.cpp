@@ -94,7 +94,7 @@ class NodeWriter {
     // A class that only the host makes keeps its name and what it has in the archive.
     const bool foreign =
         !mArchivedName.empty() && !registry.Find(lumcore::utility::ToStdString(mArchivedName));
-    mList.Set("adapter", foreign ? mArchivedName : ToUTF16(adapter->GetClassName()));
+    mList.Set("adapter", foreign ? mArchivedName : ToUTF16(adapter->GetNodeClass()));
     PropList& sections = mList.CreateSubList("sections");
     sections.Set("count", std::uint32_t(0));
     for (const PropList& section : mArchived) {
@@ -109,7 +109,7 @@ class NodeWriter {
 
  private:
   void WriteSection(const UI_NodeAdapterBase& inAdapter, PropList& outSection) {
-    const UTF16String name = ToUTF16(inAdapter.GetClassName());
+    const UTF16String name = ToUTF16(inAdapter.GetNodeClass());
     outSection.Set(kNameKey, name);
     inAdapter.GetProperties(mNode, outSection);
     if (const PropList* const archived = FindSection(mArchived, name)) {

@@ -117,14 +117,19 @@ void UI_NodeAdapterRegistry::Reset() {
 }
 
 void UI_NodeAdapterRegistry::Register(std::unique_ptr<UI_NodeAdapterBase> inAdapter) {
-  LUM_INPUT_CONTRACT(inAdapter && !Find(inAdapter->GetClassName()));
+  LUM_INPUT_CONTRACT(inAdapter && !Find(inAdapter->GetNodeClass()));
   LUM_INPUT_CONTRACT(mAdapters.empty() || Find(inAdapter->GetBaseName()));
   mAdapters.push_back(std::move(inAdapter));
 }
 
+void UI_NodeAdapterRegistry::RegisterIfNew(std::unique_ptr<UI_NodeAdapterBase> inAdapter) {
+  LUM_INPUT_CONTRACT(inAdapter.get() != nullptr);
+  if (!Find(inAdapter->GetNodeClass())) Register(std::move(inAdapter));
+}
+
 const UI_NodeAdapterBase* UI_NodeAdapterRegistry::Find(const std::string& inClassName) const {
   for (const auto& adapter : mAdapters) {
-    if (adapter->GetClassName() == inClassName) return adapter.get();
+    if (adapter->GetNodeClass() == inClassName) return adapter.get();
   }
   return nullptr;
 }

@@ -32,7 +32,7 @@ class LUMUI_API UI_NodeAdapterBase {
   UI_NodeAdapterBase(const UI_NodeAdapterBase&) = delete;
   UI_NodeAdapterBase& operator=(const UI_NodeAdapterBase&) = delete;
 
-  const std::string& GetClassName() const { return mClassName; }
+  const std::string& GetNodeClass() const { return mClassName; }
   const std::string& GetBaseName() const { return mBaseName; }
 
   // Null for a class that is only a base of others.
@@ -144,6 +144,8 @@ class LUMUI_API UI_NodeAdapterRegistry {
   // The name and that of the base, which is registered first, are contracts: the one is new, the
   // other is known.
   void Register(std::unique_ptr<UI_NodeAdapterBase> inAdapter);
+  // Nothing where the name is known already.
+  void RegisterIfNew(std::unique_ptr<UI_NodeAdapterBase> inAdapter);
   const UI_NodeAdapterBase* Find(const std::string& inClassName) const;  // null if there is none
   // Of those that fit the node, the one with the most bases. Never null.
   const UI_NodeAdapterBase& FindFor(const UI_Node& inNode) const;
