@@ -86,10 +86,10 @@ int AccessibleRows::CountRowsTo(HierarchyEntryBase const* inEntry) const {
   return inEntry ? -1 : count;
 }
 
-AccessibleRows::Row AccessibleRows::FindRow(ID inItem) const {
+HierarchyGeometry::iterator AccessibleRows::FindRow(ID inItem) const {
   const auto serial = static_cast<std::uint32_t>(inItem >> kSerialShift);
   HierarchyEntryBase const* const entry = HierarchyEntryBase::FindSerial(serial);
-  return IsHidden(entry) ? Row() : GetControl().FindRow(entry);
+  return IsHidden(entry) ? HierarchyGeometry::iterator() : GetControl().FindRow(entry);
 }
 
 int AccessibleRows::GetAccessibleChildCount(ID inParent) const {
@@ -110,7 +110,7 @@ ID AccessibleRows::GetAccessibleParent(ID inItem) const {
 }
 
 int AccessibleRows::GetAccessibleIndex(ID inItem) const {
-  const Row row = FindRow(inItem);
+  const HierarchyGeometry::iterator row = FindRow(inItem);
   if (!*row) return -1;
   const std::uint32_t cell = CellOf(inItem);
   if (cell == 0) return CountRowsTo(*row);
@@ -119,7 +119,7 @@ int AccessibleRows::GetAccessibleIndex(ID inItem) const {
 }
 
 bool AccessibleRows::DescribeAccessible(ID inItem, AccessibleItem& outItem) const {
-  const Row row = FindRow(inItem);
+  const HierarchyGeometry::iterator row = FindRow(inItem);
   if (!*row) return false;
   const auto held = HoldEntry(*row);
   const std::uint32_t cell = CellOf(inItem);
@@ -133,14 +133,15 @@ bool AccessibleRows::DescribeAccessible(ID inItem, AccessibleItem& outItem) cons
 }
 
 // As far as the row and its text go, in the height of the row.
-Rect AccessibleRows::GetRowRect(Row const& inRow) const {
+Rect AccessibleRows::GetRowRect(HierarchyGeometry::iterator const& inRow) const {
   TreeControlBase& control = GetControl();
   const Rect row = control.GetGeometry()->EntryArea(inRow);
   const Rect area = row.Join(control.GetHighlightRect(inRow));
   return Rect(area.x, row.y, area.width, row.height);
 }
 
-void AccessibleRows::DescribeRow(Row const& inRow, AccessibleItem& outItem) const {
+void AccessibleRows::DescribeRow(HierarchyGeometry::iterator const& inRow,
+                                 AccessibleItem& outItem) const {
   using namespace lumui::ui;
   const TreeControlBase& control = GetControl();
   HierarchyEntryBase& entry = **inRow;
@@ -168,7 +169,7 @@ void AccessibleRows::DescribeRow(Row const& inRow, AccessibleItem& outItem) cons
   }
 }
 
-void AccessibleRows::DescribeCell(Row const& inRow, unsigned short inColumn,
+void AccessibleRows::DescribeCell(HierarchyGeometry::iterator const& inRow, unsigned short inColumn,
                                   AccessibleItem& outItem) const {
   MultiColumnView const& columns = *GetColumns();
   const Rect row = GetControl().GetGeometry()->EntryArea(inRow);
@@ -183,7 +184,7 @@ ID AccessibleRows::GetAccessibleAt(const Point& inDataPoint) const {
   const TreeControlBase& control = GetControl();
   if (!control.HasRows()) return kRoot;
   HierarchyGeometry& geometry = *control.GetGeometry();
-  Row row = geometry.FindEntry(inDataPoint);
+  HierarchyGeometry::iterator row = geometry.FindEntry(inDataPoint);
   if (row == geometry.end()) return kRoot;
   // A point on the line between two rows finds the upper one.
   if (geometry.EntryArea(row).Bottom() <= inDataPoint.y && ++row == geometry.end()) return kRoot;

@@ -41,17 +41,16 @@ class VEK_API AccessibleRows : public trackview::AccessibleOverlay {
   void AnnounceSelection() const;
 
  private:
-  using Row = HierarchyGeometry::iterator;
-
   TreeControlBase& GetControl() const;
   MultiColumnView const* GetColumns() const;  // null for a tree without
   bool IsHidden(HierarchyEntryBase const* inEntry) const;
   int CountHidden() const;
   int CountRowsTo(HierarchyEntryBase const* inEntry) const;
-  Row FindRow(ID inItem) const;  // on null for none
-  trackview::Rect GetRowRect(Row const& inRow) const;
-  void DescribeRow(Row const& inRow, lumui::ui::AccessibleItem& outItem) const;
-  void DescribeCell(Row const& inRow, unsigned short inColumn,
+  HierarchyGeometry::iterator FindRow(ID inItem) const;  // on null for none
+  trackview::Rect GetRowRect(HierarchyGeometry::iterator const& inRow) const;
+  void DescribeRow(HierarchyGeometry::iterator const& inRow,
+                   lumui::ui::AccessibleItem& outItem) const;
+  void DescribeCell(HierarchyGeometry::iterator const& inRow, unsigned short inColumn,
                     lumui::ui::AccessibleItem& outItem) const;
 };
 
