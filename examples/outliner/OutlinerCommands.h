@@ -55,6 +55,10 @@ enum Command : int {
   kCommandMapActualSize,
   kCommandMapFit,
   kCommandMapGoToRow,
+  kCommandFind,
+  kCommandExpandAll,
+  kCommandCollapseAll,
+  kCommandOutlineOrder,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

@@ -45,7 +45,7 @@ const Items& EditItems() {
   static const Items sItems = {
       kCommandUndo,     kCommandRedo,     kSeparator, kCommandNewSibling, kCommandNewChild,
       kCommandEditText, kCommandDelete,   kSeparator, kCommandIndent,     kCommandOutdent,
-      kCommandMoveUp,   kCommandMoveDown, kSeparator, kCommandSelectAll};
+      kCommandMoveUp,   kCommandMoveDown, kSeparator, kCommandSelectAll,  kCommandFind};
   return sItems;
 }
 
@@ -62,6 +62,10 @@ const Items& ViewItems() {
                                kCommandShowCommands,
                                kCommandShowMap,
                                kMapHere,
+                               kSeparator,
+                               kCommandExpandAll,
+                               kCommandCollapseAll,
+                               kCommandOutlineOrder,
                                kSeparator,
                                kCommandNextDocument,
                                kCommandPreviousDocument,
