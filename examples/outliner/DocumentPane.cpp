@@ -34,6 +34,7 @@ namespace {
 
 constexpr float kFindHeight = 26;
 constexpr float kFindMargin = 6;
+constexpr float kFindLeft = 18;  // below the title
 constexpr float kFindBand = kFindHeight + 2 * kFindMargin;
 constexpr float kMostFindWidth = 360;
 

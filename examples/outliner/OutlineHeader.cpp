@@ -3,6 +3,7 @@
 
 #include "OutlineHeader.h"
 
+#include "MapTools.h"
 #include "OutlineTreeList.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
@@ -25,6 +26,15 @@ void OutlineHeader::HandleClickInColumn(unsigned short inColumn) {
     mList.UnsortRows();
   }
   GetTrackView()->GetPlatformView().InvalidateDataRect(GetTrackView()->DataArea());
+}
+
+std::auto_ptr<vek::trackview::Tracker> OutlineHeader::DoAcquireTracker(
+    const Point& inDataPoint, bool inHover,
+    vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) {
+  if (inDragAndDrop || (!inHover && !IsLeftPress(*GetTrackView()))) {
+    return std::auto_ptr<vek::trackview::Tracker>();
+  }
+  return MultiColumnHeaderView::DoAcquireTracker(inDataPoint, inHover, inDragAndDrop);
 }
 
 }  // namespace outliner

@@ -43,7 +43,7 @@ constexpr std::size_t kAtEnd = static_cast<std::size_t>(-1);
 constexpr float kLeastText = 120;
 constexpr float kLeastOther = 30;
 constexpr float kTypeWidth = 70;
-constexpr float kCreatedWidth = 190;
+constexpr float kCreatedWidth = 215;
 constexpr float kLinksWidth = 200;
 constexpr float kOtherWidth = 110;
 
