@@ -55,6 +55,12 @@ enum Command : int {
   kCommandMapActualSize,
   kCommandMapFit,
   kCommandMapGoToRow,
+  kCommandShortcuts,
+  kCommandKeyboardMap,
+  kCommandOwnFileDialog,
+  kCommandShowFiles,
+  kCommandShowConsole,
+  kCommandShowNodes,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the
