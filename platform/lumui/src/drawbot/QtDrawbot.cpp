@@ -52,11 +52,12 @@ bool IsVisible(const Pen& inPen) {
   return inPen.width > 0 && inPen.color.alpha > 0;
 }
 
-// A picture that is drawn pixel for pixel is moved to whole pixels, since between them it blurs.
-QRectF SnapIfUnscaled(const QRectF& inDevice, const QSize& inPixels) {
-  const bool unscaled = std::abs(inDevice.width() - inPixels.width()) < kPixelTolerance &&
-                        std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
-  if (!unscaled) return inDevice;
+bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
+  return std::abs(inDevice.width() - inPixels.width()) < kPixelTolerance &&
+         std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
+}
+
+QRectF OnWholePixels(const QRectF& inDevice, const QSize& inPixels) {
   return QRectF(QPointF(std::round(inDevice.x()), std::round(inDevice.y())), QSizeF(inPixels));
 }
 
@@ -214,8 +215,17 @@ void QtDrawbot::DrawRaster(const ImageInterface& inImage, const Rect& inRect,
   }
   const qreal opacity = mPainter.opacity();
   mPainter.setOpacity(opacity * std::min(inOpacity, 1.0f));
-  const QRectF target = SnapIfUnscaled(device, raster.size());
-  mPainter.drawImage(toDevice.inverted().mapRect(target), raster);
+  if (IsPixelForPixel(device, raster.size())) {
+    // On whole pixels, since between them it blurs. There is nothing to smooth then, and with the
+    // hints the painter would take its slow road all the same.
+    const auto hints = mPainter.renderHints();
+    mPainter.setRenderHints(hints, false);
+    const QRectF target = OnWholePixels(device, raster.size());
+    mPainter.drawImage(toDevice.inverted().mapRect(target), raster);
+    mPainter.setRenderHints(hints);
+  } else {
+    mPainter.drawImage(toDevice.inverted().mapRect(device), raster);
+  }
   mPainter.setOpacity(opacity);
 }
 
