@@ -57,10 +57,6 @@ bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
          std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
 }
 
-QRectF OnWholePixels(const QRectF& inDevice, const QSize& inPixels) {
-  return QRectF(QPointF(std::round(inDevice.x()), std::round(inDevice.y())), QSizeF(inPixels));
-}
-
 }  // namespace
 
 QtDrawbot::QtDrawbot(QPainter& inPainter, const lumcore::geom::RectT<float>& inClipBounds)
@@ -213,20 +209,32 @@ void QtDrawbot::DrawRaster(const ImageInterface& inImage, const Rect& inRect,
     tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
     tint.fillRect(raster.rect(), ToQt(*inTint));
   }
+  // Each change of the painter's state costs about as much as a small picture.
+  const bool isFaint = inOpacity < 1;
   const qreal opacity = mPainter.opacity();
-  mPainter.setOpacity(opacity * std::min(inOpacity, 1.0f));
+  if (isFaint) mPainter.setOpacity(opacity * inOpacity);
   if (IsPixelForPixel(device, raster.size())) {
-    // On whole pixels, since between them it blurs. There is nothing to smooth then, and with the
-    // hints the painter would take its slow road all the same.
-    const auto hints = mPainter.renderHints();
-    mPainter.setRenderHints(hints, false);
-    const QRectF target = OnWholePixels(device, raster.size());
-    mPainter.drawImage(toDevice.inverted().mapRect(target), raster);
-    mPainter.setRenderHints(hints);
+    DrawPixels(raster, device, toDevice);
   } else {
-    mPainter.drawImage(toDevice.inverted().mapRect(device), raster);
+    mPainter.drawImage(ToQt(inRect), raster);
   }
-  mPainter.setOpacity(opacity);
+  if (isFaint) mPainter.setOpacity(opacity);
+}
+
+// On whole pixels, since between them it blurs. There is nothing to smooth then, and with the hints
+// the painter would take its slow road all the same.
+void QtDrawbot::DrawPixels(const QImage& inRaster, const QRectF& inDevice,
+                           const QTransform& inToDevice) {
+  const QPointF origin(std::round(inDevice.x()), std::round(inDevice.y()));
+  const auto hints = mPainter.renderHints();
+  mPainter.setRenderHints(hints, false);
+  if (inToDevice.type() <= QTransform::TxTranslate) {
+    mPainter.drawImage(origin - QPointF(inToDevice.dx(), inToDevice.dy()), inRaster);
+  } else {
+    const QRectF target(origin, QSizeF(inRaster.size()));
+    mPainter.drawImage(inToDevice.inverted().mapRect(target), inRaster);
+  }
+  mPainter.setRenderHints(hints);
 }
 
 SupplierInterface* QtDrawbot::GetSupplier() const {
