@@ -311,9 +311,9 @@ void OutlineList::FocusChanged() {
 void OutlineList::OpenRowMenu(const vek::trackview::Point& inLocalPoint) {
   vek::trackview::Point place = inLocalPoint;
   mView->LocalToGlobal(place);
-  const Rect& window = mView->UI_GetWindowNode()->UI_GetLocalRectF();
-  mFunctions.openRowMenu(
-      {static_cast<int>(place.x + window.x), static_cast<int>(place.y + window.y)});
+  lumcore::geom::PointT<int> onScreen(static_cast<int>(place.x), static_cast<int>(place.y));
+  mView->UI_GetWindowNode()->UI_WindowToScreen(onScreen);
+  mFunctions.openRowMenu(onScreen);
 }
 
 bool OutlineList::Type(unsigned short inUnit) {
