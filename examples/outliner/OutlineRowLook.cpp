@@ -97,7 +97,11 @@ void OutlineRowLook::DrawCell(Drawbot& ioDrawbot, unsigned short inColumn, const
   UTF16String text = GetText(attribute);
   std::replace(text.begin(), text.end(), static_cast<unsigned short>('\n'),
                static_cast<unsigned short>(' '));
-  const FontP font = isComment ? mList.GetItalicFont() : GetFont();
+  // The branches of the first level are the headings of the outline.
+  const bool isHeading = isText && inRow.GetChildCount() > 0 && !inRow.GetParent()->GetParent();
+  const FontP font = isComment   ? mList.GetFontOf(FontStyle::kItalic)
+                     : isHeading ? mList.GetFontOf(FontStyle::kBold)
+                                 : GetFont();
   const ColorRGBA ink = inIsMarked             ? palette::SelectionInk()
                         : isText && !isComment ? palette::RowInk()
                                                : palette::FaintInk();

@@ -78,9 +78,8 @@ OutlineTreeList::CreateRowGeometryFactory() {
   return std::auto_ptr<vek::hierarchyview::TreeRowGeometryFactory>(new OutlineRowLooks(*this));
 }
 
-lumui::drawbot::FontP OutlineTreeList::GetItalicFont() {
-  return lumui::drawbot::GetDefaultSupplier()->NewFont(nullptr, GetFont()->GetSize(),
-                                                       lumui::drawbot::FontStyle::kItalic);
+lumui::drawbot::FontP OutlineTreeList::GetFontOf(lumui::drawbot::FontStyle inStyle) {
+  return lumui::drawbot::GetDefaultSupplier()->NewFont(nullptr, GetFont()->GetSize(), inStyle);
 }
 
 void OutlineTreeList::InvalidateAll() {

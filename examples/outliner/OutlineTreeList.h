@@ -55,7 +55,7 @@ class OutlineTreeList final : public vek::hierarchyview::TreeListControlBase {
   OutlineDocument* GetDocument() const { return mDocument; }     // null behind Detach
   OutlineEntries* GetEntries() const { return mEntries.get(); }  // the same
   bool HasKeyboard() const { return mFunctions.hasKeyboard(); }
-  lumui::drawbot::FontP GetItalicFont();
+  lumui::drawbot::FontP GetFontOf(lumui::drawbot::FontStyle inStyle);
 
   void DocumentChanged();
   void DocumentSelectionChanged();
