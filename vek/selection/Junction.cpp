@@ -1,11 +1,13 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include "vek/selection/Junction.h"
+#include "vek/selection/KnowingJunction.h"
 
 namespace vek::selection {
 
 Junction::~Junction() = default;
+
+KnowingJunction::~KnowingJunction() = default;
 
 std::list<Node*> Junction::DefaultSelectables() {
   return {};

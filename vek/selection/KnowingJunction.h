@@ -12,6 +12,9 @@ namespace vek::selection {
 // asks for those that are selected one by one, and not for the list of all.
 class VEK_API KnowingJunction : public Junction {
  public:
+  // Out of line, so that the class is one and the same in all modules.
+  ~KnowingJunction() override;
+
   // The node may be gone for long: only its address may be looked at until it is found to live.
   virtual bool Knows(const Node* inNode) = 0;
 };
