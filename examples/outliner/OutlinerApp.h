@@ -10,6 +10,7 @@
 
 #include "ApplicationCommands.h"
 #include "CommandSystem.h"
+#include "ListCommands.h"
 #include "MapCommands.h"
 #include "lumcore/filesupport/File.h"
 #include "vek/app/MultiDocApplication.h"
@@ -25,6 +26,7 @@ class WorkspacesCmdAttachment;
 namespace outliner {
 
 class DocumentFrame;
+class DocumentPane;
 class OutlineDocument;
 class OutlinerMenus;
 
@@ -76,7 +78,8 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   // brought to the front and gets the keyboard.
   bool IsPanelInFront(int inCommand) const;
   void TogglePanel(int inCommand);
-  MapPane* FindMap() const;  // null while none is in front
+  MapPane* FindMap() const;        // null while none is in front
+  DocumentPane* FindPane() const;  // of the current document, or null
   // Puts the panels of a built-in workspace back, if the user agrees.
   bool CanResetWorkspace() const;
   void ResetWorkspace();
@@ -142,6 +145,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   std::unique_ptr<CommandSystem> mCommandSystem;
   ApplicationCommands mCommands{*this};
   MapCommands mMapCommands{[this] { return FindMap(); }};
+  ListCommands mListCommands{[this] { return FindPane(); }, [this] { ShowOutlinePanel(); }};
   std::unique_ptr<OutlinerMenus> mMenus;
   std::unique_ptr<vek::workspaceutils::WorkspacesCmdAttachment> mWorkspaceCommands;
   boost::intrusive_ptr<DocumentFrame> mFrame;

@@ -61,6 +61,10 @@ enum Command : int {
   kCommandShowFiles,
   kCommandShowConsole,
   kCommandShowNodes,
+  kCommandFind,
+  kCommandExpandAll,
+  kCommandCollapseAll,
+  kCommandOutlineOrder,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

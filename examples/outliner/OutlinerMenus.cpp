@@ -44,10 +44,10 @@ const Items& FileItems() {
 
 const Items& EditItems() {
   static const Items sItems = {
-      kCommandUndo,      kCommandRedo,       kSeparator, kCommandNewSibling, kCommandNewChild,
-      kCommandEditText,  kCommandDelete,     kSeparator, kCommandIndent,     kCommandOutdent,
-      kCommandMoveUp,    kCommandMoveDown,   kSeparator, kCommandSelectAll,  kSeparator,
-      kCommandShortcuts, kCommandKeyboardMap};
+      kCommandUndo,     kCommandRedo,      kSeparator,         kCommandNewSibling, kCommandNewChild,
+      kCommandEditText, kCommandDelete,    kSeparator,         kCommandIndent,     kCommandOutdent,
+      kCommandMoveUp,   kCommandMoveDown,  kSeparator,         kCommandSelectAll,  kCommandFind,
+      kSeparator,       kCommandShortcuts, kCommandKeyboardMap};
   return sItems;
 }
 
@@ -67,6 +67,10 @@ const Items& ViewItems() {
                                kCommandShowFiles,
                                kCommandShowConsole,
                                kCommandShowNodes,
+                               kSeparator,
+                               kCommandExpandAll,
+                               kCommandCollapseAll,
+                               kCommandOutlineOrder,
                                kSeparator,
                                kCommandNextDocument,
                                kCommandPreviousDocument,
