@@ -211,8 +211,9 @@ void OutlineTreeList::Step(bool inDown) {
     }
   }
   if (!target) return;
+  const OutlineRow::Id id = static_cast<OutlineEntry*>(target)->GetRowId();
   DoSelectEntry(target, false);
-  RevealIfNotVisible(target);
+  if (Entry* const entry = mDocument ? mEntries->Find(id) : nullptr) RevealIfNotVisible(entry);
 }
 
 void OutlineTreeList::SelectAllShown() {
@@ -312,6 +313,7 @@ void OutlineTreeList::DoDeselectAll() {
   if (mDocument) mDocument->SelectRows({});
 }
 
+// The selection may let rows in, and then all entries are others.
 void OutlineTreeList::DoSelectEntry(Entry* inEntry, bool inExtend) {
   // Before the selection changes: what is committed selects its own row.
   mDocument->CommitTyping();
@@ -322,7 +324,8 @@ void OutlineTreeList::DoSelectEntry(Entry* inEntry, bool inExtend) {
   } else {
     mDocument->SelectRows({row});
   }
-  if (mDocument && mDocument->IsSelected(*row)) SetFocusItem(inEntry, true);
+  if (!mDocument || !mDocument->IsSelected(*row)) return;
+  if (Entry* const entry = mEntries->Find(row->GetId())) SetFocusItem(entry, true);
 }
 
 void OutlineTreeList::DoToggleEntrySelectionState(EntryList& ioEntries) {

@@ -192,7 +192,7 @@ TEST(CommandsPanel, SaysWhatTheChainSaysAndRunsWhatIsChosen) {
   AccessibleItem row;
   ASSERT_TRUE(
       list->UI_GetAccessibleItems()->Describe(list->UI_GetAccessibleItems()->GetAt({5, 5}), row));
-  EXPECT_EQ(ToStdString(row.name + row.value), "Next OutlineCtrl+Tab");
+  EXPECT_EQ(ToStdString(row.name + row.value), "Next OutlineCtrl+Tab, Ctrl+Page Down");
   EXPECT_TRUE(row.states & kAccessibleDisabled);
   EXPECT_FALSE(row.actions & kAccessiblePress);
   list->SetFilter(ToUTF16("all commands"));
