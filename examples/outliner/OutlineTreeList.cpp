@@ -211,9 +211,8 @@ void OutlineTreeList::Step(bool inDown) {
     }
   }
   if (!target) return;
-  const OutlineRow::Id id = static_cast<OutlineEntry*>(target)->GetRowId();
   DoSelectEntry(target, false);
-  if (Entry* const entry = mDocument ? mEntries->Find(id) : nullptr) RevealIfNotVisible(entry);
+  RevealIfNotVisible(target);
 }
 
 void OutlineTreeList::SelectAllShown() {
@@ -313,7 +312,6 @@ void OutlineTreeList::DoDeselectAll() {
   if (mDocument) mDocument->SelectRows({});
 }
 
-// The selection may let rows in, and then all entries are others.
 void OutlineTreeList::DoSelectEntry(Entry* inEntry, bool inExtend) {
   // Before the selection changes: what is committed selects its own row.
   mDocument->CommitTyping();
@@ -324,8 +322,7 @@ void OutlineTreeList::DoSelectEntry(Entry* inEntry, bool inExtend) {
   } else {
     mDocument->SelectRows({row});
   }
-  if (!mDocument || !mDocument->IsSelected(*row)) return;
-  if (Entry* const entry = mEntries->Find(row->GetId())) SetFocusItem(entry, true);
+  if (mDocument && mDocument->IsSelected(*row)) SetFocusItem(inEntry, true);
 }
 
 void OutlineTreeList::DoToggleEntrySelectionState(EntryList& ioEntries) {
