@@ -57,7 +57,7 @@ Kind* As(lumui::ui::UI_Node* inNode) {
 
 // In units; the names get what the others leave.
 float GetFirstWidth(unsigned short inColumn) {
-  constexpr float kWidths[] = {200, 60, 70, 110};
+  constexpr float kWidths[] = {200, 48, 52, 108};
   return inColumn < std::size(kWidths) ? kWidths[inColumn] : 100;
 }
 
