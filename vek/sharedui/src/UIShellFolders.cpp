@@ -44,7 +44,7 @@ UTF8String MakeKey(Dir const& inDir) {
 }
 
 UTF16String MakeDisplayName(Volume const& inVolume) {
-  const UTF16String path = inVolume.dir.FullPath();
+  UTF16String path = inVolume.dir.FullPath();
   std::optional<UTF16String> label = lumcore::filesupport::FindVolumeLabel(inVolume);
   if (!label) return path;
   if (label->empty()) label = Localized("$$$/vek/sharedui/UIShellView/LocalDisk=Local Disk");
