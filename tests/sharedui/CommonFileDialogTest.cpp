@@ -178,6 +178,26 @@ TEST_F(FileDialogs, ChooseByThePointer) {
   EXPECT_EQ(State(), "a.txt *B.doc b.txt | B.doc OK");
 }
 
+TEST_F(FileDialogs, ChooseByTheKeyboardAlone) {
+  Make("in");
+  std::string log;
+  const auto tap = [&](unsigned short inCode) {
+    input::TapKey(*mDialog, KeyboardCode::CreateFromControlCode(inCode, false));
+    log += State() + "; ";
+  };
+  EXPECT_EQ(Run([&] {
+              tap(KeyboardCode::kTab);
+              tap(KeyboardCode::kDownArrow);
+              tap(KeyboardCode::kDownArrow);
+              tap(KeyboardCode::kReturn);
+            }),
+            UI_Dialog::kOK);
+  EXPECT_EQ(
+      log,
+      "a.txt B.doc b.txt |  OK; *a.txt B.doc b.txt | a.txt OK; a.txt *B.doc b.txt | B.doc OK; "
+      "a.txt *B.doc b.txt | B.doc OK; ");
+}
+
 TEST_F(FileDialogs, KeepWhatIsTyped) {
   Make("in", "in/a.txt");
   std::string log;
