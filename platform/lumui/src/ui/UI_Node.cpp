@@ -279,7 +279,7 @@ void UI_Node::UI_Invalidate(const lumcore::geom::RectT<int>& inRect,
 }
 
 void UI_Node::UI_InvalidateAll() {
-  if (QWidget* const widget = mPeer->GetWidget()) widget->update();
+  mPeer->InvalidateAll();
 }
 
 void UI_Node::UI_UpdateNow(lumcore::utility::Flags<unsigned int>) {
@@ -295,7 +295,8 @@ void UI_Node::UI_LocalToGlobal(lumcore::geom::PointT<int>& ioPoint) const {
   const QWidget* const widget = mPeer->GetWidget();
   if (top && widget && top->isAncestorOf(widget)) {
     const QPoint point = widget->mapTo(top, QPoint(ioPoint.x, ioPoint.y));
-    ioPoint = lumcore::geom::PointT<int>(point.x(), point.y());
+    ioPoint =
+        lumcore::geom::PointT<int>(point.x(), point.y() - window->GetPeer()->GetChromeHeight());
     return;
   }
   for (const UI_Node* node = this; node->mParent && node != window; node = node->mParent) {
