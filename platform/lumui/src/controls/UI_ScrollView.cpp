@@ -157,14 +157,18 @@ bool UI_ScrollView::MoveTo(const Point& inWanted) {
   return true;
 }
 
-// False where everything is to be drawn anew, and nothing has seen to that yet: between whole units
-// the picture cannot be moved.
+// False where everything is to be drawn anew, and nothing has seen to that yet. A picture moves by
+// whole pixels from whole pixels, which is more than whole units where the screen has parts of
+// pixels in a unit; and what has uncovered a part of it may not have been drawn there yet.
 bool UI_ScrollView::MovePicture(const Point& inOldOffset) {
   QWidget* const widget = mContent->GetPeer()->GetWidget();
   const Point way = inOldOffset - mOffset;
   const Point size = GetViewSize();
-  if (!mMovesPicture || !widget || way.x != std::floor(way.x) || way.y != std::floor(way.y) ||
-      std::abs(way.x) >= size.x || std::abs(way.y) >= size.y) {
+  const bool isWhole =
+      widget && widget->devicePixelRatioF() == std::floor(widget->devicePixelRatioF());
+  if (!mMovesPicture || !isWhole || !mContent->GetPeer()->HasItsPlaceOnScreen() ||
+      way.x != std::floor(way.x) || way.y != std::floor(way.y) || std::abs(way.x) >= size.x ||
+      std::abs(way.y) >= size.y) {
     return false;
   }
   if (mContent->GetPeer()->IsAllInvalid()) return true;

@@ -217,6 +217,7 @@ void NodePeer::Paint(const QRegion& inDamage) {
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   QWidget* const widget = mWidget;
   mIsAllInvalid = false;
+  NotePlaces();
   const QRect drawn = widget->rect().adjusted(0, mChromeHeight, 0, 0);
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
