@@ -8,6 +8,7 @@ vek_test(outliner_tests
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
+    hosts/OutlineListTest.cpp
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
     hosts/PanelsTest.cpp
@@ -15,6 +16,8 @@ vek_test(outliner_tests
     hosts/ScriptRunTest.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
+vek_embed_resources(outliner_tests
+  FILES ${PROJECT_SOURCE_DIR}/examples/outliner/resources/DefaultKeyMap.xml)
 
 add_test(NAME outliner_program COMMAND ${CMAKE_COMMAND}
   -DPROGRAM=$<TARGET_FILE:vek_outliner> -DSOURCE_DIR=${PROJECT_SOURCE_DIR}

@@ -34,6 +34,7 @@ namespace {
 constexpr int kMenuBar = 1;
 constexpr int kRecentFiles = 10;
 constexpr const char* kBrightnessKey = "brightness";
+constexpr const char* kColumnsKey = "outline columns";
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -51,9 +52,11 @@ OutlinerApp::OutlinerApp(const Options& inOptions) : mOptions(inOptions) {
   SetMaximumRecentFiles(kRecentFiles);
   AddAttachment(&mCommands);
   AddAttachment(&mMapCommands);
+  AddAttachment(&mListCommands);
 }
 
 OutlinerApp::~OutlinerApp() {
+  RemoveAttachment(&mListCommands);
   RemoveAttachment(&mMapCommands);
   RemoveAttachment(&mCommands);
 }
@@ -125,8 +128,7 @@ void OutlinerApp::RegisterApplicationCommands() {
 // The registry is loaded by now, which a key map takes its commands from. The workspace that the
 // base applies wants the frame of the documents for its panel.
 bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
-  mCommandSystem->LoadKeys();
-  if (!mOptions.keys.empty()) mCommandSystem->LoadUserKeys(File(mOptions.keys));
+  LoadKeys();
   if (const float* const brightness = GetAppSettings().Find<float>(kBrightnessKey)) {
     SetBrightness(*brightness);
   }
@@ -136,12 +138,30 @@ bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
   return true;
 }
 
+// A map that was named for this run stands for the user's own set.
+void OutlinerApp::LoadKeys() {
+  mCommandSystem->LoadKeys();
+  const UTF16String set = GetAppSettings().Get(kCurrentSetKey, UTF16String());
+  if (!mOptions.keys.empty()) {
+    mCommandSystem->LoadUserKeys(File(mOptions.keys));
+  } else if (!set.empty()) {
+    mCommandSystem->LoadUserSet(set);
+  }
+}
+
 void OutlinerApp::MakeFrame() {
   DocumentFrame::Functions functions;
   functions.show = [this](OutlineDocument& inDocument) { ShowOutline(inDocument); };
   functions.close = [this](OutlineDocument& inDocument) { CloseOutline(inDocument); };
   functions.openRowMenu = [this](const auto& inPlace) {
     mMenus->OpenRowMenu(*FindMainWindow(), inPlace);
+  };
+  functions.getColumns = [this] {
+    const auto* const columns = GetAppSettings().Find<UTF16String>(kColumnsKey);
+    return columns ? *columns : UTF16String();
+  };
+  functions.keepColumns = [this](const UTF16String& inColumns) {
+    GetAppSettings().Set(kColumnsKey, inColumns);
   };
   functions.stateChanged = [this] { DocumentStateChanged(); };
   mFrame.reset(new DocumentFrame(functions));
@@ -213,6 +233,7 @@ void OutlinerApp::LoadAppSettings() {
 // What cannot be written must not keep the program from ending.
 void OutlinerApp::SaveAppSettings() {
   if (!mSettingsAreRead) return;
+  KeepFilesPlace();
   try {
     MultiDocApplication::SaveAppSettings();
   } catch (...) {  // the user hears of it, once

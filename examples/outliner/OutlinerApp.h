@@ -10,6 +10,7 @@
 
 #include "ApplicationCommands.h"
 #include "CommandSystem.h"
+#include "ListCommands.h"
 #include "MapCommands.h"
 #include "lumcore/filesupport/File.h"
 #include "vek/app/MultiDocApplication.h"
@@ -25,6 +26,7 @@ class WorkspacesCmdAttachment;
 namespace outliner {
 
 class DocumentFrame;
+class DocumentPane;
 class OutlineDocument;
 class OutlinerMenus;
 
@@ -67,6 +69,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
 
   OutlineDocument* GetOutline() const;  // the current one, or null
   std::vector<OutlineDocument*> GetOutlines() const;
+  lumcore::UTF16String GetFolderOfOutline() const;           // empty where it has no file
   std::vector<lumcore::UTF16String> GetRecentFiles() const;  // most recent first
   // From 0, the darkest, to 1; kept in the settings.
   void SetBrightness(float inBrightness);
@@ -75,7 +78,8 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   // brought to the front and gets the keyboard.
   bool IsPanelInFront(int inCommand) const;
   void TogglePanel(int inCommand);
-  MapPane* FindMap() const;  // null while none is in front
+  MapPane* FindMap() const;        // null while none is in front
+  DocumentPane* FindPane() const;  // of the current document, or null
   // Puts the panels of a built-in workspace back, if the user agrees.
   bool CanResetWorkspace() const;
   void ResetWorkspace();
@@ -127,8 +131,12 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   std::unique_ptr<OutlineDocument> Make(const File& inFile);
   OutlineDocument* FindOutline(const File& inFile) const;  // null where none has it
   void CheckFileOf(const OutlineDocument& inDocument, const File& inFile) const;
+  void LoadKeys();
   void MakeFrame();
   void ShowOutlinePanel();
+  void RegisterToolPanels(lumworkspace::workspace::Workspace& ioWorkspace);
+  lumcore::proplist::PropList& GetFilesSettings();
+  void KeepFilesPlace() const;
   void RunFromList(int inCommand);
   void DocumentStateChanged();
   void RemoveWorkspaceCommands();
@@ -137,6 +145,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   std::unique_ptr<CommandSystem> mCommandSystem;
   ApplicationCommands mCommands{*this};
   MapCommands mMapCommands{[this] { return FindMap(); }};
+  ListCommands mListCommands{[this] { return FindPane(); }, [this] { ShowOutlinePanel(); }};
   std::unique_ptr<OutlinerMenus> mMenus;
   std::unique_ptr<vek::workspaceutils::WorkspacesCmdAttachment> mWorkspaceCommands;
   boost::intrusive_ptr<DocumentFrame> mFrame;

@@ -55,6 +55,16 @@ enum Command : int {
   kCommandMapActualSize,
   kCommandMapFit,
   kCommandMapGoToRow,
+  kCommandShortcuts,
+  kCommandKeyboardMap,
+  kCommandOwnFileDialog,
+  kCommandShowFiles,
+  kCommandShowConsole,
+  kCommandShowNodes,
+  kCommandFind,
+  kCommandExpandAll,
+  kCommandCollapseAll,
+  kCommandOutlineOrder,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <string>
 
+#include "CommandList.h"
 #include "OutlinerCommands.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Menu.h"
-#include "vek/uisupport/CommandRegistry.h"
 #include "vek/uisupport/PlatformMenu.h"
 
 namespace outliner {
@@ -35,17 +35,19 @@ constexpr unsigned kNothing = kRecentFilesEnd;
 using Items = std::vector<int>;
 
 const Items& FileItems() {
-  static const Items sItems = {kCommandNew,      kCommandOpen,   kRecentFilesHere, kSeparator,
-                               kCommandSave,     kCommandSaveAs, kSeparator,       kCommandClose,
-                               kCommandCloseAll, kSeparator,     kCommandQuit};
+  static const Items sItems = {
+      kCommandNew,      kCommandOpen, kRecentFilesHere,      kSeparator, kCommandSave,
+      kCommandSaveAs,   kSeparator,   kCommandOwnFileDialog, kSeparator, kCommandClose,
+      kCommandCloseAll, kSeparator,   kCommandQuit};
   return sItems;
 }
 
 const Items& EditItems() {
   static const Items sItems = {
-      kCommandUndo,     kCommandRedo,     kSeparator, kCommandNewSibling, kCommandNewChild,
-      kCommandEditText, kCommandDelete,   kSeparator, kCommandIndent,     kCommandOutdent,
-      kCommandMoveUp,   kCommandMoveDown, kSeparator, kCommandSelectAll};
+      kCommandUndo,     kCommandRedo,      kSeparator,         kCommandNewSibling, kCommandNewChild,
+      kCommandEditText, kCommandDelete,    kSeparator,         kCommandIndent,     kCommandOutdent,
+      kCommandMoveUp,   kCommandMoveDown,  kSeparator,         kCommandSelectAll,  kCommandFind,
+      kSeparator,       kCommandShortcuts, kCommandKeyboardMap};
   return sItems;
 }
 
@@ -62,6 +64,13 @@ const Items& ViewItems() {
                                kCommandShowCommands,
                                kCommandShowMap,
                                kMapHere,
+                               kCommandShowFiles,
+                               kCommandShowConsole,
+                               kCommandShowNodes,
+                               kSeparator,
+                               kCommandExpandAll,
+                               kCommandCollapseAll,
+                               kCommandOutlineOrder,
                                kSeparator,
                                kCommandNextDocument,
                                kCommandPreviousDocument,
@@ -91,9 +100,7 @@ UTF16String Escaped(const UTF16String& inText) {
 }
 
 UTF16String NameOf(int inCommand) {
-  const CommandRegistry& registry = CommandRegistry::Get();
-  const auto found = registry.FindCommandByID(inCommand);
-  return found == registry.RegistryEnd() ? UTF16String() : Escaped(found->second.GetDisplayName());
+  return Escaped(TitleOfCommand(inCommand));
 }
 
 void Clear(HMENU inMenu) {

@@ -7,14 +7,17 @@
 #include "CommandsPane.h"
 #include "CommandsView.h"
 #include "DocumentFrame.h"
+#include "FilesPane.h"
 #include "MapPane.h"
 #include "NotesView.h"
+#include "OutlineDocument.h"
 #include "OutlinerApp.h"
 #include "OutlinerCommands.h"
 #include "OutlinerMenus.h"
 #include "OutlinerWorkspaces.h"
 #include "Panels.h"
 #include "Reports.h"
+#include "ScriptConsole.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
@@ -25,6 +28,7 @@
 #include "lumworkspace/workspace/Workspace.h"
 #include "lumworkspace/workspace/WorkspaceFrameBase.h"
 #include "vek/uisupport/ReportError.h"
+#include "vek/workspace/ViewDebuggerTabCreator.h"
 #include "vek/workspace/WorkspaceUtils.h"
 
 namespace outliner {
@@ -39,6 +43,10 @@ namespace {
 constexpr int kNotesHeight = 170;
 constexpr int kCommandsWidth = 380;
 constexpr int kMapWidth = 480;
+constexpr int kFilesWidth = 260;
+constexpr int kConsoleHeight = 200;
+
+constexpr const char* kFilesKey = "files";
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -52,10 +60,13 @@ View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {
 }
 
 const UTF8String& PanelOf(int inCommand) {
-  return inCommand == kCommandShowOutline ? OutlinePanel()
-         : inCommand == kCommandShowNotes ? NotesPanel()
-         : inCommand == kCommandShowMap   ? MapPanel()
-                                          : CommandsPanel();
+  return inCommand == kCommandShowOutline   ? OutlinePanel()
+         : inCommand == kCommandShowNotes   ? NotesPanel()
+         : inCommand == kCommandShowMap     ? MapPanel()
+         : inCommand == kCommandShowFiles   ? FilesPanel()
+         : inCommand == kCommandShowConsole ? ConsolePanel()
+         : inCommand == kCommandShowNodes   ? NodesPanel()
+                                            : CommandsPanel();
 }
 
 }  // namespace
@@ -92,6 +103,45 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
         };
         return boost::intrusive_ptr<lumui::ui::UI_SubView>(new MapPane(GetOutline(), functions));
       }));
+  RegisterToolPanels(*inWorkspace);
+}
+
+// What helps beside the work on an outline.
+void OutlinerApp::RegisterToolPanels(Workspace& ioWorkspace) {
+  TabPlace place;
+  place.besideType = OutlinePanel();
+  place.where = TabPlace::kLeftOf;
+  place.size = kFilesWidth;
+  ioWorkspace.RegisterTabCreator(
+      new PanelCreator(FilesPanel(), "$$$/outliner/Panel/Files=Files", place, [this] {
+        return boost::intrusive_ptr<lumui::ui::UI_SubView>(new FilesPane(
+            GetFilesSettings(), [this](const File& inFile) { OpenOutline(inFile); },
+            [this] { return GetFolderOfOutline(); }));
+      }));
+  place.where = TabPlace::kBelow;
+  place.size = kConsoleHeight;
+  ioWorkspace.RegisterTabCreator(new PanelCreator(
+      ConsolePanel(), "$$$/outliner/Panel/Console=Script Console", place,
+      [] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new ScriptConsole); }));
+  ioWorkspace.RegisterTabCreator(new vek::workspace::ViewDebuggerTabCreator);
+}
+
+// A list of its own, as the folders' paths are keys in it.
+lumcore::proplist::PropList& OutlinerApp::GetFilesSettings() {
+  auto& settings = GetAppSettings();
+  auto* const files = settings.GetSubList(kFilesKey);
+  return files ? *files : settings.CreateSubList(kFilesKey);
+}
+
+void OutlinerApp::KeepFilesPlace() const {
+  if (const auto* const files = FindView<FilesPane>(GetWorkspace(), FilesPanel()))
+    files->SaveState();
+}
+
+UTF16String OutlinerApp::GetFolderOfOutline() const {
+  const OutlineDocument* const current = GetOutline();
+  const bool hasFile = current && !current->GetProjectFile().GetPath().empty();
+  return hasFile ? current->Parent().FullPath() : UTF16String();
 }
 
 BuiltInWorkspaceProviderBase* OutlinerApp::InitWorkspaceProvider() {
@@ -189,10 +239,16 @@ void OutlinerApp::TogglePanel(int inCommand) {
   if (auto* const commands = FindView<CommandsPane>(GetWorkspace(), type)) commands->FocusList();
   if (MapPane* const map = FindMap(); map && type == MapPanel()) map->FocusMap();
   if (type == OutlinePanel()) mFrame->FocusRows();
+  if (auto* const files = FindView<FilesPane>(GetWorkspace(), type)) files->FocusTree();
+  if (auto* const console = FindView<ScriptConsole>(GetWorkspace(), type)) console->FocusInput();
 }
 
 MapPane* OutlinerApp::FindMap() const {
   return IsPanelInFront(kCommandShowMap) ? FindView<MapPane>(GetWorkspace(), MapPanel()) : nullptr;
+}
+
+DocumentPane* OutlinerApp::FindPane() const {
+  return mFrame ? mFrame->FindCurrentPane() : nullptr;
 }
 
 // The command finds the keyboard where it would be if it came from a menu.

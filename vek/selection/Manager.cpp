@@ -4,6 +4,7 @@
 #include "vek/selection/Manager.h"
 
 #include <algorithm>
+#include <cassert>
 #include <functional>
 #include <memory>
 #include <set>
@@ -49,13 +50,16 @@ struct Manager::Impl {
 // asked for its list every time, but no set of all its nodes is built: what is selected is
 // looked for in its list, and mostly that is little.
 void Manager::Impl::Clean() {
-  Junction& junction = *mJunction;
-  if (auto* const knowing = dynamic_cast<KnowingJunction*>(&junction)) {
-    for (auto entry = mSelected.begin(); entry != mSelected.end();)
-      entry = knowing->Knows(*entry) ? std::next(entry) : mSelected.erase(entry);
+  assert(mJunction);  // whoever uses a manager has given it one
+  if (auto* const knowing = dynamic_cast<KnowingJunction*>(mJunction)) {
+    // Of a copy: a host that is asked may change the selection.
+    const std::vector<Node*> selected(mSelected.begin(), mSelected.end());
+    for (Node* const node : selected) {
+      if (!knowing->Knows(node)) mSelected.erase(node);
+    }
     return;
   }
-  const std::list<Node*> known = junction.AllSelectables();
+  const std::list<Node*> known = mJunction->AllSelectables();
   if (mSelected.empty()) return;
   const std::vector<Node*> selected(mSelected.begin(), mSelected.end());
   std::vector<bool> survives(selected.size(), false);

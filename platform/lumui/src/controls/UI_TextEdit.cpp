@@ -70,8 +70,9 @@ class TextEditPeer : public ControlPeer {
     auto* const edit = new ControlWidgetT<LineEdit, QStyleOptionFrame>(*this, inParent);
     edit->mOnEnter = [this] {
       ByUser([&] { Edit().Commit(); });
-      return !IsInDialog();
+      return !IsInDialog() && !Edit().LeavesLineKeys();
     };
+    edit->mLeavesArrows = [this] { return Edit().LeavesLineKeys(); };
     ConnectEscape(*edit);
     QObject::connect(edit, &QLineEdit::textEdited, edit, [this](const QString& inText) {
       ByUser([&] { Edit().HandleEdited(drawbot::FromQt(inText)); });

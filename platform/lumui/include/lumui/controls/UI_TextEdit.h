@@ -33,6 +33,10 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   // The user may then select and copy, and not edit.
   void SetReadOnly(bool inReadOnly);
   bool IsReadOnly() const { return mReadOnly; }
+  // A field of one line then leaves Enter, behind the commit, and the arrows up and down to its
+  // parents, for whoever runs lines and keeps a list of them.
+  void SetLeavesLineKeys(bool inLeaves) { mLeavesLineKeys = inLeaves; }
+  bool LeavesLineKeys() const { return mLeavesLineKeys; }
   // Shown, paler, while the text is empty.
   void SetPlaceholder(const lumcore::UTF16String& inText);
   const lumcore::UTF16String& GetPlaceholder() const { return mPlaceholder; }
@@ -58,6 +62,7 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
 
   bool mMultiLine;
   bool mReadOnly = false;
+  bool mLeavesLineKeys = false;
   bool mUncommitted = false;
   float mFontSize = 0;
   std::size_t mSelectionStart = 0;
