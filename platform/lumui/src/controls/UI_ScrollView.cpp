@@ -237,9 +237,12 @@ bool UI_ScrollView::UI_DoMouseWheel(ui::UI_Node*, const ui::WheelEvent& inEvent)
   if (touch == Touch::kMove) {
     if (mGlides) StopGlide();
     mGlide.Follow(way, inEvent.GetTime());
-  } else if (touch == Touch::kEnd && mGlide.Release(inEvent.GetTime())) {
-    UI_InstallTimer(static_cast<float>(Glide::kStep), kGlideTimer);
-    mGlides = true;
+  } else if (touch == Touch::kEnd) {
+    // Which may come twice.
+    if (!mGlides && mGlide.Release(inEvent.GetTime())) {
+      UI_InstallTimer(static_cast<float>(Glide::kStep), kGlideTimer);
+      mGlides = true;
+    }
   } else {
     StopGlide();
   }
