@@ -3,12 +3,14 @@
 
 #include "lumui/controls/UI_ScrollView.h"
 
+#include <functional>
 #include <sstream>
 
 #include "UITest.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumui/controls/UI_InteractiveControlChangedMessage.h"
 #include "lumui/controls/UI_ScrollBar.h"
+#include "lumui/testing/VirtualClock.h"
 
 namespace lumui::test {
 
@@ -129,6 +131,64 @@ TEST_F(ScrollView, WheelMovesByFractionsAndTellsListenersOfTheUser) {
   mChanged->clear();
   input::TurnWheel(*mWindow, Point(20, 20), Point(0, 1));
   EXPECT_EQ(TakeLog(), "content:wheel(0,1)@55,20");
+}
+
+TEST_F(ScrollView, FollowsFingersAndGlidesOnWhenTheyLeaveInMotion) {
+  using Touch = ui::WheelEvent::Touch;
+  const auto fingers = [&](Touch inTouch, const Point& inWay, double inSeconds) {
+    input::MoveFingers(*mWindow, Point(20, 20), inTouch, inWay, inSeconds);
+  };
+  const auto flick = [&](const Point& inWay) {
+    mView->SetOffset(Offset(100, 400));
+    fingers(Touch::kBegin, Point(), 1);
+    for (int i = 0; i < 6; ++i)
+      fingers(Touch::kMove, inWay, 0.01);
+    fingers(Touch::kEnd, Point(), 0.01);
+  };
+  input::VirtualClock clock;
+  SetContent(1000, 3000);
+  Listen();
+  // By their own way, whatever a line is.
+  flick(Point(0, 5));
+  EXPECT_EQ(mView->GetOffset(), Offset(100, 430));
+  // 500 units in a second, less in each moment.
+  clock.Advance(0.105);
+  const double first = mView->GetOffset().y - 430;
+  EXPECT_NEAR(first, 44, 2);
+  TakeLog();
+  clock.Advance(0.1);
+  const double second = mView->GetOffset().y - 430 - first;
+  EXPECT_LT(second, first);
+  EXPECT_GT(second, 0.6 * first);
+  EXPECT_EQ(TakeLog().substr(0, 3), "Y Y");
+  clock.Advance(10);
+  const Offset rest = mView->GetOffset();
+  EXPECT_NEAR(rest.y, 430 + 500 * 0.325, 8);
+  // Other fingers, and whoever moves the view, end it; so does an end of the content.
+  const auto expectEndBy = [&](const char* inWhat, const std::function<void()>& inAct) {
+    flick(Point(-4, 5));
+    clock.Advance(0.05);
+    inAct();
+    const Offset there = mView->GetOffset();
+    clock.Advance(5);
+    EXPECT_EQ(mView->GetOffset(), there) << inWhat;
+  };
+  expectEndBy("fingers", [&] { fingers(Touch::kBegin, Point(), 0.01); });
+  expectEndBy("the system's momentum", [&] { fingers(Touch::kMomentum, Point(0, 3), 0.01); });
+  expectEndBy("wheel", [&] { input::TurnWheel(*mWindow, Point(20, 20), Point(0, 1)); });
+  expectEndBy("offset", [&] { mView->SetOffset(Offset(7, 8)); });
+  expectEndBy("reveal", [&] { mView->ScrollIntoView(Rect(0, 2000, 5, 5), false); });
+  flick(Point(0, -80));
+  clock.Advance(5);
+  EXPECT_EQ(mView->GetOffset(), Offset(100, 0));
+  // Fingers that have come to rest before they leave set the view down.
+  mView->SetOffset(Offset(100, 400));
+  fingers(Touch::kBegin, Point(), 1);
+  fingers(Touch::kMove, Point(0, 20), 0.01);
+  fingers(Touch::kMove, Point(0, 20), 0.01);
+  fingers(Touch::kEnd, Point(), 0.3);
+  clock.Advance(5);
+  EXPECT_EQ(mView->GetOffset(), Offset(100, 440));
 }
 
 TEST_F(ScrollView, ContentSeesItsOwnCoordinates) {

@@ -86,7 +86,9 @@ class Repaints : public test_support::RealView {
     inChange();
     const QImage painted = Picture();
     EXPECT_NE(painted, before) << inWhat;
-    QApplication::activeWindow()->update();
+    // The window's own update would leave out what is opaque.
+    for (QWidget* const widget : QApplication::allWidgets())
+      widget->update();
     EXPECT_EQ(painted, Picture()) << inWhat;
   }
   void ExpectWholeAt(const Point& inStart) {
@@ -128,16 +130,15 @@ TEST_F(Repaints, LeaveNothingOfWhatWasThere) {
 // What is on the screen already moves there, beside and around what covers it.
 TEST_F(Repaints, LeaveNothingWhereThePictureMoves) {
   mScroll->SetMovesPicture(true);
-  // Between whole units of the screen there is nothing to move.
+  // With parts of pixels in a unit all is drawn anew.
   const qreal scale = QApplication::activeWindow()->devicePixelRatioF();
+  if (scale != std::floor(scale)) return;
   Picture();
   mCells->mDrawn = 0;
   View().DataPos(View().DataPos() + Point(0, 1), false);
   Picture();
   const Point size = View().DataSize();
-  if (scale == std::floor(scale)) {
-    EXPECT_LT(mCells->mDrawn, size.x * size.y * 0.3f);
-  }
+  EXPECT_LT(mCells->mDrawn, size.x * size.y * 0.3f);
   for (const float alpha : {0.0f, 0.5f, 1.0f}) {
     SCOPED_TRACE(alpha);
     if (alpha > 0) PutCover(alpha);

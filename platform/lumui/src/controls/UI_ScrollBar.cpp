@@ -125,6 +125,7 @@ void UI_ScrollBar::Peer::HandleAction(int inAction) {
   auto* const view = dynamic_cast<UI_ScrollView*>(node->UI_GetParentNode());
   if (!view) return;
   const lumcore::utility::StKeepAlive keepAlive(*view);
+  view->StopGlide();
   const int position = mBar->sliderPosition();
   const int last = mBar->maximum();
   const double line = view->GetLineStep();

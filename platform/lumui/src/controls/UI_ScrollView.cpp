@@ -25,6 +25,7 @@ using Point = lumcore::geom::PointT<double>;
 using Rect = lumcore::geom::RectT<float>;
 
 constexpr double kLinesANotch = 3;
+constexpr unsigned kGlideTimer = ~0u;  // an id that hosts will hardly choose
 
 // What lies over a widget's rectangle, in the widget's coordinates: the later ones among its
 // siblings, and among those of what it lies in.
@@ -182,14 +183,18 @@ bool UI_ScrollView::MoveTo(const Point& inWanted) {
   return true;
 }
 
-// False where everything is to be drawn anew, and nothing has seen to that yet: between whole units
-// the picture cannot be moved.
+// False where everything is to be drawn anew, and nothing has seen to that yet. A picture moves by
+// whole pixels from whole pixels, which is more than whole units where the screen has parts of
+// pixels in a unit; and what has uncovered a part of it may not have been drawn there yet.
 bool UI_ScrollView::MovePicture(const Point& inOldOffset) {
   QWidget* const widget = mContent->GetPeer()->GetWidget();
   const Point way = inOldOffset - mOffset;
   const Point size = GetViewSize();
-  if (!mMovesPicture || !widget || way.x != std::floor(way.x) || way.y != std::floor(way.y) ||
-      std::abs(way.x) >= size.x || std::abs(way.y) >= size.y) {
+  const bool isWhole =
+      widget && widget->devicePixelRatioF() == std::floor(widget->devicePixelRatioF());
+  if (!mMovesPicture || !isWhole || !mContent->GetPeer()->HasItsPlaceOnScreen() ||
+      way.x != std::floor(way.x) || way.y != std::floor(way.y) || std::abs(way.x) >= size.x ||
+      std::abs(way.y) >= size.y) {
     return false;
   }
   if (mContent->GetPeer()->IsAllInvalid()) return true;
@@ -215,6 +220,7 @@ void UI_ScrollView::ShowOffsetInBars() {
 }
 
 void UI_ScrollView::ScrollIntoView(const Rect& inRect, bool inDrawNow) {
+  StopGlide();
   const Point size = GetViewSize();
   MoveTo(Point(Revealed(mOffset.x, size.x, inRect.x, inRect.width),
                Revealed(mOffset.y, size.y, inRect.y, inRect.height)));
@@ -222,6 +228,7 @@ void UI_ScrollView::ScrollIntoView(const Rect& inRect, bool inDrawNow) {
 }
 
 void UI_ScrollView::SetOffset(const Point& inOffset) {
+  StopGlide();
   MoveTo(inOffset);
 }
 
@@ -232,6 +239,7 @@ void UI_ScrollView::ScrollByUser(bool inHorizontal, double inDistance) {
 }
 
 void UI_ScrollView::SetBarOffsetByUser(bool inHorizontal, double inOffset) {
+  StopGlide();
   Point wanted = mWanted;
   if (inHorizontal) {
     wanted.x = mContentRect.x + inOffset;
@@ -242,12 +250,45 @@ void UI_ScrollView::SetBarOffsetByUser(bool inHorizontal, double inOffset) {
 }
 
 bool UI_ScrollView::UI_DoMouseWheel(ui::UI_Node*, const ui::WheelEvent& inEvent) {
+  using Touch = ui::WheelEvent::Touch;
   const lumcore::utility::StKeepAlive keepAlive(*this);
-  const auto& notches = inEvent.GetNotches();
   const double step = kLinesANotch * mLineStep;
-  if (notches.x != 0) ScrollByUser(true, notches.x * step);
-  if (notches.y != 0) ScrollByUser(false, notches.y * step);
+  const auto& notches = inEvent.GetNotches();
+  Point way(inEvent.GetWay().x, inEvent.GetWay().y);
+  if (way == Point()) way = Point(notches.x * step, notches.y * step);
+  const Touch touch = inEvent.GetTouch();
+  if (touch == Touch::kMove) {
+    if (mGlides) StopGlide();
+    mGlide.Follow(way, inEvent.GetTime());
+  } else if (touch == Touch::kEnd) {
+    // Which may come twice.
+    if (!mGlides && mGlide.Release(inEvent.GetTime())) {
+      UI_InstallTimer(static_cast<float>(Glide::kStep), kGlideTimer);
+      mGlides = true;
+    }
+  } else {
+    StopGlide();
+  }
+  if (way.x != 0) ScrollByUser(true, way.x);
+  if (way.y != 0) ScrollByUser(false, way.y);
   return true;
+}
+
+void UI_ScrollView::UI_DoTimerNotify(unsigned int inTimerID) {
+  if (inTimerID != kGlideTimer) return UI_SubView::UI_DoTimerNotify(inTimerID);
+  const lumcore::utility::StKeepAlive keepAlive(*this);
+  const Point before = mWanted;
+  const Point way = mGlide.Step();
+  if (way.x != 0) ScrollByUser(true, way.x);
+  if (way.y != 0) ScrollByUser(false, way.y);
+  // At an end of the content there is nothing to go on for.
+  if (!mGlide.IsRunning() || mWanted == before) StopGlide();
+}
+
+void UI_ScrollView::StopGlide() {
+  if (mGlides) UI_RemoveTimer(kGlideTimer, false);
+  mGlides = false;
+  mGlide.Stop();
 }
 
 UI_ManualScrollView::~UI_ManualScrollView() = default;

@@ -224,6 +224,26 @@ void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
   System::sendWindowSystemEvents(QEventLoop::AllEvents);
 }
 
+void MoveFingers(ui::OS_Window& inWindow, const Position& inPosition, ui::WheelEvent::Touch inTouch,
+                 const lumcore::geom::PointT<float>& inWay, double inSeconds) {
+  using Touch = ui::WheelEvent::Touch;
+  const Qt::ScrollPhase phase = inTouch == Touch::kBegin      ? Qt::ScrollBegin
+                                : inTouch == Touch::kMove     ? Qt::ScrollUpdate
+                                : inTouch == Touch::kEnd      ? Qt::ScrollEnd
+                                : inTouch == Touch::kMomentum ? Qt::ScrollMomentum
+                                                              : Qt::NoScrollPhase;
+  QWindow* const native = NativeWindow(inWindow);
+  const QPointF local = NativePosition(inWindow, inPosition);
+  // Drivers count notches along with the pixels, by a rule of their own.
+  const QPoint pixels(static_cast<int>(std::lround(-inWay.x)),
+                      static_cast<int>(std::lround(-inWay.y)));
+  constexpr double kMillisecondsASecond = 1000;
+  const auto time = static_cast<unsigned long>(std::lround(inSeconds * kMillisecondsASecond));
+  System::handleWheelEvent(native, NextTime(time), InPixels(local, native),
+                           ScreenPixels(local, native), pixels, 2 * pixels, Qt::NoModifier, phase);
+  System::sendWindowSystemEvents(QEventLoop::AllEvents);
+}
+
 void RequestClose(ui::OS_Window& inWindow) {
   System::handleCloseEvent<Now>(NativeWindow(inWindow));
 }

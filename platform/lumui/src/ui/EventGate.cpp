@@ -273,7 +273,10 @@ bool EventGate::HandleWheel(OS_Window& inWindow, QWindow& inNative, QEvent& inEv
   OS_Event os = inEvent.type() == QEvent::Wheel
                     ? OSEventOf(inWindow.UI_GetHandle(), static_cast<QWheelEvent&>(inEvent))
                     : OS_Event(inWindow.UI_GetHandle(), kMessageMouseLeave, 0, 0);
-  if (inEvent.type() == QEvent::Wheel) utility::InteractionRegistry::Get().Note();
+  if (inEvent.type() == QEvent::Wheel) {
+    mWheelTime = static_cast<double>(static_cast<QWheelEvent&>(inEvent).timestamp());
+    utility::InteractionRegistry::Get().Note();
+  }
   bool handled = true;
   Pass(os, [&] { handled = HandToQt(inNative, inEvent, os); });
   return handled;

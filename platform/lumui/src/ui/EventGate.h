@@ -57,6 +57,9 @@ class LUMUI_API EventGate : public QApplication {
   bool IsInEvent() const { return mDepth > 0; }
   bool IsInPointerEvent() const { return mInPointerEvent; }
   bool IsPainting() const { return mPainting; }
+  // Of the last turn of a wheel, in milliseconds of the input's clock. The copies that Qt makes for
+  // its widgets have no time.
+  double GetWheelTime() const { return mWheelTime; }
 
   // Runs a drag's own loop: until it ends the pointer and the keys are the drag's.
   int RunDrag(const std::function<int()>& inLoop);
@@ -125,6 +128,7 @@ class LUMUI_API EventGate : public QApplication {
   bool mSwallowMouse = false;
   bool mInPointerEvent = false;
   bool mPainting = false;
+  double mWheelTime = 0;
   std::atomic<bool> mDragging{false};
   bool mDragTakesInput = false;
   Qt::MouseButtons mHeldSinceDrag;

@@ -32,6 +32,9 @@ int Rounded(double inValue) {
   return rounded < kLimit ? static_cast<int>(rounded) : QWIDGETSIZE_MAX;
 }
 
+// Counts the changes of where nodes are to be seen.
+unsigned sPlaces = 0;
+
 // A window may have a node for its parent that only keeps windows together.
 bool IsWindow(const UI_Node& inNode) {
   return dynamic_cast<const OS_Window*>(&inNode) != nullptr;
@@ -118,6 +121,7 @@ void NodePeer::PlaceChild(UI_Node& inChild, UI_Node* inNextSibling) {
 
 void NodePeer::TakeOut() {
   if (!mWidget || !mWidget->parentWidget()) return;
+  ++sPlaces;
   mWidget->hide();
   if (mWidget) mWidget->setParent(nullptr);
 }
@@ -173,7 +177,9 @@ void NodePeer::ApplyRect() {
   // A window that nobody has given a place gets one from the window system.
   if (mWidget->isWindow() && mNode->UI_GetLocalRectF().IsEmpty()) return;
   const lumcore::utility::StScopedValue<bool> applying(mApplyingRect, true);
-  mWidget->setGeometry(RoundedRect().adjusted(0, 0, 0, mChromeHeight));
+  const QRect rect = RoundedRect().adjusted(0, 0, 0, mChromeHeight);
+  if (rect != mWidget->geometry()) ++sPlaces;
+  mWidget->setGeometry(rect);
 }
 
 void NodePeer::ApplySize(int inWidth, int inHeight) {
@@ -183,7 +189,9 @@ void NodePeer::ApplySize(int inWidth, int inHeight) {
 }
 
 void NodePeer::ApplyVisible() {
-  if (mWidget) mWidget->setVisible(mNode->UI_IsVisible());
+  if (!mWidget) return;
+  ++sPlaces;
+  mWidget->setVisible(mNode->UI_IsVisible());
 }
 
 void NodePeer::ApplyDisabled() {
@@ -202,6 +210,14 @@ void NodePeer::ApplyToolTip() {
 lumcore::geom::PointT<float> NodePeer::WithContentOrigin(const QPointF& inPosition) const {
   return lumcore::geom::PointT<float>(static_cast<float>(inPosition.x() + mContentOrigin.x),
                                       static_cast<float>(inPosition.y() + mContentOrigin.y));
+}
+
+bool NodePeer::HasItsPlaceOnScreen() const {
+  return mPlacesWhenDrawn == sPlaces;
+}
+
+void NodePeer::NotePlaces() {
+  mPlacesWhenDrawn = sPlaces;
 }
 
 void NodePeer::Invalidate(const lumcore::geom::RectT<int>& inRect) {

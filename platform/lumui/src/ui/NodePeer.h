@@ -102,6 +102,9 @@ class LUMUI_API NodePeer {
   void InvalidateAll();
   // Whether all of a drawn node waits for drawing: what is on the screen is good for nothing.
   bool IsAllInvalid() const { return mIsAllInvalid; }
+  // Whether no node has moved, shown or hidden since this one was drawn. Otherwise there may be a
+  // picture of another one in its place, which waits for drawing without its knowledge.
+  bool HasItsPlaceOnScreen() const;
 
   // Of the widget's overrides.
   bool HandleEvent(QEvent& inEvent);  // true if Qt's class shall not see it
@@ -125,6 +128,7 @@ class LUMUI_API NodePeer {
 
   void Connect(QWidget* inWidget, NodeWidgetLink* inLink);
   void WidgetGone();
+  void NotePlaces();
   void Unlink();
   bool Offer(QEvent& inEvent, const std::function<bool(UI_Node*)>& inAsk);
   bool HandleMouse(QMouseEvent& inEvent);
@@ -147,6 +151,7 @@ class LUMUI_API NodePeer {
   int mChromeHeight = 0;
   bool mIsOpaque = false;
   bool mIsAllInvalid = false;
+  unsigned mPlacesWhenDrawn = 0;
   lumcore::geom::PointT<double> mContentOrigin;
   lumcore::geom::PointT<float> mLastPosition;
 };

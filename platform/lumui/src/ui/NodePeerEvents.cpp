@@ -42,6 +42,21 @@ int ReasonFromQt(Qt::FocusReason inReason) {
   }
 }
 
+WheelEvent::Touch TouchOf(Qt::ScrollPhase inPhase) {
+  switch (inPhase) {
+    case Qt::ScrollBegin:
+      return WheelEvent::Touch::kBegin;
+    case Qt::ScrollUpdate:
+      return WheelEvent::Touch::kMove;
+    case Qt::ScrollEnd:
+      return WheelEvent::Touch::kEnd;
+    case Qt::ScrollMomentum:
+      return WheelEvent::Touch::kMomentum;
+    default:
+      return WheelEvent::Touch::kNone;
+  }
+}
+
 bool IsTabPress(const KeyboardEvent* inKey) {
   return inKey && inKey->IsActionKeyDown() &&
          inKey->GetCode() == KeyboardCode(KeyboardCode::kTab) &&
@@ -146,9 +161,15 @@ bool NodePeer::HandleWheel(QWheelEvent& inEvent) {
     const lumcore::geom::PointT<float> notches(
         static_cast<float>(-inEvent.angleDelta().x()) / kWheelUnitsANotch,
         static_cast<float>(-inEvent.angleDelta().y()) / kWheelUnitsANotch);
-    return mNode->UI_DoMouseWheel(
-        inStart, WheelEvent(ModifiersFromQt(inEvent.modifiers()), position, notches,
-                            EventGate::Get()->GetCurrentOSEvent()));
+    WheelEvent event(ModifiersFromQt(inEvent.modifiers()), position, notches,
+                     EventGate::Get()->GetCurrentOSEvent());
+    // Without fingers, some drivers tell pixels that are none.
+    const WheelEvent::Touch touch = TouchOf(inEvent.phase());
+    const QPoint pixels = touch == WheelEvent::Touch::kNone ? QPoint() : inEvent.pixelDelta();
+    constexpr double kMilliseconds = 0.001;
+    event.SetTouch(touch, drawbot::FromQt(QRectF(-pixels, QSizeF())).Origin(),
+                   kMilliseconds * EventGate::Get()->GetWheelTime());
+    return mNode->UI_DoMouseWheel(inStart, event);
   });
 }
 
@@ -217,6 +238,7 @@ void NodePeer::Paint(const QRegion& inDamage) {
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   QWidget* const widget = mWidget;
   mIsAllInvalid = false;
+  NotePlaces();
   const QRect drawn = widget->rect().adjusted(0, mChromeHeight, 0, 0);
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);

@@ -8,6 +8,7 @@
 #include "lumcore/geom/Point.h"
 #include "lumcore/geom/Rect.h"
 #include "lumcore/utility/Flags.h"
+#include "lumui/controls/Glide.h"
 #include "lumui/ui/UI_SubView.h"
 
 namespace lumui::controls {
@@ -17,6 +18,10 @@ class UI_ScrollBar;
 // A window on a content that may be far larger than any window. The content node has the size of
 // the scroll view and lies under the two bars, which show when they are needed; only its
 // coordinates move: it draws, is invalidated and gets pointer positions in those of the content.
+//
+// The wheel moves it by lines, fingers on a touch pad by their own way. Where the system has no
+// momentum of its own, it goes on for a while when the fingers leave it in motion, until it comes
+// to rest, to an end of the content, under other fingers or to where somebody else moves it.
 class LUMUI_API UI_ScrollView : public ui::UI_SubView {
  public:
   static constexpr unsigned kNoHorizontalBar = 1;
@@ -54,6 +59,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   void SetMovesPicture(bool inMoves);
 
   bool UI_DoMouseWheel(ui::UI_Node* inNode, const ui::WheelEvent& inEvent) override;
+  void UI_DoTimerNotify(unsigned int inTimerID) override;
 
  protected:
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
@@ -72,6 +78,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   lumcore::geom::PointT<double> GetViewSize() const;
   void PlaceBars();
   void ShowOffsetInBars();
+  void StopGlide();
   bool MovePicture(const lumcore::geom::PointT<double>& inOldOffset);
 
   lumcore::utility::Flags<unsigned int> mFlags;
@@ -82,6 +89,8 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   lumcore::geom::RectT<float> mContentRect;
   lumcore::geom::PointT<double> mWanted;  // with the fractions that are less than a device's unit
   lumcore::geom::PointT<double> mOffset;
+  Glide mGlide;
+  bool mGlides = false;  // the timer runs
   float mLineStep = 20;
   bool mMovesPicture = false;
 };

@@ -57,6 +57,11 @@ LUMUI_API void DoubleClickMouse(ui::OS_Window& inWindow, const Position& inPosit
                                 ui::PointerEvent::Button inButton = ui::PointerEvent::kLeftButton,
                                 ui::ModifierKeys inModifiers = ui::ModifierKeys());
 LUMUI_API void LeaveWindow(ui::OS_Window& inWindow);
+// Fingers on a touch pad that move by so many units of the view, as long after their last move, in
+// seconds. What a kBegin or kEnd moves by is nothing.
+LUMUI_API void MoveFingers(ui::OS_Window& inWindow, const Position& inPosition,
+                           ui::WheelEvent::Touch inTouch, const lumcore::geom::PointT<float>& inWay,
+                           double inSeconds);
 // In notches with fractions; see ui::WheelEvent for the signs.
 LUMUI_API void TurnWheel(ui::OS_Window& inWindow, const Position& inPosition,
                          const lumcore::geom::PointT<float>& inNotches,

@@ -69,7 +69,8 @@ class LUMUI_API MouseEvent : public PointerEvent {
 
 // A turn of the wheel, in notches with fractions: a fine wheel or a touch pad sends many small
 // parts. A positive x is to the right, a positive y is downward: the direction in which the view
-// moves over its content.
+// moves over its content. A touch pad also says how far in units of the view, so that the content
+// keeps to the fingers, and when they come and go.
 class LUMUI_API WheelEvent : public PointerEvent {
  public:
   WheelEvent() = default;
@@ -78,10 +79,27 @@ class LUMUI_API WheelEvent : public PointerEvent {
       : PointerEvent(kActionWheel, kNoButton, inModifiers, inPosition, 1, inOSEvent),
         mNotches(inNotches) {}
 
+  // Fingers on a touch pad; of a wheel there is none of it. The momentum is what the system itself
+  // lets follow when the fingers have gone.
+  enum class Touch : unsigned char { kNone, kBegin, kMove, kEnd, kMomentum };
+
   const lumcore::geom::PointT<float>& GetNotches() const { return mNotches; }
+  Touch GetTouch() const { return mTouch; }
+  // The way in units of the view; nothing where only the notches are known.
+  const lumcore::geom::PointT<float>& GetWay() const { return mWay; }
+  // Seconds of a clock of the input's own, for the time between two events.
+  double GetTime() const { return mTime; }
+  void SetTouch(Touch inTouch, const lumcore::geom::PointT<float>& inWay, double inTime) {
+    mTouch = inTouch;
+    mWay = inWay;
+    mTime = inTime;
+  }
 
  private:
   lumcore::geom::PointT<float> mNotches;
+  lumcore::geom::PointT<float> mWay;
+  Touch mTouch = Touch::kNone;
+  double mTime = 0;
 };
 
 }  // namespace lumui::ui
