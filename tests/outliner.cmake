@@ -11,6 +11,7 @@ vek_test(outliner_tests
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
     hosts/PanelsTest.cpp
+    hosts/PropertiesTest.cpp
     hosts/RunningOutliner.cpp
     hosts/ScriptRunTest.cpp
     support/UIApplication.cpp

@@ -50,8 +50,8 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};
   mEntries[kCommandWorkspaceReset] = {[this] { return mApp.CanResetWorkspace(); },
                                       [this] { mApp.ResetWorkspace(); }, nullptr};
-  for (const int panel :
-       {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands, kCommandShowMap}) {
+  for (const int panel : {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands,
+                          kCommandShowMap, kCommandShowProperties}) {
     mEntries[panel] = {always, [this, panel] { mApp.TogglePanel(panel); },
                        [this, panel] { return mApp.IsPanelInFront(panel); }};
   }

@@ -55,6 +55,7 @@ enum Command : int {
   kCommandMapActualSize,
   kCommandMapFit,
   kCommandMapGoToRow,
+  kCommandShowProperties,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

@@ -62,6 +62,7 @@ const Items& ViewItems() {
                                kCommandShowCommands,
                                kCommandShowMap,
                                kMapHere,
+                               kCommandShowProperties,
                                kSeparator,
                                kCommandNextDocument,
                                kCommandPreviousDocument,

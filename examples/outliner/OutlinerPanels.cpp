@@ -3,6 +3,7 @@
 
 // The application's panels, and the workspaces that they stand in.
 
+#include "ArchivedPanels.h"
 #include "BuiltInWorkspaces.h"
 #include "CommandsPane.h"
 #include "CommandsView.h"
@@ -25,6 +26,7 @@
 #include "lumworkspace/workspace/Workspace.h"
 #include "lumworkspace/workspace/WorkspaceFrameBase.h"
 #include "vek/uisupport/ReportError.h"
+#include "vek/workspace/GenericPanelRegistry.h"
 #include "vek/workspace/WorkspaceUtils.h"
 
 namespace outliner {
@@ -51,7 +53,10 @@ View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {
   return panel ? dynamic_cast<View*>(&panel->GetView()) : nullptr;
 }
 
-const UTF8String& PanelOf(int inCommand) {
+UTF8String PanelOf(int inCommand) {
+  UTF8String type;
+  auto& archived = vek::workspace::GenericPanelRegistry::GetInstance();
+  if (archived.GetTabTypeForCommand(inCommand, type)) return type;
   return inCommand == kCommandShowOutline ? OutlinePanel()
          : inCommand == kCommandShowNotes ? NotesPanel()
          : inCommand == kCommandShowMap   ? MapPanel()
@@ -92,6 +97,7 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
         };
         return boost::intrusive_ptr<lumui::ui::UI_SubView>(new MapPane(GetOutline(), functions));
       }));
+  PlaceArchivedPanels(*inWorkspace);
 }
 
 BuiltInWorkspaceProviderBase* OutlinerApp::InitWorkspaceProvider() {
@@ -178,7 +184,7 @@ void OutlinerApp::ShowOutlinePanel() {
 }
 
 void OutlinerApp::TogglePanel(int inCommand) {
-  const UTF8String& type = PanelOf(inCommand);
+  const UTF8String type = PanelOf(inCommand);
   if (IsPanelInFront(inCommand)) {
     GetWorkspace()->CloseTab(type);
     mFrame->FocusRows();
@@ -189,6 +195,7 @@ void OutlinerApp::TogglePanel(int inCommand) {
   if (auto* const commands = FindView<CommandsPane>(GetWorkspace(), type)) commands->FocusList();
   if (MapPane* const map = FindMap(); map && type == MapPanel()) map->FocusMap();
   if (type == OutlinePanel()) mFrame->FocusRows();
+  FocusArchivedPanel(*GetWorkspace(), type);
 }
 
 MapPane* OutlinerApp::FindMap() const {

@@ -15,6 +15,7 @@
 #include "lumworkspace/testing/Layouts.h"
 #include "lumworkspace/workspace/ManagerBase.h"
 #include "lumworkspace/workspace/Workspace.h"
+#include "outliner/AttributeEdits.h"
 #include "outliner/CommandsView.h"
 #include "outliner/NoteEditor.h"
 #include "outliner/OpmlWriter.h"
