@@ -3,6 +3,7 @@ vek_test(outliner_tests
     hosts/CommandFilesTest.cpp
     hosts/DocumentsTest.cpp
     hosts/FileCheckTest.cpp
+    hosts/HistoryTest.cpp
     hosts/MapGesturesTest.cpp
     hosts/MapLayoutTest.cpp
     hosts/OpmlRoundTripTest.cpp

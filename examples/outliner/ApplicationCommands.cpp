@@ -51,7 +51,7 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandWorkspaceReset] = {[this] { return mApp.CanResetWorkspace(); },
                                       [this] { mApp.ResetWorkspace(); }, nullptr};
   for (const int panel : {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands,
-                          kCommandShowMap, kCommandShowProperties}) {
+                          kCommandShowMap, kCommandShowProperties, kCommandShowHistory}) {
     mEntries[panel] = {always, [this, panel] { mApp.TogglePanel(panel); },
                        [this, panel] { return mApp.IsPanelInFront(panel); }};
   }

@@ -83,7 +83,7 @@ bool FocusArchivedPanel(const Workspace& inWorkspace, const UTF8String& inTabTyp
 
 TabPlace PlaceBesideRows(const Workspace& inWorkspace) {
   TabPlace place;
-  for (const UTF8String& other : {PropertiesPanel(), CommandsPanel()}) {
+  for (const UTF8String& other : {PropertiesPanel(), HistoryPanel(), CommandsPanel()}) {
     if (!inWorkspace.FindTab(other)) continue;
     place.where = TabPlace::kTabWith;
     place.besideType = other;

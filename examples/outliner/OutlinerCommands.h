@@ -56,6 +56,7 @@ enum Command : int {
   kCommandMapFit,
   kCommandMapGoToRow,
   kCommandShowProperties,
+  kCommandShowHistory,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

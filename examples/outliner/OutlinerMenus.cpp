@@ -57,17 +57,10 @@ const Items& RowItems() {
 }
 
 const Items& ViewItems() {
-  static const Items sItems = {kCommandShowOutline,
-                               kCommandShowNotes,
-                               kCommandShowCommands,
-                               kCommandShowMap,
-                               kMapHere,
-                               kCommandShowProperties,
-                               kSeparator,
-                               kCommandNextDocument,
-                               kCommandPreviousDocument,
-                               kDocumentsHere,
-                               kSeparator,
+  static const Items sItems = {kCommandShowOutline,      kCommandShowNotes, kCommandShowCommands,
+                               kCommandShowMap,          kMapHere,          kCommandShowProperties,
+                               kCommandShowHistory,      kSeparator,        kCommandNextDocument,
+                               kCommandPreviousDocument, kDocumentsHere,    kSeparator,
                                kBrightnessHere};
   return sItems;
 }

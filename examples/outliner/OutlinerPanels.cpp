@@ -8,6 +8,7 @@
 #include "CommandsPane.h"
 #include "CommandsView.h"
 #include "DocumentFrame.h"
+#include "HistoryView.h"
 #include "MapPane.h"
 #include "NotesView.h"
 #include "OutlinerApp.h"
@@ -53,14 +54,23 @@ View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {
   return panel ? dynamic_cast<View*>(&panel->GetView()) : nullptr;
 }
 
+class BesideRowsCreator final : public PanelCreator {
+ public:
+  using PanelCreator::PanelCreator;
+  TabPlace GetDefaultPlace(const Workspace& inWorkspace) const override {
+    return PlaceBesideRows(inWorkspace);
+  }
+};
+
 UTF8String PanelOf(int inCommand) {
   UTF8String type;
   auto& archived = vek::workspace::GenericPanelRegistry::GetInstance();
   if (archived.GetTabTypeForCommand(inCommand, type)) return type;
-  return inCommand == kCommandShowOutline ? OutlinePanel()
-         : inCommand == kCommandShowNotes ? NotesPanel()
-         : inCommand == kCommandShowMap   ? MapPanel()
-                                          : CommandsPanel();
+  return inCommand == kCommandShowOutline   ? OutlinePanel()
+         : inCommand == kCommandShowNotes   ? NotesPanel()
+         : inCommand == kCommandShowMap     ? MapPanel()
+         : inCommand == kCommandShowHistory ? HistoryPanel()
+                                            : CommandsPanel();
 }
 
 }  // namespace
@@ -97,6 +107,9 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
         };
         return boost::intrusive_ptr<lumui::ui::UI_SubView>(new MapPane(GetOutline(), functions));
       }));
+  inWorkspace->RegisterTabCreator(new BesideRowsCreator(
+      HistoryPanel(), "$$$/outliner/Panel/History=History", TabPlace(),
+      [] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new HistoryPane); }));
   PlaceArchivedPanels(*inWorkspace);
 }
 
@@ -194,6 +207,7 @@ void OutlinerApp::TogglePanel(int inCommand) {
   if (auto* const notes = FindView<NotesView>(GetWorkspace(), type)) notes->FocusField();
   if (auto* const commands = FindView<CommandsPane>(GetWorkspace(), type)) commands->FocusList();
   if (MapPane* const map = FindMap(); map && type == MapPanel()) map->FocusMap();
+  if (auto* const history = FindView<HistoryPane>(GetWorkspace(), type)) history->FocusList();
   if (type == OutlinePanel()) mFrame->FocusRows();
   FocusArchivedPanel(*GetWorkspace(), type);
 }

@@ -41,6 +41,11 @@ const UTF8String& MapPanel() {
   return sType;
 }
 
+const UTF8String& HistoryPanel() {
+  static const UTF8String sType = ToUTF8("outliner.history");
+  return sType;
+}
+
 ViewPanel::ViewPanel(Workspace* inWorkspace, WorkspaceFrameBase* inFrame,
                      const lumcore::UTF16String& inTitle, const UTF8String& inTabType,
                      const boost::intrusive_ptr<lumui::ui::UI_SubView>& inView)

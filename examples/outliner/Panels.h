@@ -17,6 +17,7 @@ const lumcore::UTF8String& OutlinePanel();
 const lumcore::UTF8String& NotesPanel();
 const lumcore::UTF8String& CommandsPanel();
 const lumcore::UTF8String& MapPanel();
+const lumcore::UTF8String& HistoryPanel();
 
 // A panel that one view fills. The view may outlive it, and fill the next one.
 class ViewPanel final : public lumworkspace::workspace::TabPanel {
@@ -37,7 +38,7 @@ class ViewPanel final : public lumworkspace::workspace::TabPanel {
 };
 
 // Makes the panels of one type, each around the view that a function gives.
-class PanelCreator final : public lumworkspace::workspace::TabCreator {
+class PanelCreator : public lumworkspace::workspace::TabCreator {
  public:
   using MakeView = std::function<boost::intrusive_ptr<lumui::ui::UI_SubView>()>;
 
