@@ -15,6 +15,7 @@ vek_test(outliner_tests
     hosts/PropertiesTest.cpp
     hosts/RunningOutliner.cpp
     hosts/ScriptRunTest.cpp
+    hosts/SearchTest.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
 

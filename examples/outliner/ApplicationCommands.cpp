@@ -47,11 +47,15 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandQuit] = {always, [this] { mApp.EndEventLoop(); }, nullptr};
   mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }, nullptr};
   mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }, nullptr};
+  mEntries[kCommandFind] = {always, [this] { mApp.Find(); }, nullptr};
+  mEntries[kCommandFindNext] = {hasDocument, [this] { mApp.FindNext(true); }, nullptr};
+  mEntries[kCommandFindPrevious] = {hasDocument, [this] { mApp.FindNext(false); }, nullptr};
   mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};
   mEntries[kCommandWorkspaceReset] = {[this] { return mApp.CanResetWorkspace(); },
                                       [this] { mApp.ResetWorkspace(); }, nullptr};
-  for (const int panel : {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands,
-                          kCommandShowMap, kCommandShowProperties, kCommandShowHistory}) {
+  for (const int panel :
+       {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands, kCommandShowMap,
+        kCommandShowProperties, kCommandShowHistory, kCommandShowSearch}) {
     mEntries[panel] = {always, [this, panel] { mApp.TogglePanel(panel); },
                        [this, panel] { return mApp.IsPanelInFront(panel); }};
   }

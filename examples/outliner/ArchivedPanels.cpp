@@ -8,6 +8,7 @@
 #include "OutlinerCommands.h"
 #include "Panels.h"
 #include "PropertiesPanel.h"
+#include "SearchPanel.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumworkspace/workspace/Workspace.h"
 #include "vek/app/App.h"
@@ -64,11 +65,18 @@ class PlacedCreator final : public vek::workspace::GenericPanelCreatorBase::TabC
 const ArchivedPanel<PropertiesController> gProperties(PropertiesPanel(),
                                                       "$$$/outliner/Panel/Properties=Properties",
                                                       kCommandShowProperties, ToUTF8("Properties"));
+const ArchivedPanel<SearchController> gSearch(SearchPanel(), "$$$/outliner/Panel/Search=Search",
+                                              kCommandShowSearch, ToUTF8("Search"));
 
 }  // namespace
 
 const UTF8String& PropertiesPanel() {
   static const UTF8String sType = ToUTF8("outliner.properties");
+  return sType;
+}
+
+const UTF8String& SearchPanel() {
+  static const UTF8String sType = ToUTF8("outliner.search");
   return sType;
 }
 
@@ -83,7 +91,8 @@ bool FocusArchivedPanel(const Workspace& inWorkspace, const UTF8String& inTabTyp
 
 TabPlace PlaceBesideRows(const Workspace& inWorkspace) {
   TabPlace place;
-  for (const UTF8String& other : {PropertiesPanel(), HistoryPanel(), CommandsPanel()}) {
+  for (const UTF8String& other :
+       {PropertiesPanel(), HistoryPanel(), SearchPanel(), CommandsPanel()}) {
     if (!inWorkspace.FindTab(other)) continue;
     place.where = TabPlace::kTabWith;
     place.besideType = other;
@@ -97,6 +106,7 @@ TabPlace PlaceBesideRows(const Workspace& inWorkspace) {
 
 void PlaceArchivedPanels(Workspace& ioWorkspace) {
   ioWorkspace.RegisterTabCreator(new PlacedCreator(gProperties));
+  ioWorkspace.RegisterTabCreator(new PlacedCreator(gSearch));
 }
 
 }  // namespace outliner

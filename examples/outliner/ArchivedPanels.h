@@ -15,6 +15,7 @@ namespace outliner {
 // The types of the panels that come out of archives, as workspaces keep them. What they are is
 // known before main.
 const lumcore::UTF8String& PropertiesPanel();
+const lumcore::UTF8String& SearchPanel();
 // What a controller of such a panel is as well, if the panel takes the keyboard when it is shown.
 class TakesKeyboard {
  public:

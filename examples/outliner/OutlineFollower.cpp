@@ -27,6 +27,7 @@ OutlineFollower::OutlineFollower(std::function<void()> inShow)
 }
 
 OutlineFollower::~OutlineFollower() {
+  mGone = nullptr;
   *mShow = nullptr;
   Follow(nullptr);
 }
@@ -46,13 +47,20 @@ void OutlineFollower::Follow(OutlineDocument* inDocument) {
     mDocument->GetSelection().GetSelectionChangeNotifier()->RemoveListener(
         static_cast<Selection*>(this));
     mDocument->GetUndoer().GetItemsChangedNotifier()->RemoveListener(static_cast<Items*>(this));
+    if (mGone) mGone();
   }
   mDocument = inDocument;
+  ++mVersion;
   if (mDocument) {
     mDocument->GetSelection().GetSelectionChangeNotifier()->AddListener(
         static_cast<Selection*>(this));
     mDocument->GetUndoer().GetItemsChangedNotifier()->AddListener(static_cast<Items*>(this));
   }
+  ShowSoon();
+}
+
+void OutlineFollower::ListenToMessage(const vek::undo::ItemsChangedMsg&) {
+  ++mVersion;
   ShowSoon();
 }
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "OutlineRow.h"
@@ -32,6 +33,10 @@ class OutlineFollower final
   OutlineFollower& operator=(const OutlineFollower&) = delete;
 
   OutlineDocument* GetDocument() const { return mDocument; }  // the current one, or null
+  // Another number for another document, and after each edit; the selection does not count.
+  unsigned GetVersion() const { return mVersion; }
+  // Called at once when the document is no longer the current one: it may be about to go.
+  void SetGoneFunction(std::function<void()> inGone) { mGone = std::move(inGone); }
   // In document order; none without a document.
   std::vector<OutlineRow*> GetSelectedRows() const;
   // Has the panel show itself once more, as a message would.
@@ -40,10 +45,12 @@ class OutlineFollower final
  private:
   void ListenToMessage(const vek::app::DocStatusMessage inMessage) override;
   void ListenToMessage(const vek::selection::SelectionChangeMessage&) override { ShowSoon(); }
-  void ListenToMessage(const vek::undo::ItemsChangedMsg&) override { ShowSoon(); }
+  void ListenToMessage(const vek::undo::ItemsChangedMsg&) override;
   void Follow(OutlineDocument* inDocument);
 
   OutlineDocument* mDocument = nullptr;
+  unsigned mVersion = 0;
+  std::function<void()> mGone;
   std::shared_ptr<std::function<void()>> mShow;
   std::shared_ptr<bool> mIsDue;
 };

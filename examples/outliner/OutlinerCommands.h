@@ -57,6 +57,10 @@ enum Command : int {
   kCommandMapGoToRow,
   kCommandShowProperties,
   kCommandShowHistory,
+  kCommandShowSearch,
+  kCommandFind,
+  kCommandFindNext,
+  kCommandFindPrevious,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

@@ -43,9 +43,10 @@ const Items& FileItems() {
 
 const Items& EditItems() {
   static const Items sItems = {
-      kCommandUndo,     kCommandRedo,     kSeparator, kCommandNewSibling, kCommandNewChild,
-      kCommandEditText, kCommandDelete,   kSeparator, kCommandIndent,     kCommandOutdent,
-      kCommandMoveUp,   kCommandMoveDown, kSeparator, kCommandSelectAll};
+      kCommandUndo,     kCommandRedo,     kSeparator,          kCommandNewSibling, kCommandNewChild,
+      kCommandEditText, kCommandDelete,   kSeparator,          kCommandIndent,     kCommandOutdent,
+      kCommandMoveUp,   kCommandMoveDown, kSeparator,          kCommandSelectAll,  kSeparator,
+      kCommandFind,     kCommandFindNext, kCommandFindPrevious};
   return sItems;
 }
 

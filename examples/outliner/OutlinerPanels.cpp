@@ -11,6 +11,7 @@
 #include "HistoryView.h"
 #include "MapPane.h"
 #include "NotesView.h"
+#include "OutlineDocument.h"
 #include "OutlinerApp.h"
 #include "OutlinerCommands.h"
 #include "OutlinerMenus.h"
@@ -210,6 +211,29 @@ void OutlinerApp::TogglePanel(int inCommand) {
   if (auto* const history = FindView<HistoryPane>(GetWorkspace(), type)) history->FocusList();
   if (type == OutlinePanel()) mFrame->FocusRows();
   FocusArchivedPanel(*GetWorkspace(), type);
+}
+
+void OutlinerApp::FocusRows() {
+  ShowOutlinePanel();
+  mFrame->FocusRows();
+}
+
+void OutlinerApp::Find() {
+  GetWorkspace()->OpenTab(SearchPanel());
+  FocusArchivedPanel(*GetWorkspace(), SearchPanel());
+}
+
+void OutlinerApp::FindNext(bool inForward) {
+  OutlineDocument* const document = GetOutline();
+  if (!document) return;
+  document->CommitTyping();
+  OutlineRow* const row = search::FindNext(*document, TextSearch(mSearchWish.term), inForward);
+  if (!row) {
+    Find();
+    return;
+  }
+  document->SelectRows({row});
+  if (!IsPanelInFront(kCommandShowOutline)) GetWorkspace()->OpenTab(OutlinePanel());
 }
 
 MapPane* OutlinerApp::FindMap() const {

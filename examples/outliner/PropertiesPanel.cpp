@@ -98,6 +98,7 @@ PropertiesController::PropertiesController(vek::workspace::GenericPanel* inPanel
 
 PropertiesController::~PropertiesController() {
   if (mNamed) mNamed->clear();
+  if (mNewName) mNewName->SetEnterFunction(nullptr);
   if (mAdd) mAdd->clear();
   if (mFields) mFields->SetFunctions({});
 }
@@ -120,14 +121,9 @@ void PropertiesController::ConnectControls() {
   functions.remove = [this](const Property& inProperty) { Remove(inProperty); };
   mFields->SetFunctions(functions);
   mNewName = GetControl<lumui::controls::UI_TextEdit>("NewAttribute");
-  // Enter leaves the keyboard in the field; a name that was only left there waits.
-  mNamed.reset(new ChangedFunction([this](Message* inMessage) {
-    ShowHint(UTF16String());
-    if (inMessage->GetChange() == Message::kChanged && mNewName->UI_HasKeyboardFocus()) {
-      AddAttribute();
-    }
-  }));
+  mNamed.reset(new ChangedFunction([this](Message*) { ShowHint(UTF16String()); }));
   mNewName->NotifyWhenChangedInteractively(mNamed);
+  mNewName->SetEnterFunction([this] { AddAttribute(); });
   mAdd.reset(new ChangedFunction([this](Message*) { AddAttribute(); }));
   GetControl<lumui::controls::UI_TextButton>("AddAttribute")->NotifyWhenChanged(mAdd);
 }

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "controls/ControlPeer.h"
 #include "controls/EditWidget.h"
@@ -69,8 +70,9 @@ class TextEditPeer : public ControlPeer {
   QWidget* MakeLineEdit(QWidget* inParent) {
     auto* const edit = new ControlWidgetT<LineEdit, QStyleOptionFrame>(*this, inParent);
     edit->mOnEnter = [this] {
-      ByUser([&] { Edit().Commit(); });
-      return !IsInDialog();
+      const bool isInDialog = IsInDialog();
+      ByUser([&] { isInDialog ? Edit().Commit() : Edit().HandleEnter(); });
+      return !isInDialog;
     };
     ConnectEscape(*edit);
     QObject::connect(edit, &QLineEdit::textEdited, edit, [this](const QString& inText) {
@@ -191,6 +193,18 @@ void UI_TextEdit::Commit() {
   mUncommitted = false;
   mCommittedText = mText;
   TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
+}
+
+void UI_TextEdit::SetEnterFunction(std::function<void()> inEntered) {
+  mEntered = std::move(inEntered);
+}
+
+// Each of the two may take the field away, or the function.
+void UI_TextEdit::HandleEnter() {
+  const boost::intrusive_ptr<UI_TextEdit> keep(this);
+  Commit();
+  const std::function<void()> entered = mEntered;
+  if (entered) entered();
 }
 
 bool UI_TextEdit::Revert() {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 #include "lumcore/Strings.h"
 #include "lumui/controls/UI_InteractiveControlView.h"
@@ -47,6 +48,9 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   void SelectAll() { SetSelection(0, mText.size()); }
 
   void Commit() override;
+  // Of one line, outside dialogs: called after the commit when Enter is pressed, also where there
+  // was nothing to commit; for fields in which Enter does more. Null for nothing.
+  void SetEnterFunction(std::function<void()> inEntered);
 
  protected:
   void DoShowState() override;
@@ -54,6 +58,7 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
  private:
   friend class TextEditPeer;
   void HandleEdited(const lumcore::UTF16String& inText);
+  void HandleEnter();
   bool Revert();  // false if there is nothing to bring back
 
   bool mMultiLine;
@@ -65,6 +70,7 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   lumcore::UTF16String mText;
   lumcore::UTF16String mCommittedText;
   lumcore::UTF16String mPlaceholder;
+  std::function<void()> mEntered;
 };
 
 }  // namespace lumui::controls
