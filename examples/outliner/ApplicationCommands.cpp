@@ -9,7 +9,9 @@
 #include "OutlineDocument.h"
 #include "OutlinerApp.h"
 #include "OutlinerCommands.h"
+#include "OwnFileDialog.h"
 #include "RowEditor.h"
+#include "Shortcuts.h"
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
@@ -51,11 +53,16 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandFindNext] = {hasDocument, [this] { mApp.FindNext(true); }, nullptr};
   mEntries[kCommandFindPrevious] = {hasDocument, [this] { mApp.FindNext(false); }, nullptr};
   mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};
+  mEntries[kCommandShortcuts] = {always, [this] { EditShortcuts(mApp); }, nullptr};
+  mEntries[kCommandKeyboardMap] = {always, [this] { EditKeyboardMap(mApp); }, nullptr};
+  mEntries[kCommandOwnFileDialog] = {always, [] { SetUsesOwnFileDialog(!UsesOwnFileDialog()); },
+                                     &UsesOwnFileDialog};
   mEntries[kCommandWorkspaceReset] = {[this] { return mApp.CanResetWorkspace(); },
                                       [this] { mApp.ResetWorkspace(); }, nullptr};
   for (const int panel :
        {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands, kCommandShowMap,
-        kCommandShowProperties, kCommandShowHistory, kCommandShowSearch}) {
+        kCommandShowFiles, kCommandShowConsole, kCommandShowNodes, kCommandShowProperties,
+        kCommandShowHistory, kCommandShowSearch}) {
     mEntries[panel] = {always, [this, panel] { mApp.TogglePanel(panel); },
                        [this, panel] { return mApp.IsPanelInFront(panel); }};
   }
@@ -126,11 +133,7 @@ bool ApplicationCommands::DispatchDocument(std::size_t inIndex, CommandEnableQue
 }
 
 void ApplicationCommands::AskForFile() {
-  const OutlineDocument* const current = mApp.GetOutline();
-  const UTF16String folder = current && !current->GetProjectFile().GetPath().empty()
-                                 ? current->Parent().FullPath()
-                                 : UTF16String();
-  const UTF16String path = AskForFileToOpen(folder, mApp.FindMainWindow());
+  const UTF16String path = AskForFileToOpen(mApp.GetFolderOfOutline(), mApp.FindMainWindow());
   if (!path.empty()) mApp.OpenOutline(File(path));
 }
 

@@ -5,6 +5,7 @@
 
 #include <boost/intrusive_ptr.hpp>
 
+#include "LineField.h"
 #include "OutlinerCommands.h"
 #include "Panels.h"
 #include "PropertiesPanel.h"
@@ -105,6 +106,7 @@ TabPlace PlaceBesideRows(const Workspace& inWorkspace) {
 }
 
 void PlaceArchivedPanels(Workspace& ioWorkspace) {
+  LineField::Register();
   ioWorkspace.RegisterTabCreator(new PlacedCreator(gProperties));
   ioWorkspace.RegisterTabCreator(new PlacedCreator(gSearch));
 }

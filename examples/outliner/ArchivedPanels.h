@@ -26,7 +26,8 @@ class TakesKeyboard {
 bool FocusArchivedPanel(const lumworkspace::workspace::Workspace& inWorkspace,
                         const lumcore::UTF8String& inTabType);
 
-// Says where they open for the first time, once the workspace knows the panels.
+// Says where they open for the first time, once the workspace knows the panels, and makes known
+// what their archives hold.
 void PlaceArchivedPanels(lumworkspace::workspace::Workspace& ioWorkspace);
 
 // The first place of a panel that goes with the rows: behind another such panel that is open, or

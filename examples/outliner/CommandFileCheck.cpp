@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "CommandList.h"
 #include "FileCheck.h"
 #include "FileRecords.h"
 #include "OutlinerCommands.h"
@@ -96,9 +97,15 @@ class CommandFileChecker {
   void CheckTexts(const FileRecord& inRecord) {
     std::string key = ToStdString(inRecord.GetText("displayname"));
     if (!key.empty() && key.back() == ')') key.pop_back();
-    if (lumcore::config::Localizer::Get()->GetLocalizedString(key.c_str()).empty()) {
+    const UTF16String name = lumcore::config::Localizer::Get()->GetLocalizedString(key.c_str());
+    if (name.empty()) {
       mFindings.Add(inRecord.line,
                     "$$$/outliner/Check/NoDisplayName=there is no display name that gives a text");
+    } else if (TitleBegin(name) == 0) {
+      mFindings.Add(inRecord.line,
+                    "$$$/outliner/Check/NoCategory=the display name \"@0\" has no category: it "
+                    "reads as \"category.name\"",
+                    name);
     }
     const std::string repeatable = ToStdString(inRecord.GetText("repeatable"));
     if (!repeatable.empty() && repeatable != "true" && repeatable != "false") {

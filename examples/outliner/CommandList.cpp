@@ -59,6 +59,21 @@ std::string EscapeForPage(const UTF16String& inText) {
 
 }  // namespace
 
+// The dots at the end of a title begin no other one.
+std::size_t TitleBegin(const UTF16String& inDisplayName) {
+  const std::size_t dot = inDisplayName.find('.');
+  if (dot == UTF16String::npos || dot + 1 == inDisplayName.size()) return 0;
+  return inDisplayName[dot + 1] == '.' ? 0 : dot + 1;
+}
+
+UTF16String TitleOfCommand(int inCommand) {
+  const CommandRegistry& registry = CommandRegistry::Get();
+  const auto found = registry.FindCommandByID(inCommand);
+  if (found == registry.RegistryEnd()) return {};
+  const UTF16String name = found->second.GetDisplayName();
+  return name.substr(TitleBegin(name));
+}
+
 // A key that has a mapping for its first press and one for being held stands here once. The key
 // that menus show comes first.
 UTF16String KeysOfCommand(int inCommand) {
@@ -81,7 +96,7 @@ std::string RenderCommandTable() {
                  Localized("$$$/outliner/List/Keys=keys")};
   const auto rows = MakeRows(head, [](const auto& inCommand) {
     return Row{ToUTF16(std::to_string(inCommand.GetCommandID())), inCommand.GetName(),
-               inCommand.GetDisplayName(), KeysOfCommand(inCommand.GetCommandID())};
+               TitleOfCommand(inCommand.GetCommandID()), KeysOfCommand(inCommand.GetCommandID())};
   });
   std::vector<std::size_t> widths(head.size());
   for (const Row& row : rows) {
@@ -99,8 +114,8 @@ std::string RenderCommandPage() {
                  Localized("$$$/outliner/Page/Description=What it does"),
                  Localized("$$$/outliner/Page/Keys=Keys")};
   const auto rows = MakeRows(head, [](const auto& inCommand) {
-    return Row{inCommand.GetName(), inCommand.GetDisplayName(), inCommand.GetDescription(),
-               KeysOfCommand(inCommand.GetCommandID())};
+    return Row{inCommand.GetName(), TitleOfCommand(inCommand.GetCommandID()),
+               inCommand.GetDescription(), KeysOfCommand(inCommand.GetCommandID())};
   });
   std::string page =
       "# " + ToStdString(Localized("$$$/outliner/Page/Title=Commands of the outliner")) + "\n\n";

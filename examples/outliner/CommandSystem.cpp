@@ -91,6 +91,18 @@ void AddContextKeys() {
   }
 }
 
+void AddQuitKey() {
+  const auto code = lumui::ui::KeyboardCode::CreateFromKeyboardChar('Q', false);
+  const lumui::ui::ModifierKeys command(lumui::ui::kModCommand);
+  KeyCommandManager& manager = KeyCommandManager::Get();
+  for (const auto* mapping : manager.GetGlobalMappings()) {
+    if (mapping->GetCommandID() == kCommandQuit) return;
+    if (mapping->GetKeyboardCode() == code && mapping->GetModifiers() == command) return;
+  }
+  manager.AddKeyMapping(kCommandQuit, code, command, lumui::ui::KeyboardEvent::kActionKeyDown,
+                        nullptr, false, false);
+}
+
 void LoadKeysFrom(const File& inFile) {
   KeyCommandManager::Get().LoadKeyMappings(inFile);
   AddContextKeys();
@@ -124,6 +136,11 @@ const lumcore::UTF8String& MapContext() {
   return sContext;
 }
 
+File FileOfSet(const UTF16String& inName) {
+  return File(Dir(Dir::PrefDir(), "Shortcuts").FullPath() + ToUTF16("/") + inName +
+              ToUTF16(".xml"));
+}
+
 CommandSystem::SyntheticIds::SyntheticIds() {
   vek::uisupport::SyntheticCmdMgr::InitSyntheticCmdMgr(kFirstSyntheticId);
 }
@@ -147,10 +164,24 @@ void CommandSystem::LoadKeys() {
 }
 
 void CommandSystem::LoadUserKeys(const File& inFile) {
+  LoadInPlaceOfOwn(inFile, false);
+}
+
+void CommandSystem::LoadUserSet(const UTF16String& inName) {
+  LoadInPlaceOfOwn(FileOfSet(inName), true);
+  AddQuitKey();
+}
+
+void CommandSystem::AddLostKeys() {
+  AddContextKeys();
+  AddQuitKey();
+}
+
+void CommandSystem::LoadInPlaceOfOwn(const File& inFile, bool inMayBeEmpty) {
   UTF16String cause;
   try {
     LoadKeysFrom(inFile);
-    if (HasAnyKey()) return;
+    if (inMayBeEmpty || HasAnyKey()) return;
     cause = Text("$$$/outliner/Keys/None=@0: there is no key for any command of the outliner",
                  {ToUTF16(inFile.GetPath())});
   } catch (const lumcore::config::Error& error) {

@@ -23,6 +23,11 @@ const lumcore::UTF8String& TextContext();
 // That of the map, whose tools have letters for keys.
 const lumcore::UTF8String& MapContext();
 
+// The setting with the name of the set of keys that the user works with; empty for the host's own.
+inline constexpr const char* kCurrentSetKey = "currentShortcutSet";
+// Among the user's settings, as the shortcut dialog keeps it.
+lumcore::filesupport::File FileOfSet(const lumcore::UTF16String& inName);
+
 // Gives commands their names and then their keys, from the files, for as long as it lives: it fills
 // the framework's registry and key map, of which a process has one each, and leaves them as they
 // were before any host. One at a time.
@@ -40,8 +45,15 @@ class CommandSystem {
   // Puts a user's keys in the place of the host's own. A map that cannot be read, or that has no
   // key for any command, is reported, and the host's keys stay.
   void LoadUserKeys(const lumcore::filesupport::File& inFile);
+  // The same with one that the user keeps under a name, which need not have any key.
+  void LoadUserSet(const lumcore::UTF16String& inName);
+  // Adds to the keys in force what a saved map does not have: those of contexts, and Ctrl+Q, unless
+  // quitting has a key already or another command has this one.
+  static void AddLostKeys();
 
  private:
+  void LoadInPlaceOfOwn(const lumcore::filesupport::File& inFile, bool inMayBeEmpty);
+
   // The ids for commands without one.
   struct SyntheticIds {
     SyntheticIds();

@@ -68,7 +68,7 @@ void CommandsView::SetFilter(const UTF16String& inText) {
 CommandsView::Line CommandsView::LineOf(int inCommand) const {
   const auto found = CommandRegistry::Get().FindCommandByID(inCommand);
   Line line{inCommand,
-            found->second.GetDisplayName(),
+            TitleOfCommand(inCommand),
             found->second.GetDescription(),
             KeysOfCommand(inCommand),
             false,

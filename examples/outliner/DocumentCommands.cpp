@@ -3,29 +3,18 @@
 
 #include "DocumentCommands.h"
 
+#include "CommandList.h"
 #include "OutlineDocument.h"
 #include "OutlineEdits.h"
 #include "OutlinerCommands.h"
 #include "RowEditor.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
-#include "vek/uisupport/CommandRegistry.h"
 #include "vek/undo/Deed.h"
 
 namespace outliner {
 
 using lumcore::UTF16String;
-
-namespace {
-
-// In the place of the last deed's name, which a menu would go on to show.
-UTF16String NameOf(int inCommand) {
-  const auto& registry = vek::uisupport::CommandRegistry::Get();
-  const auto found = registry.FindCommandByID(inCommand);
-  return found == registry.RegistryEnd() ? UTF16String() : found->second.GetDisplayName();
-}
-
-}  // namespace
 
 DocumentCommands::DocumentCommands(OutlineDocument& inDocument) : mDocument(inDocument) {
   const auto always = [] { return true; };
@@ -105,13 +94,13 @@ UTF16String DocumentCommands::UndoTitle() const {
         "$$$/outliner/Command/UndoTyping=Undo Typing");
   }
   const vek::undo::Deed* deed = mDocument.GetUndoer().CouldUndoDeed();
-  return deed ? deed->GetUndoDescription() : NameOf(kCommandUndo);
+  return deed ? deed->GetUndoDescription() : TitleOfCommand(kCommandUndo);
 }
 
 UTF16String DocumentCommands::RedoTitle() const {
   const vek::undo::Deed* deed =
       mDocument.IsTyping() ? nullptr : mDocument.GetUndoer().CouldRedoDeed();
-  return deed ? deed->GetRedoDescription() : NameOf(kCommandRedo);
+  return deed ? deed->GetRedoDescription() : TitleOfCommand(kCommandRedo);
 }
 
 }  // namespace outliner

@@ -3,6 +3,9 @@
 
 #include "FileQuestions.h"
 
+#include <utility>
+
+#include "OwnFileDialog.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/FileDialog.h"
@@ -30,6 +33,14 @@ UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
+// Whoever answers in the place of the user answers the system's dialog.
+bool HasAnswerer() {
+  auto answerer = lumui::dialogs::SetFileDialogAnswerer(nullptr);
+  const bool has = static_cast<bool>(answerer);
+  lumui::dialogs::SetFileDialogAnswerer(std::move(answerer));
+  return has;
+}
+
 UTF16String Ask(FileDialogArgs::Kind inKind, const char* inTitle, const UTF16String& inPath,
                 lumui::ui::OS_Window* inOwner) {
   FileDialogArgs args;
@@ -41,7 +52,8 @@ UTF16String Ask(FileDialogArgs::Kind inKind, const char* inTitle, const UTF16Str
                   {Localized("$$$/outliner/Files/All=All files"), {}}};
   args.saveExtension = ToUTF16(kExtension);
   args.owner = inOwner;
-  return lumui::dialogs::RunFileDialog(args);
+  return UsesOwnFileDialog() && !HasAnswerer() ? RunOwnFileDialog(args)
+                                               : lumui::dialogs::RunFileDialog(args);
 }
 
 }  // namespace

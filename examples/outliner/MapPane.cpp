@@ -260,9 +260,9 @@ void MapPane::FocusChanged() {
 void MapPane::OpenRowMenu(const Point& inLocalPoint) {
   Point place = inLocalPoint;
   mView->LocalToGlobal(place);
-  const Rect& window = mView->UI_GetWindowNode()->UI_GetLocalRectF();
-  mFunctions.openRowMenu(
-      {static_cast<int>(place.x + window.x), static_cast<int>(place.y + window.y)});
+  lumcore::geom::PointT<int> onScreen(static_cast<int>(place.x), static_cast<int>(place.y));
+  mView->UI_GetWindowNode()->UI_WindowToScreen(onScreen);
+  mFunctions.openRowMenu(onScreen);
 }
 
 // There is nothing to type in here.

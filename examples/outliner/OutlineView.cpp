@@ -153,12 +153,12 @@ void OutlineView::OpenMenu(const MouseEvent& inEvent) {
   OutlineRow* const row = RowAt(inEvent.GetPosition().y);
   if (row && !mDocument->IsSelected(*row)) mDocument->SelectRows({row});
   if (!mOpenMenu) return;
-  const auto& window = UI_GetWindowNode()->UI_GetLocalRectF();
   lumcore::geom::PointT<int> place(static_cast<int>(inEvent.GetPosition().x),
                                    static_cast<int>(inEvent.GetPosition().y));
   if (mScrollView) place.y -= static_cast<int>(mScrollView->GetOffset().y);
   UI_LocalToGlobal(place);
-  mOpenMenu({place.x + static_cast<int>(window.x), place.y + static_cast<int>(window.y)});
+  UI_GetWindowNode()->UI_WindowToScreen(place);
+  mOpenMenu(place);
 }
 
 void OutlineView::Press(const MouseEvent& inEvent) {

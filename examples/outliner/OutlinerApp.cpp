@@ -125,8 +125,7 @@ void OutlinerApp::RegisterApplicationCommands() {
 // The registry is loaded by now, which a key map takes its commands from. The workspace that the
 // base applies wants the frame of the documents for its panel.
 bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
-  mCommandSystem->LoadKeys();
-  if (!mOptions.keys.empty()) mCommandSystem->LoadUserKeys(File(mOptions.keys));
+  LoadKeys();
   if (const float* const brightness = GetAppSettings().Find<float>(kBrightnessKey)) {
     SetBrightness(*brightness);
   }
@@ -134,6 +133,17 @@ bool OutlinerApp::InitApplication(vek::app::AppInitArgs& inArgs) {
   if (!MultiDocApplication::InitApplication(inArgs)) return false;
   DocumentStateChanged();
   return true;
+}
+
+// A map that was named for this run stands for the user's own set.
+void OutlinerApp::LoadKeys() {
+  mCommandSystem->LoadKeys();
+  const UTF16String set = GetAppSettings().Get(kCurrentSetKey, UTF16String());
+  if (!mOptions.keys.empty()) {
+    mCommandSystem->LoadUserKeys(File(mOptions.keys));
+  } else if (!set.empty()) {
+    mCommandSystem->LoadUserSet(set);
+  }
 }
 
 void OutlinerApp::MakeFrame() {
@@ -213,6 +223,7 @@ void OutlinerApp::LoadAppSettings() {
 // What cannot be written must not keep the program from ending.
 void OutlinerApp::SaveAppSettings() {
   if (!mSettingsAreRead) return;
+  KeepFilesPlace();
   try {
     MultiDocApplication::SaveAppSettings();
   } catch (...) {  // the user hears of it, once

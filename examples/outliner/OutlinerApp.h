@@ -68,6 +68,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
 
   OutlineDocument* GetOutline() const;  // the current one, or null
   std::vector<OutlineDocument*> GetOutlines() const;
+  lumcore::UTF16String GetFolderOfOutline() const;           // empty where it has no file
   std::vector<lumcore::UTF16String> GetRecentFiles() const;  // most recent first
   // From 0, the darkest, to 1; kept in the settings.
   void SetBrightness(float inBrightness);
@@ -135,8 +136,12 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   std::unique_ptr<OutlineDocument> Make(const File& inFile);
   OutlineDocument* FindOutline(const File& inFile) const;  // null where none has it
   void CheckFileOf(const OutlineDocument& inDocument, const File& inFile) const;
+  void LoadKeys();
   void MakeFrame();
   void ShowOutlinePanel();
+  void RegisterToolPanels(lumworkspace::workspace::Workspace& ioWorkspace);
+  lumcore::proplist::PropList& GetFilesSettings();
+  void KeepFilesPlace() const;
   void RunFromList(int inCommand);
   void DocumentStateChanged();
   void RemoveWorkspaceCommands();

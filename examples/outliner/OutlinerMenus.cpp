@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <string>
 
+#include "CommandList.h"
 #include "OutlinerCommands.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Menu.h"
-#include "vek/uisupport/CommandRegistry.h"
 #include "vek/uisupport/PlatformMenu.h"
 
 namespace outliner {
@@ -35,18 +35,21 @@ constexpr unsigned kNothing = kRecentFilesEnd;
 using Items = std::vector<int>;
 
 const Items& FileItems() {
-  static const Items sItems = {kCommandNew,      kCommandOpen,   kRecentFilesHere, kSeparator,
-                               kCommandSave,     kCommandSaveAs, kSeparator,       kCommandClose,
-                               kCommandCloseAll, kSeparator,     kCommandQuit};
+  static const Items sItems = {
+      kCommandNew,      kCommandOpen, kRecentFilesHere,      kSeparator, kCommandSave,
+      kCommandSaveAs,   kSeparator,   kCommandOwnFileDialog, kSeparator, kCommandClose,
+      kCommandCloseAll, kSeparator,   kCommandQuit};
   return sItems;
 }
 
 const Items& EditItems() {
-  static const Items sItems = {
-      kCommandUndo,     kCommandRedo,     kSeparator,          kCommandNewSibling, kCommandNewChild,
-      kCommandEditText, kCommandDelete,   kSeparator,          kCommandIndent,     kCommandOutdent,
-      kCommandMoveUp,   kCommandMoveDown, kSeparator,          kCommandSelectAll,  kSeparator,
-      kCommandFind,     kCommandFindNext, kCommandFindPrevious};
+  static const Items sItems = {kCommandUndo,       kCommandRedo,      kSeparator,
+                               kCommandNewSibling, kCommandNewChild,  kCommandEditText,
+                               kCommandDelete,     kSeparator,        kCommandIndent,
+                               kCommandOutdent,    kCommandMoveUp,    kCommandMoveDown,
+                               kSeparator,         kCommandSelectAll, kSeparator,
+                               kCommandFind,       kCommandFindNext,  kCommandFindPrevious,
+                               kSeparator,         kCommandShortcuts, kCommandKeyboardMap};
   return sItems;
 }
 
@@ -58,10 +61,22 @@ const Items& RowItems() {
 }
 
 const Items& ViewItems() {
-  static const Items sItems = {kCommandShowOutline,      kCommandShowNotes, kCommandShowCommands,
-                               kCommandShowMap,          kMapHere,          kCommandShowProperties,
-                               kCommandShowHistory,      kSeparator,        kCommandNextDocument,
-                               kCommandPreviousDocument, kDocumentsHere,    kSeparator,
+  static const Items sItems = {kCommandShowOutline,
+                               kCommandShowNotes,
+                               kCommandShowCommands,
+                               kCommandShowMap,
+                               kMapHere,
+                               kCommandShowProperties,
+                               kCommandShowHistory,
+                               kCommandShowSearch,
+                               kCommandShowFiles,
+                               kCommandShowConsole,
+                               kCommandShowNodes,
+                               kSeparator,
+                               kCommandNextDocument,
+                               kCommandPreviousDocument,
+                               kDocumentsHere,
+                               kSeparator,
                                kBrightnessHere};
   return sItems;
 }
@@ -86,9 +101,7 @@ UTF16String Escaped(const UTF16String& inText) {
 }
 
 UTF16String NameOf(int inCommand) {
-  const CommandRegistry& registry = CommandRegistry::Get();
-  const auto found = registry.FindCommandByID(inCommand);
-  return found == registry.RegistryEnd() ? UTF16String() : Escaped(found->second.GetDisplayName());
+  return Escaped(TitleOfCommand(inCommand));
 }
 
 void Clear(HMENU inMenu) {

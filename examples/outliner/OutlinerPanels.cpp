@@ -8,6 +8,7 @@
 #include "CommandsPane.h"
 #include "CommandsView.h"
 #include "DocumentFrame.h"
+#include "FilesPane.h"
 #include "HistoryView.h"
 #include "MapPane.h"
 #include "NotesView.h"
@@ -18,6 +19,7 @@
 #include "OutlinerWorkspaces.h"
 #include "Panels.h"
 #include "Reports.h"
+#include "ScriptConsole.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
@@ -29,6 +31,7 @@
 #include "lumworkspace/workspace/WorkspaceFrameBase.h"
 #include "vek/uisupport/ReportError.h"
 #include "vek/workspace/GenericPanelRegistry.h"
+#include "vek/workspace/ViewDebuggerTabCreator.h"
 #include "vek/workspace/WorkspaceUtils.h"
 
 namespace outliner {
@@ -43,6 +46,10 @@ namespace {
 constexpr int kNotesHeight = 170;
 constexpr int kCommandsWidth = 380;
 constexpr int kMapWidth = 480;
+constexpr int kFilesWidth = 260;
+constexpr int kConsoleHeight = 200;
+
+constexpr const char* kFilesKey = "files";
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -71,6 +78,9 @@ UTF8String PanelOf(int inCommand) {
          : inCommand == kCommandShowNotes   ? NotesPanel()
          : inCommand == kCommandShowMap     ? MapPanel()
          : inCommand == kCommandShowHistory ? HistoryPanel()
+         : inCommand == kCommandShowFiles   ? FilesPanel()
+         : inCommand == kCommandShowConsole ? ConsolePanel()
+         : inCommand == kCommandShowNodes   ? NodesPanel()
                                             : CommandsPanel();
 }
 
@@ -112,6 +122,45 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
       HistoryPanel(), "$$$/outliner/Panel/History=History", TabPlace(),
       [] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new HistoryPane); }));
   PlaceArchivedPanels(*inWorkspace);
+  RegisterToolPanels(*inWorkspace);
+}
+
+// What helps beside the work on an outline.
+void OutlinerApp::RegisterToolPanels(Workspace& ioWorkspace) {
+  TabPlace place;
+  place.besideType = OutlinePanel();
+  place.where = TabPlace::kLeftOf;
+  place.size = kFilesWidth;
+  ioWorkspace.RegisterTabCreator(
+      new PanelCreator(FilesPanel(), "$$$/outliner/Panel/Files=Files", place, [this] {
+        return boost::intrusive_ptr<lumui::ui::UI_SubView>(new FilesPane(
+            GetFilesSettings(), [this](const File& inFile) { OpenOutline(inFile); },
+            [this] { return GetFolderOfOutline(); }));
+      }));
+  place.where = TabPlace::kBelow;
+  place.size = kConsoleHeight;
+  ioWorkspace.RegisterTabCreator(new PanelCreator(
+      ConsolePanel(), "$$$/outliner/Panel/Console=Script Console", place,
+      [] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new ScriptConsole); }));
+  ioWorkspace.RegisterTabCreator(new vek::workspace::ViewDebuggerTabCreator);
+}
+
+// A list of its own, as the folders' paths are keys in it.
+lumcore::proplist::PropList& OutlinerApp::GetFilesSettings() {
+  auto& settings = GetAppSettings();
+  auto* const files = settings.GetSubList(kFilesKey);
+  return files ? *files : settings.CreateSubList(kFilesKey);
+}
+
+void OutlinerApp::KeepFilesPlace() const {
+  if (const auto* const files = FindView<FilesPane>(GetWorkspace(), FilesPanel()))
+    files->SaveState();
+}
+
+UTF16String OutlinerApp::GetFolderOfOutline() const {
+  const OutlineDocument* const current = GetOutline();
+  const bool hasFile = current && !current->GetProjectFile().GetPath().empty();
+  return hasFile ? current->Parent().FullPath() : UTF16String();
 }
 
 BuiltInWorkspaceProviderBase* OutlinerApp::InitWorkspaceProvider() {
@@ -210,6 +259,8 @@ void OutlinerApp::TogglePanel(int inCommand) {
   if (MapPane* const map = FindMap(); map && type == MapPanel()) map->FocusMap();
   if (auto* const history = FindView<HistoryPane>(GetWorkspace(), type)) history->FocusList();
   if (type == OutlinePanel()) mFrame->FocusRows();
+  if (auto* const files = FindView<FilesPane>(GetWorkspace(), type)) files->FocusTree();
+  if (auto* const console = FindView<ScriptConsole>(GetWorkspace(), type)) console->FocusInput();
   FocusArchivedPanel(*GetWorkspace(), type);
 }
 

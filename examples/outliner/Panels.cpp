@@ -7,6 +7,7 @@
 
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
+#include "vek/workspace/ViewDebuggerTabCreator.h"
 
 namespace outliner {
 
@@ -43,6 +44,21 @@ const UTF8String& MapPanel() {
 
 const UTF8String& HistoryPanel() {
   static const UTF8String sType = ToUTF8("outliner.history");
+  return sType;
+}
+
+const UTF8String& FilesPanel() {
+  static const UTF8String sType = ToUTF8("outliner.files");
+  return sType;
+}
+
+const UTF8String& ConsolePanel() {
+  static const UTF8String sType = ToUTF8("outliner.console");
+  return sType;
+}
+
+const UTF8String& NodesPanel() {
+  static const UTF8String sType = ToUTF8(vek::workspace::ViewDebuggerTabCreator::kTabType);
   return sType;
 }
 

@@ -17,6 +17,9 @@ const lumcore::UTF8String& OutlinePanel();
 const lumcore::UTF8String& NotesPanel();
 const lumcore::UTF8String& CommandsPanel();
 const lumcore::UTF8String& MapPanel();
+const lumcore::UTF8String& FilesPanel();
+const lumcore::UTF8String& ConsolePanel();
+const lumcore::UTF8String& NodesPanel();
 const lumcore::UTF8String& HistoryPanel();
 
 // A panel that one view fills. The view may outlive it, and fill the next one.

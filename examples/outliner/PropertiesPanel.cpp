@@ -120,7 +120,7 @@ void PropertiesController::ConnectControls() {
   };
   functions.remove = [this](const Property& inProperty) { Remove(inProperty); };
   mFields->SetFunctions(functions);
-  mNewName = GetControl<lumui::controls::UI_TextEdit>("NewAttribute");
+  mNewName = GetControl<LineField>("NewAttribute");
   mNamed.reset(new ChangedFunction([this](Message*) { ShowHint(UTF16String()); }));
   mNewName->NotifyWhenChangedInteractively(mNamed);
   mNewName->SetEnterFunction([this] { AddAttribute(); });

@@ -9,6 +9,7 @@
 
 #include "ArchivedPanels.h"
 #include "AttributeEditor.h"
+#include "LineField.h"
 #include "OutlineFollower.h"
 #include "PropertyRows.h"
 #include "vek/workspace/GenericPanelController.h"
@@ -45,7 +46,7 @@ class PropertiesController final : public vek::workspace::GenericPanelController
   AttributeEditor::Rows mRows;   // that the fields show
   lumcore::UTF16String mWanted;  // the field that gets the keyboard as soon as it is there
   boost::intrusive_ptr<PropertyRows> mFields;
-  boost::intrusive_ptr<lumui::controls::UI_TextEdit> mNewName;
+  boost::intrusive_ptr<LineField> mNewName;
   boost::shared_ptr<ChangedFunction> mNamed;
   boost::shared_ptr<ChangedFunction> mAdd;
 };

@@ -41,6 +41,7 @@ SearchController::~SearchController() {
     function->clear();
   if (!mResults) return;
   mField->SetEnterFunction(nullptr);
+  mField->SetDownFunction(nullptr);
   mReplacement->SetEnterFunction(nullptr);
   GetList().SetChooseFunction(nullptr);
   GetList().Forget();
@@ -74,8 +75,8 @@ void SearchController::ConnectControls() {
 
 void SearchController::ConnectTexts() {
   const SearchWish& wish = mApp.GetSearchWish();
-  mField = GetControl<lumui::controls::UI_TextEdit>("SearchField");
-  mReplacement = GetControl<lumui::controls::UI_TextEdit>("SearchReplacement");
+  mField = GetControl<LineField>("SearchField");
+  mReplacement = GetControl<LineField>("SearchReplacement");
   mCase = GetControl<lumui::controls::UI_Checkbox>("SearchCase");
   mWords = GetControl<lumui::controls::UI_Checkbox>("SearchWords");
   mField->SetText(wish.term.text);
@@ -86,6 +87,7 @@ void SearchController::ConnectTexts() {
     if (inMessage->GetChange() != Message::kChanged) TermChanged();
   }));
   mField->SetEnterFunction([this] { Next(); });
+  mField->SetDownFunction([this] { GetList().UI_SetKeyboardFocus(lumui::ui::kFocusOther); });
   mReplacement->SetEnterFunction([this] { Replace(); });
   mReplacement->NotifyWhenChangedInteractively(NewFunction(
       [this](Message*) { mApp.GetSearchWish().replacement = mReplacement->GetText(); }));

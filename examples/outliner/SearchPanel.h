@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "ArchivedPanels.h"
+#include "LineField.h"
 #include "OutlineFollower.h"
 #include "OutlineSearch.h"
 #include "SearchResults.h"
-#include "lumui/controls/UI_TextEdit.h"
 #include "vek/workspace/GenericPanelController.h"
 
 namespace lumui::controls {
@@ -61,8 +61,8 @@ class SearchController final : public vek::workspace::GenericPanelController, pu
   unsigned mShownVersion = 0;
   lumcore::UTF16String mNews;  // in place of the summary, until the next step
   boost::intrusive_ptr<SearchResultsPane> mResults;
-  boost::intrusive_ptr<lumui::controls::UI_TextEdit> mField;
-  boost::intrusive_ptr<lumui::controls::UI_TextEdit> mReplacement;
+  boost::intrusive_ptr<LineField> mField;
+  boost::intrusive_ptr<LineField> mReplacement;
   boost::intrusive_ptr<lumui::controls::UI_Checkbox> mCase;
   boost::intrusive_ptr<lumui::controls::UI_Checkbox> mWords;
   std::vector<boost::shared_ptr<ChangedFunction>> mFunctions;

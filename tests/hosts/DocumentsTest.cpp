@@ -121,7 +121,8 @@ TEST(Menus, SayNamesKeysAndStatesAndDoWhatIsChosen) {
   const auto file = ToUTF16("File");
   EXPECT_EQ(MenuText(host, {file}),
             "&New\tCtrl+N | &Open...\tCtrl+O | Open &Recent > | --- | &Save\tCtrl+S | "
-            "Save &As...\tCtrl+Shift+S | --- | &Close\tCtrl+W | C&lose All\tCtrl+Shift+W | --- | "
+            "Save &As...\tCtrl+Shift+S | --- | &Use vek's File Dialog | --- | &Close\tCtrl+W | "
+            "C&lose All\tCtrl+Shift+W | --- | "
             "&Quit\tCtrl+Q");
   host.Keys("Down Alt+Down");
   EXPECT_EQ(MenuText(host, {ToUTF16("Edit")}).find("&Undo Move Down\tCtrl+Z | ~&Redo"), 0u);

@@ -45,7 +45,7 @@ std::string With(const std::string& inRecord) {
   return file.insert(file.find("<cmdreg>") + 8, inRecord);
 }
 
-constexpr const char* kName = "<displayname>$$$/x=X</displayname>";
+constexpr const char* kName = "<displayname>$$$/x=Y.X</displayname>";
 
 TEST(FileCheck, NamesWhatACommandFileHasWrongByLineAndCause) {
   const struct {
@@ -62,6 +62,9 @@ TEST(FileCheck, NamesWhatACommandFileHasWrongByLineAndCause) {
       {"<cmd id='61439'><name>a</name><displayname>($$$/x)</displayname></cmd>",
        "nobody answers for the command 61439\n"
        "c:4: there is no display name that gives a text"},
+      {"<cmd id='61439'><name>a</name><displayname>$$$/x=X...</displayname></cmd>",
+       "nobody answers for the command 61439\n"
+       "c:4: the display name \"X...\" has no category: it reads as \"category.name\""},
       {"<cmd id='7'><name>a</name>%<repeatable>True</repeatable><key>3</key></cmd>",
        "\"key\" means nothing in a command file\nc:4: nobody answers for the command 7\n"
        "c:4: \"True\" counts as \"false\" for \"repeatable\""},
@@ -75,7 +78,7 @@ TEST(FileCheck, NamesWhatACommandFileHasWrongByLineAndCause) {
   // The first of two keeps what both want; another system's record wants nothing.
   const std::string twice =
       "<cmd id='1001' os='mac'/><cmd id='1001'><name>outliner.edit.undo"
-      "</name><displayname>$$$/x=X</displayname></cmd>";
+      "</name><displayname>$$$/x=Y.X</displayname></cmd>";
   const std::string file = With(twice);
   const auto undo = static_cast<std::ptrdiff_t>(file.find("id=\"1012\""));
   const auto line = 1 + std::count(file.begin(), file.begin() + undo, '\n');

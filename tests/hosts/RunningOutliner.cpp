@@ -124,10 +124,6 @@ Position RunningOutliner::PlaceIn(const std::string& inNode, float inX, float in
   if (!node) throw std::invalid_argument(inNode);
   lumcore::geom::PointT<int> corner(0, 0);
   node->UI_LocalToGlobal(corner);
-  // The pointer's positions begin below the menu bar, where the docks do.
-  lumcore::geom::PointT<int> docks(0, 0);
-  GetWindow().UI_GetChild(0)->UI_LocalToGlobal(docks);
-  corner = corner - docks;
   return {static_cast<float>(corner.x) + inX, static_cast<float>(corner.y) + inY};
 }
 

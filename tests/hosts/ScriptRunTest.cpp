@@ -57,7 +57,7 @@ TEST(ScriptRun, ListenersHearEachCommandOnceAlsoThoseThatListenersGive) {
                       "  if (event.name === 'outliner.row.delete') throw new Error('no more');"
                       "});\nOutliner.key('Down'); Command.invokeCommandByID(77);"
                       "Command.invokeCommand('outliner.select.all'); print('end');"),
-            "end\nSelect Next Row\nSelect All\nDelete\ns.js:1: Error: no more\n"
+            "end\nEdit.Select Next Row\nEdit.Select All\nRows.Delete\ns.js:1: Error: no more\n"
             "o.opml has changes that are not saved\n1");
 }
 

@@ -236,4 +236,28 @@ TEST_F(Menus, OperationsOnNothingFail) {
   EXPECT_EQ(OS_Menu::GetItemState(mFile, 2), 0x210u);
 }
 
+TEST_F(Menus, StandAboveTheCoordinatesOfTheNodes) {
+  const boost::intrusive_ptr<RecordingNode> node(
+      new RecordingNode("node", [this](const std::string& inWord) { Log(inWord); }));
+  mWindow->UI_SetLocalRectF(Rect(50, 60, 300, 200));
+  node->UI_SetLocalRectF(Rect(10, 20, 50, 50));
+  mWindow->UI_AddChild(node);
+  App().PumpPendingEvents();
+  lumcore::geom::PointT<int> point(3, 4);
+  node->UI_LocalToGlobal(point);
+  EXPECT_EQ(point, lumcore::geom::PointT<int>(13, 24));
+  TakeLog();
+  input::ClickMouse(*mWindow, Point(static_cast<float>(point.x), static_cast<float>(point.y)));
+  EXPECT_EQ(TakeLog(), "node:press@3,4 node:release@3,4");
+  mWindow->UI_WindowToScreen(point);
+  EXPECT_EQ(point.x, 63);
+  EXPECT_GT(point.y, 60 + 24 + 10);  // the bar is between
+  const auto withBar = point;
+  mWindow->UI_SetMenu(nullptr);
+  App().PumpPendingEvents();
+  mWindow->UI_ScreenToWindow(point);
+  node->UI_GlobalToLocal(point);
+  EXPECT_EQ(point, lumcore::geom::PointT<int>(3, 4 + withBar.y - 84));
+}
+
 }  // namespace lumui::test

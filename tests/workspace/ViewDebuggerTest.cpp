@@ -7,6 +7,7 @@
 #include "lumui/controls/UI_TextButton.h"
 #include "lumui/datatransfer/Clipboard.h"
 #include "lumui/ui/InputCapture.h"
+#include "lumui/ui/OS_Menu.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
 #include "lumui/ui/UI_NodeManager.h"
@@ -179,6 +180,23 @@ TEST_F(ViewDebugger, PicksUnderThePointerWithoutPressingAnything) {
   Tree().UI_SetKeyboardFocus(lumui::ui::kFocusOther);
   lumui::testing::TapKey(*main, lumui::ui::KeyboardCode(lumui::ui::KeyboardCode::kEscape));
   EXPECT_EQ(lumui::ui::UI_NodeManager::Get(true)->GetInputCapture(), nullptr);
+}
+
+TEST_F(ViewDebugger, PicksAndOutlinesBelowAMenuBar) {
+  const HMENU bar = lumui::ui::OS_Menu::Create(false);
+  lumui::ui::OS_Menu::InsertItem(bar, 0, 0, 1, U16("File"));
+  main->UI_SetMenu(bar);
+  main->UI_SetLocalRectF(RectT<float>(70, 80, 400, 300));
+  Settle();
+  mTab->BeginPicking();
+  lumcore::geom::PointT<int> corner;
+  mLamp->UI_LocalToGlobal(corner);
+  const auto x = static_cast<float>(corner.x), y = static_cast<float>(corner.y);
+  lumui::testing::MoveMouse(*main, {x + 1, y - 1});
+  EXPECT_EQ(mTab->GetChosenNode(), main->GetCentralNode());
+  lumui::testing::ClickMouse(*main, {x + 1, y + 1});
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  EXPECT_EQ(main->UI_GetChild(1)->UI_GetLocalRectF(), RectT<float>(x, y, 60, 2));
 }
 
 TEST_F(ViewDebugger, CopiesWhatItListsAndNotItsOutline) {

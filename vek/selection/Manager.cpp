@@ -4,6 +4,7 @@
 #include "vek/selection/Manager.h"
 
 #include <algorithm>
+#include <cassert>
 #include <functional>
 #include <memory>
 #include <set>
@@ -49,13 +50,13 @@ struct Manager::Impl {
 // asked for its list every time, but no set of all its nodes is built: what is selected is
 // looked for in its list, and mostly that is little.
 void Manager::Impl::Clean() {
-  Junction& junction = *mJunction;
-  if (auto* const knowing = dynamic_cast<KnowingJunction*>(&junction)) {
+  assert(mJunction);  // whoever uses a manager has given it one
+  if (auto* const knowing = dynamic_cast<KnowingJunction*>(mJunction)) {
     for (auto entry = mSelected.begin(); entry != mSelected.end();)
       entry = knowing->Knows(*entry) ? std::next(entry) : mSelected.erase(entry);
     return;
   }
-  const std::list<Node*> known = junction.AllSelectables();
+  const std::list<Node*> known = mJunction->AllSelectables();
   if (mSelected.empty()) return;
   const std::vector<Node*> selected(mSelected.begin(), mSelected.end());
   std::vector<bool> survives(selected.size(), false);

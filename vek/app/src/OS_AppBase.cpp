@@ -262,7 +262,7 @@ bool OS_AppBase::MouseHook(const lumui::ui::ForeignPress& inPress) {
   auto* const window = GetWorkspace() ? GetWorkspace()->GetMainTopLevelWindow() : nullptr;
   if (!window) return false;
   lumcore::geom::PointT<int> point = inPress.screenPosition;
-  window->UI_GlobalToLocal(point);
+  window->UI_ScreenToWindow(point);
   const LPARAM position = static_cast<LPARAM>((static_cast<unsigned>(point.y) & kLowWord) << 16 |
                                               (static_cast<unsigned>(point.x) & kLowWord));
   const MouseEvent event(

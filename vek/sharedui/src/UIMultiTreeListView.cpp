@@ -52,12 +52,12 @@ template <class Function>
 void ForEachNode(UIMultiTreeListNode& inTop, Function const& inFunction) {
   std::vector<HierarchyEntryBase*> waiting(1, &inTop);
   while (!waiting.empty()) {
-    HierarchyEntryBase& entry = *waiting.back();
+    HierarchyEntryBase* const entry = waiting.back();
     waiting.pop_back();
-    if (auto* const node = dynamic_cast<UIMultiTreeListNode*>(&entry)) inFunction(*node);
-    for (const auto& child : entry.GetChildren()) {
+    for (const auto& child : entry->GetChildren()) {
       if (child) waiting.push_back(child.get());
     }
+    if (auto* const node = dynamic_cast<UIMultiTreeListNode*>(entry)) inFunction(*node);
   }
 }
 

@@ -11,6 +11,7 @@
 #include "vek/sharedui/UIShellEntries.h"
 #include "vek/sharedui/UIShellIcons.h"
 #include "vek/sharedui/UIShellTrackView.h"
+#include "vek/utility/ParamString.h"
 
 namespace vek::sharedui {
 
@@ -42,28 +43,14 @@ UTF8String MakeKey(Dir const& inDir) {
   return lumcore::utility::ToUTF8(path);
 }
 
-// ^1 and ^2, in one walk: a label may have such marks in it.
-UTF16String PutInto(UTF16String const& inFormat, UTF16String const& inFirst,
-                    UTF16String const& inSecond) {
-  UTF16String text;
-  for (std::size_t at = 0; at < inFormat.size(); ++at) {
-    const unsigned short next = at + 1 < inFormat.size() ? inFormat[at + 1] : 0;
-    if (inFormat[at] != '^' || (next != '1' && next != '2')) {
-      text += inFormat[at];
-      continue;
-    }
-    text += next == '1' ? inFirst : inSecond;
-    ++at;
-  }
-  return text;
-}
-
 UTF16String MakeDisplayName(Volume const& inVolume) {
   UTF16String path = inVolume.dir.FullPath();
   std::optional<UTF16String> label = lumcore::filesupport::FindVolumeLabel(inVolume);
   if (!label) return path;
   if (label->empty()) label = Localized("$$$/vek/sharedui/UIShellView/LocalDisk=Local Disk");
-  return PutInto(Localized("$$$/vek/sharedui/UIShellView/LocalDriveFmt=^1 (^2)"), *label, path);
+  UTF16String name = Localized("$$$/vek/sharedui/UIShellView/LocalDriveFmt=^1 (^2)");
+  utility::ParamString(name, &*label, &path, nullptr, nullptr);
+  return name;
 }
 
 bool LeadsBack(Dir const& inDir) {

@@ -165,9 +165,8 @@ UI_Node* NodeListing::FindAt(const PointT<int>& inOnScreen, LeaveOut inLeaveOut)
   const std::vector<OS_Window*> windows = AllWindows();
   UI_Node* found = nullptr;
   for (OS_Window* window : windows) {
-    const auto& place = window->UI_GetLocalRectF();
-    const PointT<int> point(inOnScreen.x - static_cast<int>(place.x),
-                            inOnScreen.y - static_cast<int>(place.y));
+    PointT<int> point = inOnScreen;
+    window->UI_ScreenToWindow(point);
     UI_Node* const here = Innermost(*window, point, inLeaveOut);
     if (here) found = here;
     if (here && window->UI_IsActive()) break;

@@ -58,7 +58,6 @@ class ViewDebuggerTab::PickCapture : public lumui::ui::InputCapture {
   void DoBegin() override { UI_NodeManager::Get(true)->SetCursor(lumui::ui::CursorShape::kCross); }
   bool DoMouseEvent(const lumui::ui::MouseEvent& inEvent) override {
     UI_NodeManager::Get(true)->SetCursor(lumui::ui::CursorShape::kCross);
-    const auto& window = mTab.UI_GetWindowNode()->UI_GetLocalRectF();
     PointT<int> point(static_cast<int>(inEvent.GetPosition().x),
                       static_cast<int>(inEvent.GetPosition().y));
     mTab.UI_LocalToGlobal(point);
@@ -67,8 +66,8 @@ class ViewDebuggerTab::PickCapture : public lumui::ui::InputCapture {
       UI_NodeManager::Get(true)->EndInputCapture(true);
       return true;
     }
-    mTab.PickedAt(
-        PointT<int>(point.x + static_cast<int>(window.x), point.y + static_cast<int>(window.y)));
+    mTab.UI_GetWindowNode()->UI_WindowToScreen(point);
+    mTab.PickedAt(point);
     // At the release, which would else reach a node that has seen no press.
     mPressed = mPressed || inEvent.GetAction() == PointerEvent::kActionPress;
     const bool done = mPressed && inEvent.GetAction() == PointerEvent::kActionRelease;

@@ -23,6 +23,8 @@ class EditWidgetT : public Base {
   // Null lets the widget have the key. Else the answer says whether the key is kept.
   std::function<bool()> mOnEnter;
   std::function<bool()> mOnEscape;
+  // Whether the arrows up and down are not the widget's.
+  std::function<bool()> mLeavesArrows;
 
  protected:
   void keyPressEvent(QKeyEvent* inEvent) override {
@@ -30,7 +32,10 @@ class EditWidgetT : public Base {
     const bool plain = !(inEvent->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
     const bool escape = inEvent->key() == Qt::Key_Escape;
     const auto& own = enter ? mOnEnter : mOnEscape;
-    if (plain && (enter || escape) && own) {
+    const bool arrow = inEvent->key() == Qt::Key_Up || inEvent->key() == Qt::Key_Down;
+    if (plain && arrow && mLeavesArrows && mLeavesArrows()) {
+      inEvent->ignore();
+    } else if (plain && (enter || escape) && own) {
       inEvent->setAccepted(own());
     } else {
       Base::keyPressEvent(inEvent);

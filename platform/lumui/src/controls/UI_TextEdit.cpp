@@ -8,7 +8,6 @@
 #include <QTextDocument>
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 #include "controls/ControlPeer.h"
 #include "controls/EditWidget.h"
@@ -70,10 +69,10 @@ class TextEditPeer : public ControlPeer {
   QWidget* MakeLineEdit(QWidget* inParent) {
     auto* const edit = new ControlWidgetT<LineEdit, QStyleOptionFrame>(*this, inParent);
     edit->mOnEnter = [this] {
-      const bool isInDialog = IsInDialog();
-      ByUser([&] { isInDialog ? Edit().Commit() : Edit().HandleEnter(); });
-      return !isInDialog;
+      ByUser([&] { Edit().Commit(); });
+      return !IsInDialog() && !Edit().LeavesLineKeys();
     };
+    edit->mLeavesArrows = [this] { return Edit().LeavesLineKeys(); };
     ConnectEscape(*edit);
     QObject::connect(edit, &QLineEdit::textEdited, edit, [this](const QString& inText) {
       ByUser([&] { Edit().HandleEdited(drawbot::FromQt(inText)); });
@@ -193,18 +192,6 @@ void UI_TextEdit::Commit() {
   mUncommitted = false;
   mCommittedText = mText;
   TellChanged(UI_InteractiveControlChangedMessage::kChanged, true);
-}
-
-void UI_TextEdit::SetEnterFunction(std::function<void()> inEntered) {
-  mEntered = std::move(inEntered);
-}
-
-// Each of the two may take the field away, or the function.
-void UI_TextEdit::HandleEnter() {
-  const boost::intrusive_ptr<UI_TextEdit> keep(this);
-  Commit();
-  const std::function<void()> entered = mEntered;
-  if (entered) entered();
 }
 
 bool UI_TextEdit::Revert() {

@@ -23,10 +23,8 @@ unsigned UI_DoContextMenu(const utility::OS_Menu& inMenu, UI_Node& inNode,
   IntPoint point(static_cast<int>(std::lround(inPoint.x - offset.x)),
                  static_cast<int>(std::lround(inPoint.y - offset.y)));
   inNode.UI_LocalToGlobal(point);
-  const auto& frame = window->UI_GetLocalRectF();
-  const IntPoint onScreen(point.x + static_cast<int>(std::lround(frame.x)),
-                          point.y + static_cast<int>(std::lround(frame.y)));
-  return OS_Menu::TrackPopup(inMenu.GetHandle(), *window, onScreen);
+  window->UI_WindowToScreen(point);
+  return OS_Menu::TrackPopup(inMenu.GetHandle(), *window, point);
 }
 
 }  // namespace lumui::ui

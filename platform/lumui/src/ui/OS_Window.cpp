@@ -260,6 +260,19 @@ lumcore::geom::RectT<float> OS_Window::UI_GetRestoredRect() const {
   return rect;
 }
 
+void OS_Window::UI_WindowToScreen(lumcore::geom::PointT<int>& ioPoint) const {
+  if (!mHandle) return;
+  const QPoint origin =
+      GetPeer()->GetWidget()->mapToGlobal(QPoint(0, GetPeer()->GetChromeHeight()));
+  ioPoint = lumcore::geom::PointT<int>(ioPoint.x + origin.x(), ioPoint.y + origin.y());
+}
+
+void OS_Window::UI_ScreenToWindow(lumcore::geom::PointT<int>& ioPoint) const {
+  lumcore::geom::PointT<int> origin;
+  UI_WindowToScreen(origin);
+  ioPoint = ioPoint - origin;
+}
+
 UI_Node* OS_Window::UI_GetFocusNode() const {
   return mHandle ? NodePeer::NodeOf(GetPeer()->GetWidget()->focusWidget()) : nullptr;
 }

@@ -295,7 +295,8 @@ void UI_Node::UI_LocalToGlobal(lumcore::geom::PointT<int>& ioPoint) const {
   const QWidget* const widget = mPeer->GetWidget();
   if (top && widget && top->isAncestorOf(widget)) {
     const QPoint point = widget->mapTo(top, QPoint(ioPoint.x, ioPoint.y));
-    ioPoint = lumcore::geom::PointT<int>(point.x(), point.y());
+    ioPoint =
+        lumcore::geom::PointT<int>(point.x(), point.y() - window->GetPeer()->GetChromeHeight());
     return;
   }
   for (const UI_Node* node = this; node->mParent && node != window; node = node->mParent) {

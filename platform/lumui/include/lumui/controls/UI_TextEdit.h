@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 
 #include "lumcore/Strings.h"
 #include "lumui/controls/UI_InteractiveControlView.h"
@@ -34,6 +33,10 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   // The user may then select and copy, and not edit.
   void SetReadOnly(bool inReadOnly);
   bool IsReadOnly() const { return mReadOnly; }
+  // A field of one line then leaves Enter, behind the commit, and the arrows up and down to its
+  // parents, for whoever runs lines and keeps a list of them.
+  void SetLeavesLineKeys(bool inLeaves) { mLeavesLineKeys = inLeaves; }
+  bool LeavesLineKeys() const { return mLeavesLineKeys; }
   // Shown, paler, while the text is empty.
   void SetPlaceholder(const lumcore::UTF16String& inText);
   const lumcore::UTF16String& GetPlaceholder() const { return mPlaceholder; }
@@ -48,9 +51,6 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   void SelectAll() { SetSelection(0, mText.size()); }
 
   void Commit() override;
-  // Of one line, outside dialogs: called after the commit when Enter is pressed, also where there
-  // was nothing to commit; for fields in which Enter does more. Null for nothing.
-  void SetEnterFunction(std::function<void()> inEntered);
 
  protected:
   void DoShowState() override;
@@ -58,11 +58,11 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
  private:
   friend class TextEditPeer;
   void HandleEdited(const lumcore::UTF16String& inText);
-  void HandleEnter();
   bool Revert();  // false if there is nothing to bring back
 
   bool mMultiLine;
   bool mReadOnly = false;
+  bool mLeavesLineKeys = false;
   bool mUncommitted = false;
   float mFontSize = 0;
   std::size_t mSelectionStart = 0;
@@ -70,7 +70,6 @@ class LUMUI_API UI_TextEdit : public UI_InteractiveControlView {
   lumcore::UTF16String mText;
   lumcore::UTF16String mCommittedText;
   lumcore::UTF16String mPlaceholder;
-  std::function<void()> mEntered;
 };
 
 }  // namespace lumui::controls

@@ -62,6 +62,10 @@ class LUMUI_API OS_Window : public UI_Node {
   // Where the window is when it is not maximised, as UI_GetLocalRectF. Null rectangle without a
   // native window.
   lumcore::geom::RectT<float> UI_GetRestoredRect() const;
+  // Between the coordinates of the window's nodes and those of the screen. Unchanged without a
+  // native window.
+  void UI_WindowToScreen(lumcore::geom::PointT<int>& ioPoint) const;
+  void UI_ScreenToWindow(lumcore::geom::PointT<int>& ioPoint) const;
   // The node that has the keyboard when this window is in front; null if none has.
   UI_Node* UI_GetFocusNode() const;
 
