@@ -9,6 +9,7 @@ vek_test(outliner_tests
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
+    hosts/OutlineListTest.cpp
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
     hosts/PanelsTest.cpp

@@ -49,7 +49,7 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandQuit] = {always, [this] { mApp.EndEventLoop(); }, nullptr};
   mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }, nullptr};
   mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }, nullptr};
-  mEntries[kCommandFind] = {always, [this] { mApp.Find(); }, nullptr};
+  mEntries[kCommandFindText] = {always, [this] { mApp.Find(); }, nullptr};
   mEntries[kCommandFindNext] = {hasDocument, [this] { mApp.FindNext(true); }, nullptr};
   mEntries[kCommandFindPrevious] = {hasDocument, [this] { mApp.FindNext(false); }, nullptr};
   mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};

@@ -59,10 +59,17 @@ void DocumentCommands::AddEdits() {
                               [this, perform = edit.perform] { perform(mDocument); }, nullptr};
   }
   const auto hasRows = [this] { return !mDocument.GetTree().GetLines().empty(); };
-  mEntries[kCommandSelectNext] = {hasRows, [this] { edits::SelectNext(mDocument); }, nullptr};
-  mEntries[kCommandSelectPrevious] = {hasRows, [this] { edits::SelectPrevious(mDocument); },
-                                      nullptr};
-  mEntries[kCommandSelectAll] = {hasRows, [this] { mDocument.GetSelection().SelectAll(); },
+  const auto step = [this](bool inDown) {
+    if (mSteps.step) return mSteps.step(inDown);
+    inDown ? edits::SelectNext(mDocument) : edits::SelectPrevious(mDocument);
+  };
+  mEntries[kCommandSelectNext] = {hasRows, [step] { step(true); }, nullptr};
+  mEntries[kCommandSelectPrevious] = {hasRows, [step] { step(false); }, nullptr};
+  mEntries[kCommandSelectAll] = {hasRows,
+                                 [this] {
+                                   if (mSteps.selectAll) return mSteps.selectAll();
+                                   mDocument.GetSelection().SelectAll();
+                                 },
                                  nullptr};
 }
 

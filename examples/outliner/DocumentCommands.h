@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <utility>
 
 #include "lumcore/Strings.h"
 #include "vek/uisupport/UnifiedDispatch.h"
@@ -22,6 +23,14 @@ class DocumentCommands final : public vek::uisupport::UnifiedDispatchCmdAttachme
  public:
   explicit DocumentCommands(OutlineDocument& inDocument);
 
+  // What the commands that go from row to row do where rows are shown: they go by those that show,
+  // as they stand there. Null for the rows of the outline itself.
+  struct RowSteps {
+    std::function<void(bool inDown)> step;
+    std::function<void()> selectAll;
+  };
+  void SetRowSteps(RowSteps inSteps) { mSteps = std::move(inSteps); }
+
   bool DoUnifiedDispatch(int inCommand, vek::uisupport::CommandEnableQuery* ioQuery) override;
 
  private:
@@ -38,6 +47,7 @@ class DocumentCommands final : public vek::uisupport::UnifiedDispatchCmdAttachme
   lumcore::UTF16String RedoTitle() const;
 
   OutlineDocument& mDocument;
+  RowSteps mSteps;
   std::map<int, Entry> mEntries;
 };
 

@@ -9,7 +9,6 @@
 #include "DocumentPane.h"
 #include "DocumentTabs.h"
 #include "OutlineDocument.h"
-#include "OutlineView.h"
 #include "Palette.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
@@ -76,8 +75,8 @@ void DocumentFrame::ShowPage(OutlineDocument& inDocument) {
   mCurrent = &inDocument;
   if (FindPage(inDocument) == mPages.size()) {
     const boost::intrusive_ptr<DocumentPane> pane(
-        new DocumentPane(inDocument, [this] { ShowState(); }));
-    pane->GetRows().SetMenuFunction(mFunctions.openRowMenu);
+        new DocumentPane(inDocument, {[this] { ShowState(); }, mFunctions.openRowMenu,
+                                      mFunctions.getColumns, mFunctions.keepColumns}));
     mPages.push_back({&inDocument, pane});
     UI_AddChild(pane);
   }
@@ -129,8 +128,12 @@ UTF16String DocumentFrame::GetWindowTitle() const {
       Localized("$$$/outliner/Window/Title=@0 \xE2\x80\x94 outliner"), {TabTitleOf(*mCurrent)});
 }
 
+DocumentPane* DocumentFrame::FindCurrentPane() const {
+  return mCurrent ? mPages[FindPage(*mCurrent)].pane.get() : nullptr;
+}
+
 void DocumentFrame::FocusRows() {
-  if (mCurrent) mPages[FindPage(*mCurrent)].pane->FocusRows();
+  if (DocumentPane* const pane = FindCurrentPane()) pane->FocusRows();
 }
 
 void DocumentFrame::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {

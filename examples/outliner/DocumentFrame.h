@@ -30,6 +30,9 @@ class DocumentFrame final : public lumui::ui::UI_SubView,
     std::function<void(OutlineDocument&)> show;
     std::function<void(OutlineDocument&)> close;
     std::function<void(const lumcore::geom::PointT<int>&)> openRowMenu;
+    // The columns of the rows as the user has left them, for all documents. See OutlineList.
+    std::function<lumcore::UTF16String()> getColumns;
+    std::function<void(const lumcore::UTF16String&)> keepColumns;
     // After each change of the documents and of what is selected, typed or done in one.
     std::function<void()> stateChanged;
   };
@@ -40,6 +43,7 @@ class DocumentFrame final : public lumui::ui::UI_SubView,
   lumcore::UTF16String GetWindowTitle() const;
   // Gives the keyboard to the current document's rows, if there is one and it is on screen.
   void FocusRows();
+  DocumentPane* FindCurrentPane() const;  // null without a document
   // The tab's title: the document's, with "*" before it when there is something to save.
   static lumcore::UTF16String TabTitleOf(const OutlineDocument& inDocument);
 

@@ -9,15 +9,20 @@
 
 #include "CommandSystem.h"
 #include "DocumentCommands.h"
+#include "FindField.h"
 #include "OutlineDocument.h"
-#include "OutlineView.h"
+#include "OutlineEntries.h"
+#include "OutlineList.h"
+#include "OutlineTreeList.h"
 #include "OutlinerCommands.h"
+#include "Palette.h"
 #include "RowEditor.h"
 #include "StatusLine.h"
 #include "TitleStrip.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
-#include "lumui/controls/UI_ScrollView.h"
+#include "lumui/drawbot/Drawbot.h"
+#include "vek/uisupport/KeyCommandManager.h"
 
 namespace outliner {
 
@@ -26,6 +31,12 @@ using lumcore::utility::ReplaceInString;
 using lumcore::utility::ToUTF16;
 
 namespace {
+
+constexpr float kFindHeight = 26;
+constexpr float kFindMargin = 6;
+constexpr float kFindLeft = 18;  // below the title
+constexpr float kFindBand = kFindHeight + 2 * kFindMargin;
+constexpr float kMostFindWidth = 360;
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -37,14 +48,16 @@ UTF16String Number(std::size_t inNumber) {
 
 }  // namespace
 
-DocumentPane::DocumentPane(OutlineDocument& inDocument, std::function<void()> inStateChanged)
-    : mDocument(&inDocument), mStateChanged(std::move(inStateChanged)) {
+DocumentPane::DocumentPane(OutlineDocument& inDocument, Functions inFunctions)
+    : mDocument(&inDocument), mFunctions(std::move(inFunctions)) {
   BuildNodes();
   mDocument->SetChangedFunction([this] { ShowState(); });
   mDocument->GetEditor().SetChangedFunction([this] {
-    mView->EditorChanged();
+    mList->ShowEditor();
     ShowState();
   });
+  mDocument->GetCommands().SetRowSteps({[this](bool inDown) { mList->GetRows().Step(inDown); },
+                                        [this] { mList->GetRows().SelectAllShown(); }});
   mDocument->GetSelection().GetSelectionChangeNotifier()->AddListener(this);
   mDocument->GetUndoer().GetItemsChangedNotifier()->AddListener(this);
   ShowSelection(1);
@@ -59,40 +72,81 @@ DocumentPane::~DocumentPane() {
 // work on.
 void DocumentPane::Detach() {
   if (!mDocument) return;
-  mStateChanged = nullptr;
+  mFunctions = Functions();
+  mFind->SetFunctions(FindField::Functions());
   mDocument->SetChangedFunction(nullptr);
   mDocument->GetEditor().SetChangedFunction(nullptr);
+  mDocument->GetCommands().SetRowSteps({});
   mDocument->GetSelection().GetSelectionChangeNotifier()->RemoveListener(this);
   mDocument->GetUndoer().GetItemsChangedNotifier()->RemoveListener(this);
-  mView->Detach();
+  mList->Detach();
   mDocument = nullptr;
   if (IsCurrentCommandHandler()) SetCurrentCommandHandler(nullptr);
 }
 
 void DocumentPane::BuildNodes() {
   mTitleStrip.reset(new TitleStrip);
-  mView.reset(new OutlineView(*mDocument));
-  using Flags = lumcore::utility::Flags<unsigned int>;
-  mScrollView.reset(new lumui::controls::UI_ScrollView(
-      Flags(lumui::controls::UI_ScrollView::kNoHorizontalBar), mView));
-  mScrollView->UI_SetNodeID("rows");
+  OutlineList::Functions functions;
+  functions.focusChanged = [this] { FocusChanged(); };
+  functions.openRowMenu = [this](const auto& inPlace) { mFunctions.openRowMenu(inPlace); };
+  functions.getColumns = mFunctions.getColumns;
+  functions.keepColumns = mFunctions.keepColumns;
+  mList.reset(new OutlineList(*mDocument, std::move(functions)));
+  mFind.reset(new FindField);
+  mFind->SetPlaceholder(Localized("$$$/outliner/Find/Placeholder=Find rows"));
+  mFind->SetFunctions({[this](const UTF16String& inText) { Find(inText); },
+                       [this] {
+                         FocusRows();
+                         if (mDocument->GetSelectedRows().empty()) mList->GetRows().Step(true);
+                       },
+                       [this] { FocusChanged(); }});
   mStatusLine.reset(new StatusLine);
-  mView->SetScrollView(mScrollView.get());
   UI_AddChild(mTitleStrip);
-  UI_AddChild(mScrollView);
+  UI_AddChild(mFind);
+  UI_AddChild(mList);
   UI_AddChild(mStatusLine);
 }
 
 void DocumentPane::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
   UI_SubView::UI_SizeChanged(inRect);
-  const float rows = std::max(0.0f, inRect.height - TitleStrip::kHeight - StatusLine::kHeight);
+  const float top = TitleStrip::kHeight + kFindBand;
+  const float rows = std::max(0.0f, inRect.height - top - StatusLine::kHeight);
   mTitleStrip->UI_SetLocalRectF({0, 0, inRect.width, TitleStrip::kHeight});
-  mScrollView->UI_SetLocalRectF({0, TitleStrip::kHeight, inRect.width, rows});
-  mStatusLine->UI_SetLocalRectF({0, TitleStrip::kHeight + rows, inRect.width, StatusLine::kHeight});
+  mFind->UI_SetLocalRectF({kFindMargin, TitleStrip::kHeight + kFindMargin,
+                           std::min(kMostFindWidth, std::max(0.0f, inRect.width - 2 * kFindMargin)),
+                           kFindHeight});
+  mList->UI_SetLocalRectF({0, top, inRect.width, rows});
+  mStatusLine->UI_SetLocalRectF({0, top + rows, inRect.width, StatusLine::kHeight});
+}
+
+void DocumentPane::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
+  const auto& area = UI_GetLocalRectF();
+  inDrawbot->FillRect({0, 0, area.width, area.height}, palette::Strip());
 }
 
 void DocumentPane::FocusRows() {
-  mView->UI_SetKeyboardFocus(lumui::ui::kFocusOther);
+  mList->FocusRows();
+}
+
+void DocumentPane::FocusFind() {
+  mFind->UI_SetKeyboardFocus(lumui::ui::kFocusOther);
+  mFind->SelectAll();
+}
+
+void DocumentPane::Find(const UTF16String& inText) {
+  mDocument->CommitTyping();
+  mList->GetRows().SetFilter(OutlineFilter(inText));
+  ShowState();
+}
+
+void DocumentPane::FocusChanged() {
+  if (!mDocument) return;
+  if (mList->HasKeyboard() || mFind->UI_HasKeyboardFocus()) {
+    SetAsCurrentCommandHandler(false);
+  } else {
+    // The release of a key that is held now goes to somebody else.
+    vek::uisupport::KeyCommandManager::Get().RouteEndHoldCommand();
+  }
 }
 
 bool DocumentPane::DoHandleCommand(int) {
@@ -109,12 +163,14 @@ const lumcore::UTF8String& DocumentPane::DoGetCommandContext() {
 }
 
 void DocumentPane::ListenToMessage(const vek::selection::SelectionChangeMessage&) {
+  mList->GetRows().DocumentSelectionChanged();
   ShowSelection(1);
   ShowState();
 }
 
 // An edit may have moved what is selected out of view, also where the selection stays the same.
 void DocumentPane::ListenToMessage(const vek::undo::ItemsChangedMsg&) {
+  mList->DocumentChanged();
   ShowSelection(mDocument->GetTree().GetLines().size());
   ShowState();
 }
@@ -124,7 +180,8 @@ void DocumentPane::ListenToMessage(const vek::undo::ItemsChangedMsg&) {
 void DocumentPane::ShowSelection(std::size_t inMostRows) {
   const auto selected = mDocument->GetSelectedRows();
   mSelectedCount = selected.size();
-  if (!selected.empty() && selected.size() <= inMostRows) mView->ShowRow(*selected.front());
+  if (!selected.empty() && selected.size() <= inMostRows)
+    mList->GetRows().ShowRow(*selected.front());
 }
 
 void DocumentPane::ShowState() {
@@ -137,7 +194,7 @@ void DocumentPane::ShowState() {
                     ? "$$$/outliner/Status/EditHints=Return: next row    Esc: give up the text"
                     : "$$$/outliner/Status/Hints=Return: new row    Tab: indent    F2: edit    "
                       "Ctrl+Z: undo"));
-  if (mStateChanged) mStateChanged();
+  if (mFunctions.stateChanged) mFunctions.stateChanged();
 }
 
 UTF16String DocumentPane::DescribeCounts() const {
@@ -146,6 +203,10 @@ UTF16String DocumentPane::DescribeCounts() const {
       ReplaceInString(Localized(rows == 1 ? "$$$/outliner/Status/OneRow=@0 row"
                                           : "$$$/outliner/Status/Rows=@0 rows"),
                       {Number(rows)});
+  if (!mList->GetRows().GetEntries()->GetFilter().IsEmpty()) {
+    return ReplaceInString(Localized("$$$/outliner/Status/Found=@0 of @1 shown"),
+                           {Number(mList->GetRows().CountShownRows()), counts});
+  }
   if (mSelectedCount == 0) return counts;
   return ReplaceInString(Localized("$$$/outliner/Status/Selected=@0, @1 selected"),
                          {counts, Number(mSelectedCount)});

@@ -13,20 +13,18 @@
 #include "vek/uisupport/CommandHandler.h"
 #include "vek/undo/MultiUndoer.h"
 
-namespace lumui::controls {
-class UI_ScrollView;
-}
-
 namespace outliner {
 
+class FindField;
 class OutlineDocument;
-class OutlineView;
+class OutlineList;
 class StatusLine;
 class TitleStrip;
 
-// Shows one document: title strip, rows, status line. It is the current command handler while its
-// rows have the keyboard, and gives the context for keys; commands it leaves to the application,
-// which every walk asks behind it.
+// Shows one document: title strip, the field that finds rows, the rows, status line. It is the
+// current command handler while one of these has the keyboard, and gives the context for keys;
+// commands it leaves to the application, which every walk asks behind it. Those that go from row to
+// row go by the rows that show here.
 //
 // The document is borrowed until Detach; behind that the pane is blank and deaf.
 class DocumentPane final
@@ -35,14 +33,25 @@ class DocumentPane final
       private vek::messaging::Listener<const vek::selection::SelectionChangeMessage&>,
       private vek::messaging::Listener<const vek::undo::ItemsChangedMsg&> {
  public:
-  // inStateChanged is called when the document's title or dirty mark may be another.
-  DocumentPane(OutlineDocument& inDocument, std::function<void()> inStateChanged);
+  struct Functions {
+    std::function<void()> stateChanged;  // the document's title or dirty mark may be another
+    std::function<void(const lumcore::geom::PointT<int>& inScreenPlace)> openRowMenu;
+    // See OutlineList.
+    std::function<lumcore::UTF16String()> getColumns;
+    std::function<void(const lumcore::UTF16String&)> keepColumns;
+  };
+
+  DocumentPane(OutlineDocument& inDocument, Functions inFunctions);
   ~DocumentPane() override;
   void Detach();
 
   // Gives the keyboard to the rows.
   void FocusRows();
-  OutlineView& GetRows() { return *mView; }
+  // Gives the keyboard to the field that finds rows.
+  void FocusFind();
+  OutlineList& GetList() { return *mList; }
+
+  void UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const override;
 
  protected:
   void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
@@ -57,16 +66,18 @@ class DocumentPane final
   void ListenToMessage(const vek::undo::ItemsChangedMsg&) override;
 
   void BuildNodes();
+  void Find(const lumcore::UTF16String& inText);
+  void FocusChanged();
   void ShowSelection(std::size_t inMostRows);
   void ShowState();
   lumcore::UTF16String DescribeCounts() const;
   lumcore::UTF16String DescribeNews() const;
 
   OutlineDocument* mDocument;
-  std::function<void()> mStateChanged;
+  Functions mFunctions;
   boost::intrusive_ptr<TitleStrip> mTitleStrip;
-  boost::intrusive_ptr<OutlineView> mView;
-  boost::intrusive_ptr<lumui::controls::UI_ScrollView> mScrollView;
+  boost::intrusive_ptr<FindField> mFind;
+  boost::intrusive_ptr<OutlineList> mList;
   boost::intrusive_ptr<StatusLine> mStatusLine;
   std::size_t mSelectedCount = 0;
 };

@@ -64,9 +64,6 @@ class MapOverlay final : public vek::trackview::Overlay {
   void BeginGesture() { mIsGivenUp = false; }
   void GiveUpGesture();
   bool IsGivenUp() const { return mIsGivenUp; }
-  // Whether the selected rows are being dragged out of the map, and nobody in it has taken them
-  // back. Who drags them keeps it, as the map may go meanwhile.
-  const std::shared_ptr<bool>& GetSending() const { return mIsSending; }
   vek::sharedui::MarqeeOverlay& GetBand() { return mBand; }
   vek::trackview::TrackView& GetTrackView() { return mTrackView; }
 
@@ -79,7 +76,6 @@ class MapOverlay final : public vek::trackview::Overlay {
   MapScene mScene;
   OutlineRow::Id mAnchor = 0;
   bool mIsGivenUp = false;
-  const std::shared_ptr<bool> mIsSending = std::make_shared<bool>(false);
 };
 
 }  // namespace outliner

@@ -5,15 +5,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <list>
 
 #include "MapOverlay.h"
 #include "OutlineDocument.h"
+#include "OutlineDrag.h"
 #include "OutlineEdits.h"
-#include "lumcore/utility/ScopedValue.h"
-#include "lumui/datatransfer/OS_ReceiveData.h"
-#include "lumui/datatransfer/OS_SendData.h"
 #include "lumui/ui/ModifierKeys.h"
 #include "lumui/ui/UI_DragDropHandler.h"
 #include "lumui/ui/UI_NodeManager.h"
@@ -30,7 +27,6 @@ namespace {
 
 // Local units beyond the view's edge, up to which a drag scrolls and behind which it leaves.
 constexpr float kLeaveDistance = 48;
-constexpr const char* kOpmlFormat = "text/x-opml";
 constexpr float kDragDistance = 4;  // local units; a hand that clicks moves less
 
 Rect RectBetween(const vek::trackview::Point& inA, const vek::trackview::Point& inB) {
@@ -97,24 +93,8 @@ void MapMoveTracker::ContinueTracking(Modifiers inModifiers, const Point& inData
 // The system's drag takes the place of this gesture, which ends in the middle of it: to that end
 // there is nothing left to do.
 void MapMoveTracker::Send() {
-  MapOverlay& overlay = mOverlay;
-  overlay.GiveUpGesture();
-  OutlineDocument* const document = overlay.GetScene().GetDocument();
-  const auto selected = document->GetSelectedRows();
-  const LooseRows rows = RowsOfSelection(*document);
-  const auto data = mTrackView->GetPlatformView().GetSendData();
-  data->AddBytes(kOpmlFormat, OpmlOfRows(rows));
-  data->AddText(TextOfRows(rows));
-  const std::shared_ptr<bool> isSending = overlay.GetSending();
-  const lumcore::utility::StScopedValue<bool> sending(*isSending, true);
-  const int done =
-      data->SendByDrag(lumui::ui::kDropCopy | lumui::ui::kDropMove, lumui::ui::kDropCopy);
-  // Somebody else has them now, and the map is still there.
-  const bool isGone = done == lumui::ui::kDropMove && *isSending && isSending.use_count() > 1;
-  if (isGone && overlay.GetScene().GetDocument() == document &&
-      document->GetSelectedRows() == selected) {
-    edits::Delete(*document);
-  }
+  mOverlay.GiveUpGesture();
+  SendSelectedRows(*mOverlay.GetScene().GetDocument(), mTrackView->GetPlatformView());
 }
 
 void MapMoveTracker::EndTracking(Modifiers inModifiers, const Point& inDataPoint,
@@ -148,18 +128,10 @@ OutlineRow* MapDropTracker::FindTarget(const Point& inDataPoint) const {
   return row ? row : &scene.GetDocument()->GetTree().GetRoot();
 }
 
-// What was dragged out of the map and comes back is moved after all.
 unsigned MapDropTracker::FindEffect(const OutlineRow* inTarget) const {
-  const auto* const data = mDrag.GetReceiveData();
-  if (!inTarget || !data) return lumui::ui::kDropNone;
-  if (*mOverlay.GetSending()) {
-    return edits::CanMoveBelow(*mOverlay.GetScene().GetDocument(), *inTarget)
-               ? lumui::ui::kDropMove
-               : lumui::ui::kDropNone;
-  }
-  const bool canTake = (data->OffersFiles() || data->OffersText()) &&
-                       (data->GetAllowedEffects() & lumui::ui::kDropCopy) != 0;
-  return canTake ? lumui::ui::kDropCopy : lumui::ui::kDropNone;
+  if (!inTarget) return lumui::ui::kDropNone;
+  OutlineDocument& document = *mOverlay.GetScene().GetDocument();
+  return FindDropEffect(document, edits::CanMoveBelow(document, *inTarget), mDrag.GetReceiveData());
 }
 
 void MapDropTracker::BeginTracking(Modifiers inModifiers, const Point& inDataPoint, bool) {
@@ -187,26 +159,11 @@ void MapDropTracker::EndTracking(Modifiers, const Point& inDataPoint, bool inCom
 
 void MapDropTracker::Drop(OutlineRow& ioTarget) {
   OutlineDocument& document = *mOverlay.GetScene().GetDocument();
-  if (*mOverlay.GetSending()) {
-    *mOverlay.GetSending() = false;
-    return edits::MoveBelow(document, ioTarget);
-  }
-  const auto& data = *mDrag.GetReceiveData();
-  LooseRows rows;
-  std::vector<lumcore::UTF16String> paths;
-  lumcore::UTF16String text;
-  if (data.OffersFiles()) data.ReadFiles(paths);
-  for (const lumcore::UTF16String& path : paths) {
-    LooseRows branch = RowsOfFile(lumcore::filesupport::File(path));
-    rows.insert(rows.end(), std::make_move_iterator(branch.begin()),
-                std::make_move_iterator(branch.end()));
-  }
-  if (rows.empty() && data.OffersText()) {
-    data.ReadText(text);
-    rows = RowsOfText(text);
-  }
+  if (TakeOwnRows(document)) return edits::MoveBelow(document, ioTarget);
+  const OutlineRow::Id target = ioTarget.GetId();
+  const LooseRows rows = RowsOfDrag(*mDrag.GetReceiveData());
   document.CommitTyping();
-  edits::InsertBelow(document, ioTarget, rows);
+  edits::InsertAt(document, {MoveTarget::kLastBelow, target}, rows);
 }
 
 MapBandTracker::MapBandTracker(MapOverlay& inOverlay)

@@ -61,6 +61,9 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   void CommitTyping();
   bool IsTyping() const;  // whether that would post anything
   DocumentCommands& GetCommands() { return *mCommands; }
+  // Whether the selected rows are being dragged by the window system, and nobody here has taken
+  // them back yet. Who drags them shares it, as the document may go meanwhile.
+  const std::shared_ptr<bool>& GetRowDrag() const { return mRowDrag; }
 
   // In document order.
   std::vector<OutlineRow*> GetSelectedRows() const;
@@ -123,6 +126,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   std::unique_ptr<NoteEditor> mNoteEditor;
   std::unique_ptr<AttributeEditor> mAttributeEditor;
   std::unique_ptr<DocumentCommands> mCommands;
+  const std::shared_ptr<bool> mRowDrag = std::make_shared<bool>(false);
   std::function<void()> mChanged;
   std::function<void(const File&)> mCheckFile;
   std::function<void(const File&)> mFileTaken;

@@ -90,6 +90,44 @@ void MoveRun(Edit& ioEdit, const Run& inRun, MoveTarget::Place inPlace, const Ou
   ioEdit.Add<MoveRowsDeed>(inRun.First(), inRun.count, MoveTarget{inPlace, inRow.GetId()});
 }
 
+// In front of a row that is not selected, or where before is null, as the last ones below parent.
+// That is null for a target that has gone.
+struct Place {
+  OutlineRow* parent = nullptr;
+  OutlineRow* before = nullptr;
+};
+
+Place FindPlace(OutlineDocument& inDocument, const MoveTarget& inTarget) {
+  OutlineRow* const row = inDocument.GetTree().FindRow(inTarget.row);
+  Place place;
+  if (!row) return place;
+  if (inTarget.place == MoveTarget::kLastBelow) {
+    place.parent = row;
+    return place;
+  }
+  place.parent = row->GetParent();
+  if (!place.parent) return place;
+  std::size_t index = row->GetIndex() + (inTarget.place == MoveTarget::kAfter ? 1 : 0);
+  while (index < place.parent->GetChildCount() &&
+         inDocument.IsSelected(*place.parent->GetChild(index))) {
+    ++index;
+  }
+  if (index < place.parent->GetChildCount()) place.before = place.parent->GetChild(index);
+  return place;
+}
+
+void InsertNewRows(OutlineDocument& ioDocument, OutlineRow& ioParent, std::size_t inIndex,
+                   const LooseRows& inRows) {
+  if (inRows.empty()) return;
+  Edit edit(ioDocument, "$$$/outliner/Edit/InsertBelow=Insert");
+  OutlineTree::Rows rows = MakeRows(ioDocument.GetTree(), inRows);
+  std::vector<OutlineRow::Id> inserted;
+  for (const auto& row : rows)
+    inserted.push_back(row->GetId());
+  edit.Add<InsertRowsDeed>(ioParent, inIndex, std::move(rows));
+  edit.Post(std::make_unique<OutlineRestorer>(ioDocument, inserted));
+}
+
 // What is selected once the runs are gone: seen from the last one, as that is where the user looks.
 // Neither neighbour of a run is selected itself, nor below a row that is.
 OutlineRow* RowBeside(const Run& inRun) {
@@ -203,15 +241,42 @@ void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget) {
   edit.PostKeepingSelection();
 }
 
-void InsertBelow(OutlineDocument& ioDocument, OutlineRow& ioTarget, const LooseRows& inRows) {
-  if (inRows.empty()) return;
-  Edit edit(ioDocument, "$$$/outliner/Edit/InsertBelow=Insert");
-  OutlineTree::Rows rows = MakeRows(ioDocument.GetTree(), inRows);
-  std::vector<OutlineRow::Id> inserted;
-  for (const auto& row : rows)
-    inserted.push_back(row->GetId());
-  edit.Add<InsertRowsDeed>(ioTarget, ioTarget.GetChildCount(), std::move(rows));
-  edit.Post(std::make_unique<OutlineRestorer>(ioDocument, inserted));
+bool CanMoveTo(OutlineDocument& inDocument, const MoveTarget& inTarget) {
+  const auto place = FindPlace(inDocument, inTarget);
+  if (!place.parent) return false;
+  for (const OutlineRow* row = place.parent; row->GetParent(); row = row->GetParent()) {
+    if (inDocument.IsSelected(*row)) return false;
+  }
+  const auto runs = SelectedRuns(inDocument);
+  if (runs.size() != 1) return !runs.empty();
+  const Run& run = runs.front();
+  if (run.parent != place.parent) return true;
+  return run.IsAtEnd() ? place.before != nullptr : place.before != &run.RowAfter();
+}
+
+void MoveTo(OutlineDocument& ioDocument, const MoveTarget& inTarget) {
+  if (!CanMoveTo(ioDocument, inTarget)) return;
+  const auto place = FindPlace(ioDocument, inTarget);
+  Edit edit(ioDocument, "$$$/outliner/Edit/MoveBelow=Move");
+  for (const Run& run : SelectedRuns(ioDocument)) {
+    if (place.before) {
+      MoveRun(edit, run, MoveTarget::kBefore, *place.before);
+    } else {
+      MoveRun(edit, run, MoveTarget::kLastBelow, *place.parent);
+    }
+  }
+  edit.PostKeepingSelection();
+}
+
+void InsertAt(OutlineDocument& ioDocument, const MoveTarget& inTarget, const LooseRows& inRows) {
+  OutlineRow* const row = ioDocument.GetTree().FindRow(inTarget.row);
+  if (!row) return;
+  if (inTarget.place == MoveTarget::kLastBelow) {
+    InsertNewRows(ioDocument, *row, row->GetChildCount(), inRows);
+  } else {
+    const std::size_t behind = inTarget.place == MoveTarget::kAfter ? 1 : 0;
+    InsertNewRows(ioDocument, *row->GetParent(), row->GetIndex() + behind, inRows);
+  }
 }
 
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& inText) {

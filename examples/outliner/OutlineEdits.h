@@ -4,6 +4,7 @@
 #pragma once
 
 #include "LooseRows.h"
+#include "MoveRowsDeed.h"
 #include "OutlineRow.h"
 #include "lumcore/Strings.h"
 
@@ -45,8 +46,12 @@ void MoveDown(OutlineDocument& ioDocument);
 bool CanMoveBelow(OutlineDocument& inDocument, const OutlineRow& inTarget);
 void MoveBelow(OutlineDocument& ioDocument, const OutlineRow& inTarget);
 
-// New rows become the last ones below the target, which may be the root, and are selected.
-void InsertBelow(OutlineDocument& ioDocument, OutlineRow& ioTarget, const LooseRows& inRows);
+// The selected branches go to a place among other rows; a place beside a selected row is the next
+// one that is not between selected rows. Not below a row that is selected, and not where they are.
+bool CanMoveTo(OutlineDocument& inDocument, const MoveTarget& inTarget);
+void MoveTo(OutlineDocument& ioDocument, const MoveTarget& inTarget);
+// New rows go there, and are selected.
+void InsertAt(OutlineDocument& ioDocument, const MoveTarget& inTarget, const LooseRows& inRows);
 
 // The same text as before posts nothing.
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const lumcore::UTF16String& inText);

@@ -132,7 +132,7 @@ void OutlineTree::InsertRows(OutlineRow& inParent, std::size_t inIndex, Rows inR
     inserted.mParent = &inParent;
     SetInTree(inserted, true);
   }
-  mLinesKnown = false;
+  RowsChanged(inParent);
 }
 
 OutlineTree::Rows OutlineTree::RemoveRows(OutlineRow& inParent, std::size_t inIndex,
@@ -145,7 +145,7 @@ OutlineTree::Rows OutlineTree::RemoveRows(OutlineRow& inParent, std::size_t inIn
     row->mParent = nullptr;
     SetInTree(*row, false);
   }
-  mLinesKnown = false;
+  RowsChanged(inParent);
   return rows;
 }
 
@@ -162,7 +162,12 @@ void OutlineTree::MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std:
   const std::size_t end = std::max(inIndex, inNewIndex) + inCount;
   for (std::size_t index = std::min(inIndex, inNewIndex); index < end; ++index)
     inParent.mChildren[index]->mIndex = static_cast<std::uint32_t>(index);
+  RowsChanged(inParent);
+}
+
+void OutlineTree::RowsChanged(const OutlineRow& inParent) {
   mLinesKnown = false;
+  if (mChanged) mChanged(inParent);
 }
 
 void OutlineTree::SetInTree(OutlineRow& inRow, bool inPresent) {

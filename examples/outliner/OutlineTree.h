@@ -4,9 +4,11 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "OutlineRow.h"
@@ -72,6 +74,11 @@ class OutlineTree {
   void MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std::size_t inCount,
                       std::size_t inNewIndex);
 
+  // Called after other rows stand below a row, or stand there in another order: by the three
+  // operations above, with the row that they are below. It must not throw.
+  using ChangeFunction = std::function<void(const OutlineRow& inParent)>;
+  void SetChangeFunction(ChangeFunction inChanged) { mChanged = std::move(inChanged); }
+
   // Characters that XML does not allow become U+FFFD.
   void SetText(OutlineRow& inRow, const lumcore::UTF16String& inText);
   void SetLeading(OutlineRow& inRow, TextPool::Id inMarkup) { inRow.mLeading = inMarkup; }
@@ -119,11 +126,13 @@ class OutlineTree {
  private:
   OutlineRow::Extras& Extras(OutlineRow& inRow);
   void SetInTree(OutlineRow& inRow, bool inPresent);
+  void RowsChanged(const OutlineRow& inParent);
   void AppendLayout(std::size_t inDepth, lumcore::UTF16String& outText) const;
   void FindLayout();
   // All of the markup, or where it is foreign, its last line as far as that is white space.
   bool FindWhiteSpace(TextPool::Id inMarkup, lumcore::UTF16String& outText) const;
 
+  ChangeFunction mChanged;
   std::unique_ptr<OutlineRow> mRoot;
   std::vector<OutlineRow*> mRowsById;  // null for a row that is out of the tree
   TextPool mNames;

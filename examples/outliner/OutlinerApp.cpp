@@ -34,6 +34,7 @@ namespace {
 constexpr int kMenuBar = 1;
 constexpr int kRecentFiles = 10;
 constexpr const char* kBrightnessKey = "brightness";
+constexpr const char* kColumnsKey = "outline columns";
 
 UTF16String Localized(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
@@ -51,9 +52,11 @@ OutlinerApp::OutlinerApp(const Options& inOptions) : mOptions(inOptions) {
   SetMaximumRecentFiles(kRecentFiles);
   AddAttachment(&mCommands);
   AddAttachment(&mMapCommands);
+  AddAttachment(&mListCommands);
 }
 
 OutlinerApp::~OutlinerApp() {
+  RemoveAttachment(&mListCommands);
   RemoveAttachment(&mMapCommands);
   RemoveAttachment(&mCommands);
 }
@@ -152,6 +155,13 @@ void OutlinerApp::MakeFrame() {
   functions.close = [this](OutlineDocument& inDocument) { CloseOutline(inDocument); };
   functions.openRowMenu = [this](const auto& inPlace) {
     mMenus->OpenRowMenu(*FindMainWindow(), inPlace);
+  };
+  functions.getColumns = [this] {
+    const auto* const columns = GetAppSettings().Find<UTF16String>(kColumnsKey);
+    return columns ? *columns : UTF16String();
+  };
+  functions.keepColumns = [this](const UTF16String& inColumns) {
+    GetAppSettings().Set(kColumnsKey, inColumns);
   };
   functions.stateChanged = [this] { DocumentStateChanged(); };
   mFrame.reset(new DocumentFrame(functions));

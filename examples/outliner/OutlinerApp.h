@@ -10,6 +10,7 @@
 
 #include "ApplicationCommands.h"
 #include "CommandSystem.h"
+#include "ListCommands.h"
 #include "MapCommands.h"
 #include "OutlineSearch.h"
 #include "lumcore/filesupport/File.h"
@@ -26,6 +27,7 @@ class WorkspacesCmdAttachment;
 namespace outliner {
 
 class DocumentFrame;
+class DocumentPane;
 class OutlineDocument;
 class OutlinerMenus;
 
@@ -77,7 +79,8 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   // brought to the front and gets the keyboard.
   bool IsPanelInFront(int inCommand) const;
   void TogglePanel(int inCommand);
-  MapPane* FindMap() const;  // null while none is in front
+  MapPane* FindMap() const;        // null while none is in front
+  DocumentPane* FindPane() const;  // of the current document, or null
   // Gives the keyboard to the rows of the current outline, if they are on screen.
   void FocusRows();
   // What is looked for. Find asks for it, the other selects the next row that has it, or the one
@@ -151,6 +154,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   std::unique_ptr<CommandSystem> mCommandSystem;
   ApplicationCommands mCommands{*this};
   MapCommands mMapCommands{[this] { return FindMap(); }};
+  ListCommands mListCommands{[this] { return FindPane(); }, [this] { ShowOutlinePanel(); }};
   std::unique_ptr<OutlinerMenus> mMenus;
   std::unique_ptr<vek::workspaceutils::WorkspacesCmdAttachment> mWorkspaceCommands;
   boost::intrusive_ptr<DocumentFrame> mFrame;

@@ -43,13 +43,13 @@ const Items& FileItems() {
 }
 
 const Items& EditItems() {
-  static const Items sItems = {kCommandUndo,       kCommandRedo,      kSeparator,
-                               kCommandNewSibling, kCommandNewChild,  kCommandEditText,
-                               kCommandDelete,     kSeparator,        kCommandIndent,
-                               kCommandOutdent,    kCommandMoveUp,    kCommandMoveDown,
-                               kSeparator,         kCommandSelectAll, kSeparator,
-                               kCommandFind,       kCommandFindNext,  kCommandFindPrevious,
-                               kSeparator,         kCommandShortcuts, kCommandKeyboardMap};
+  static const Items sItems = {
+      kCommandUndo,      kCommandRedo,         kSeparator,     kCommandNewSibling,
+      kCommandNewChild,  kCommandEditText,     kCommandDelete, kSeparator,
+      kCommandIndent,    kCommandOutdent,      kCommandMoveUp, kCommandMoveDown,
+      kSeparator,        kCommandSelectAll,    kSeparator,     kCommandFindText,
+      kCommandFindNext,  kCommandFindPrevious, kCommandFind,   kSeparator,
+      kCommandShortcuts, kCommandKeyboardMap};
   return sItems;
 }
 
@@ -72,6 +72,10 @@ const Items& ViewItems() {
                                kCommandShowFiles,
                                kCommandShowConsole,
                                kCommandShowNodes,
+                               kSeparator,
+                               kCommandExpandAll,
+                               kCommandCollapseAll,
+                               kCommandOutlineOrder,
                                kSeparator,
                                kCommandNextDocument,
                                kCommandPreviousDocument,

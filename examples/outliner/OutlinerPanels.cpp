@@ -291,6 +291,10 @@ MapPane* OutlinerApp::FindMap() const {
   return IsPanelInFront(kCommandShowMap) ? FindView<MapPane>(GetWorkspace(), MapPanel()) : nullptr;
 }
 
+DocumentPane* OutlinerApp::FindPane() const {
+  return mFrame ? mFrame->FindCurrentPane() : nullptr;
+}
+
 // The command finds the keyboard where it would be if it came from a menu.
 void OutlinerApp::RunFromList(int inCommand) {
   mFrame->FocusRows();

@@ -57,11 +57,12 @@ inline auto IdleSelection() {
 inline auto DropTarget() {
   return Of(lumui::ui::themev5::kColor_DropTarget);
 }
-inline auto EditField() {
-  return Of(lumui::ui::themev5::kColor_FieldBackground);
-}
-inline auto EditInk() {
-  return Of(lumui::ui::themev5::kColor_FieldText);
+// Behind a text that was looked for: it lies under the ink, and over the band of a selection.
+inline auto FoundText() {
+  constexpr float kOpacity = 0.45f;
+  return lumui::ui::Theme::Get()
+      ->GetColor(lumui::ui::themev2::kColor_WarningMark)
+      .WithAlpha(kOpacity);
 }
 
 }  // namespace outliner::palette

@@ -28,6 +28,7 @@ class TextPool {
 
   Id Intern(TextView inText);
   const lumcore::UTF16String& Get(Id inId) const { return mTexts[inId]; }
+  std::size_t GetCount() const { return mTexts.size(); }
   // The number of a text that is here already; false where it is not.
   bool Find(TextView inText, Id& outId) const;
 

@@ -26,7 +26,7 @@ Outliner.setSize(960, 680);
 Outliner.print(Outliner.title);
 
 // A row behind "Read the drawings twice", and one below the new one.
-Outliner.click(300, 116);
+Outliner.click(300, 158);
 Outliner.key("Return");
 Outliner.type("Make a model of card, one to ten");
 Outliner.key("Ctrl+Return");

@@ -152,11 +152,12 @@ TEST(OutlinerGestures, ClicksSelectExtendAndEdit) {
   host.Click(3);
   host.Click(1, "Shift");
   EXPECT_EQ(host.Show(), "aa [bb* cc*] dd* ee");
+  // The range goes on from the row that was clicked last, and keeps what hangs together with it.
   host.Click(4, "Shift");
-  EXPECT_EQ(host.Show(), "aa [bb cc] dd* ee*");
+  EXPECT_EQ(host.Show(), "aa [bb* cc*] dd* ee*");
   host.DoubleClick(0, 300);
   EXPECT_EQ(host.Show(), "aa* [bb cc] dd ee / aa|");
-  host.Click(0, "", 41);  // in front of the first letter
+  host.Click(0, "", 24);  // in front of the first letter
   host.Type("x");
   EXPECT_EQ(host.Show(), "aa* [bb cc] dd ee / x|aa");
   host.Click(2);
@@ -219,13 +220,15 @@ TEST(OutlinerGestures, SelectionStaysInView) {
   const double end = view->GetContentRectF().height - view->GetViewedContentRectF().height;
   ASSERT_GT(end, 1000);
   host.Keys("Up");
-  EXPECT_EQ(view->GetOffset().y, end);
+  // Below the last row there is some room for dropping behind it.
+  const double last = view->GetOffset().y;
+  EXPECT_GT(last, end - 20);
   host.Keys("Up Up");
-  EXPECT_EQ(view->GetOffset().y, end);
+  EXPECT_EQ(view->GetOffset().y, last);
   host.Keys("Ctrl+A Delete Ctrl+Z");
   EXPECT_EQ(view->GetOffset().y, 0);
   lumui::testing::TurnWheel(host.GetWindow(), {300, 300}, {0, 2});
-  EXPECT_EQ(view->GetOffset().y, 144);
+  EXPECT_EQ(view->GetOffset().y, 2 * 3 * 19);
 }
 
 TEST(OutlinerClosing, AsksAboutChangesAndDoesWhatIsAnswered) {

@@ -16,7 +16,8 @@
 #include "outliner/KeyChord.h"
 #include "outliner/Reports.h"
 #include "outliner/RowEditor.h"
-#include "outliner/RowPainter.h"
+#include "outliner/RowField.h"
+#include "vek/hierarchyview/TreeListGeometry.h"
 #include "vek/uisupport/ReportError.h"
 
 namespace tests {
@@ -26,8 +27,6 @@ using lumcore::utility::ToUTF16;
 using lumui::testing::Position;
 
 namespace {
-
-constexpr float kAboveRows = 8;
 
 outliner::KeyChord Chord(const std::string& inName) {
   outliner::KeyChord chord;
@@ -130,7 +129,7 @@ Position RunningOutliner::PlaceIn(const std::string& inNode, float inX, float in
 // All documents have theirs at the same place.
 Position RunningOutliner::PlaceOf(std::size_t inLine, float inX) {
   const float line = static_cast<float>(inLine) + 0.5f;
-  return PlaceIn("rows", inX, kAboveRows + line * outliner::RowPainter::kRowHeight);
+  return PlaceIn("rows", inX, line * vek::hierarchyview::TreeListGeometry::kRowHeight);
 }
 
 void RunningOutliner::Keys(const std::string& inChords) {
@@ -172,8 +171,10 @@ std::string RunningOutliner::Show() {
   std::string text = tests::Show(GetDocument());
   const auto& editor = GetDocument().GetEditor();
   if (!editor.IsActive()) return text;
-  const auto& typed = editor.GetEdit().GetText();
-  const std::size_t caret = editor.GetEdit().GetCaret();
+  const auto& typed = editor.GetText();
+  const auto* const field = dynamic_cast<outliner::RowField*>(GetWindow().UI_GetFocusNode());
+  if (!field) return text + " / " + ToStdString(typed) + " without a field";
+  const std::size_t caret = field->GetSelectionEnd();
   return text + " / " + ToStdString(typed.substr(0, caret)) + "|" +
          ToStdString(typed.substr(caret));
 }

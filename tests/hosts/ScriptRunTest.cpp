@@ -32,12 +32,12 @@ std::string RunScript(RunningOutliner& ioHost, const std::string& inScript) {
 TEST(ScriptRun, KeysClicksAndFilesAreThoseOfAUser) {
   RunningOutliner host("a b [c]");
   EXPECT_EQ(RunScript(host,
-                      "Outliner.setSize(400, 500); Outliner.click(300, 116); Outliner.type(' d');\n"
+                      "Outliner.setSize(400, 500); Outliner.click(300, 158); Outliner.type(' d');\n"
                       "print([Outliner.rowText(1), Outliner.isDirty, Outliner.title].join());"
                       "Outliner.save(); Outliner.key('Return'); Outliner.type('x');"
-                      "Outliner.doubleClick(300, 92); Outliner.type('!');"
+                      "Outliner.doubleClick(300, 140); Outliner.type('!');"
                       "Outliner.saveAs(folder + 'n.opml'); Outliner.picture(folder + 'p.png');"
-                      "Outliner.click(300, 116, 'Ctrl');"
+                      "Outliner.click(300, 158, 'Ctrl');"
                       "print([Outliner.rowText(1), Outliner.rowLevel(2), Outliner.rowCount,"
                       "       Outliner.selection, Outliner.isDirty].join('/'))"),
             "b,true,*o.opml \xE2\x80\x94 outliner\nb d/2/4/0,1/false\n0");
