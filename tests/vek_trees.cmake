@@ -4,6 +4,7 @@ vek_test(vek_trees_tests
     hierarchyview/TreeFuzzTest.cpp
     hierarchyview/TreeKeysTest.cpp
     hierarchyview/TreePaintingTest.cpp
+    hierarchyview/TreePicturesTest.cpp
     hierarchyview/TreeTrackersTest.cpp
     hierarchyview/TreeWindowTest.cpp
     lumui/UITest.cpp

@@ -311,6 +311,12 @@ TEST(Columns, MayTakeTheListOrTheHeaderAway) {
     tracker->EndTracking({}, Point(78, 5), true);
     EXPECT_EQ(pair.mLog.Take(), takesList ? "2@0:a70^|b60| ~list" : "2@0:a70^|b60| resize");
   }
+  Pair clicked;
+  clicked.mList->Add("a", 60);
+  clicked.mLog.Take();
+  clicked.mListener.Once([&] { clicked.HeaderView().RemoveOverlay(clicked.mHeader); });
+  clicked.mHeader->HandleClickInColumn(0);
+  EXPECT_EQ(clicked.mLog.Take(), "4@0:a60v|");
 }
 
 // Icon from 117 to 133, text of 28 from 138: cut off where the first column ends. The highlight

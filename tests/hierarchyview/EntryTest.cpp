@@ -161,6 +161,8 @@ TEST(Dying, GoesDownTheDeepestTreeWithoutRecursion) {
     last->AddChild(child, false);
   }
   const EntryP kept = last->GetChildren().front();
+  root->SortChildren(2, true, kByLetter);
+  EXPECT_EQ(ShapeOf(*last), "e [y x]");
   root.reset();
   EXPECT_EQ(log.Take(), "");
   last.reset();

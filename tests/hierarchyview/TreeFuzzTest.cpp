@@ -88,6 +88,7 @@ class TreeFuzz : public TreeRig {
 
   void Add() {
     const PlainP node(new Plain);
+    mAll.push_back(node);
     node->name = "n" + std::to_string(mCount * 37 % 101) + "_" + std::to_string(mCount);
     ++mCount;
     auto* const entry = new BasicTreeNode(lumcore::utility::ToUTF16(node->name));
@@ -143,7 +144,7 @@ class TreeFuzz : public TreeRig {
     mTree->SelectEntry(node.entry.get(), extends);
   }
   // A step of the keyboard, on rows that are counted.
-  void Step(bool inDown) {
+  void MoveOn(bool inDown) {
     const std::vector<Row> all = List(true), rows = List(false);
     const auto count = std::count_if(all.begin(), all.end(),
                                      [](const Row& inRow) { return inRow.node->isSelected; });
@@ -224,56 +225,98 @@ class TreeFuzz : public TreeRig {
     return text.str();
   }
 
-  std::mt19937 mRandom;
-  Plain mRoot;
-  Plain* mFocus = nullptr;
-  int mCount = 0;
-  std::vector<std::function<void()>> mUndo;
-};
+  enum Act { kAdd, kRemove, kMove, kTurn, kSort, kSelect, kDown, kUp, kUndo, kActs };
+  // What it does to whom goes by its own number alone, so that others can be left out before it.
+  struct Step {
+    Act act;
+    std::mt19937::result_type number;
+  };
+  using Steps = std::vector<Step>;
 
-TEST_F(TreeFuzz, ShowsAndPaintsWhatAPlainModelSays) {
-  const auto run = [this](unsigned inSeed) {
-    mRandom.seed(inSeed);
+  void Do(Act inAct) {
+    switch (mRoot.children.empty() ? kAdd : inAct) {
+      case kAdd:
+        return Add();
+      case kRemove:
+        return Remove();
+      case kMove:
+        return Move();
+      case kTurn:
+        return Turn();
+      case kSort:
+        return SortSome();
+      case kSelect:
+        return SelectSome();
+      case kDown:
+      case kUp:
+        return MoveOn(inAct == kDown);
+      default:
+        return Undo();
+    }
+  }
+  // Nothing, or what differed first.
+  std::string Run(const Steps& inSteps) {
     Build("");
     mRoot = Plain();
     mRoot.isOpen = true;
     mRoot.entry = mTree->GetRootEntry();
     mFocus = nullptr;
+    mCount = 0;
     mUndo.clear();
-    for (int step = 0; step < 150; ++step) {
-      const int act = step < 12 ? 0 : Random(12);
-      const bool isEmpty = mRoot.children.empty();
-      if (act <= 1 || isEmpty)
-        Add();
-      else if (act == 2)
-        Remove();
-      else if (act == 3)
-        Move();
-      else if (act <= 5)
-        Turn();
-      else if (act == 6)
-        SortSome();
-      else if (act <= 8)
-        SelectSome();
-      else if (act == 9)
-        Step(true);
-      else if (act == 10)
-        Step(false);
-      else
-        Undo();
+    mAll.clear();
+    for (const Step& step : inSteps) {
+      mRandom.seed(static_cast<unsigned>(step.number));
+      Do(step.act);
       if (Random(4) != 0) mTree->ResizeHierarchy();
       const tv::Rect damage(0, static_cast<float>(Random(400)), 200,
                             static_cast<float>(1 + Random(90)));
-      EXPECT_EQ(Shown(), Expected());
-      EXPECT_EQ(Painted(damage), ToPaint(damage)) << AsText(damage);
-      if (HasFailure()) {
-        ADD_FAILURE() << "seed " << inSeed << ", step " << step << ", act " << act;
-        return;
+      const std::string shown = Shown(), expected = Expected();
+      if (shown != expected) return "rows\n" + shown + "\nin place of\n" + expected;
+      const std::string painted = Painted(damage), toPaint = ToPaint(damage);
+      if (painted != toPaint)
+        return AsText(damage) + " painted\n" + painted + "in place of\n" + toPaint;
+    }
+    return "";
+  }
+  // The least that still fails, found by leaving out shorter and shorter pieces.
+  std::string Shortened(Steps inSteps) {
+    for (std::size_t piece = inSteps.size() / 2; piece > 0; piece /= 2) {
+      for (std::size_t first = 0; first + piece <= inSteps.size();) {
+        Steps fewer = inSteps;
+        const auto from = fewer.begin() + static_cast<std::ptrdiff_t>(first);
+        fewer.erase(from, from + static_cast<std::ptrdiff_t>(piece));
+        if (Run(fewer).empty()) {
+          first += piece;
+        } else {
+          inSteps.swap(fewer);
+        }
       }
     }
-  };
-  for (unsigned seed = 1; seed <= 40 && !HasFailure(); ++seed)
-    run(seed);
+    static const char* const kNames[] = {"add",    "remove", "move", "turn", "sort",
+                                         "select", "down",   "up",   "undo"};
+    std::string text;
+    for (const Step& step : inSteps)
+      text += std::string(kNames[step.act]) + " " + std::to_string(step.number) + "\n";
+    return text + Run(inSteps);
+  }
+
+  std::mt19937 mRandom;
+  Plain mRoot;
+  Plain* mFocus = nullptr;
+  std::vector<PlainP> mAll;  // also those that are out, which others may name as their parent
+  int mCount = 0;
+  std::vector<std::function<void()>> mUndo;
+};
+
+TEST_F(TreeFuzz, ShowsAndPaintsWhatAPlainModelSays) {
+  for (unsigned seed = 1; seed <= 120; ++seed) {
+    mWalks = seed % 2 == 0;
+    std::mt19937 random(seed);
+    Steps steps;
+    for (int step = 0; step < 150; ++step)
+      steps.push_back({step < 12 ? kAdd : static_cast<Act>(random() % kActs), random()});
+    ASSERT_EQ(Run(steps), "") << "seed " << seed << ", in short:\n" << Shortened(steps);
+  }
 }
 
 }  // namespace

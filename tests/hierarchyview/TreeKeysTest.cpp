@@ -31,13 +31,16 @@ TEST_F(TreeKeys, UpAndDownToggleOnceFromTheFocusAndStopAtTheEnds) {
       // Without a focus among them down does nothing, and up goes to the end.
       {"bc", true, " a b* c* d", "toggle:bcd changed a b c d*"},
   };
-  Build("a b [c] d");
-  for (const auto& [selected, loseFocus, down, up] : kCases) {
-    for (const bool isDown : {true, false}) {
-      Select(selected);
-      if (loseFocus) mTree->SetFocusItem(nullptr, true);
-      EXPECT_TRUE(Key(isDown ? Code::kDownArrow : Code::kUpArrow));
-      EXPECT_EQ(mLog.Take() + " " + Rows(), isDown ? down : up) << selected;
+  for (const bool walks : {false, true}) {
+    mWalks = walks;
+    Build("a b [c] d");
+    for (const auto& [selected, loseFocus, down, up] : kCases) {
+      for (const bool isDown : {true, false}) {
+        Select(selected);
+        if (loseFocus) mTree->SetFocusItem(nullptr, true);
+        EXPECT_TRUE(Key(isDown ? Code::kDownArrow : Code::kUpArrow));
+        EXPECT_EQ(mLog.Take() + " " + Rows(), isDown ? down : up) << selected;
+      }
     }
   }
 }

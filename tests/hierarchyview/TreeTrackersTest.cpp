@@ -93,6 +93,16 @@ TEST_F(TreeTrackers, APressSelectsRangesKeepBlocksAndTwistiesOpen) {
   }
 }
 
+// The way back from its rows leads out of a subtree, and on to nothing.
+TEST_F(TreeTrackers, ARangeInASubtreeEndsWhereThatDoes) {
+  Build("a [b c] d");
+  const EntryP above = mTree->GetRootEntry();
+  mTree->SetRootEntry(At('a'));
+  mTree->ResizeHierarchy();
+  EXPECT_EQ(After("bcd", "P25,42 r"), "none toggle:bc a b* c*!");
+  mTree->SetRootEntry(above);
+}
+
 TEST_F(TreeTrackers, ASingleSelectionHasNoRangesAndNoBands) {
   Build("a b [c] d", true);
   EXPECT_EQ(After("a", "P25,60 r"), "select:d a b c d*!");

@@ -1,16 +1,8 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include <cmath>
-#include <cstdlib>
-#include <fstream>
-
 #include "lumui/UITest.h"
-#include "lumui/drawbot/SupplierInterface.h"
-#include "lumui/drawbot/Surface.h"
 #include "lumui/testing/VirtualClock.h"
-#include "lumui/ui/KeyframeThemeEditor.h"
-#include "support/ThemeDocuments.h"
 #include "support/TreeRig.h"
 #include "vek/selection/Restorer.h"
 #include "vek/trackview/PlatformScrollView.h"
@@ -156,53 +148,5 @@ TEST_F(TreeWindow, ARestorerBringsBackSelectionAndFocusOfWhatIsThere) {
   restorer->Restore();
   EXPECT_TRUE(manager->SelectedSelectables().empty());
 }
-
-// Beside pictures of before, in tests/hierarchyview/pictures. Letters differ from system to system,
-// so a part of the pixels may; what is selected, a lost row or another colour is more than that.
-// Where VEK_NEW_PICTURES names a folder, the pictures of now are put there.
-class TreePictures : public TreeWindow,
-                     public testing::WithParamInterface<std::pair<float, bool>> {};
-
-TEST_P(TreePictures, LookAsTheyDid) {
-  const auto [scale, isDark] = GetParam();
-  lumui::ui::Theme::Initialize(new lumui::ui::KeyframeThemeEditor(385, 3, 1));
-  vek::test::LoadTheme("LUMColorThemesV2");
-  lumui::ui::Theme::SetBrightness(isDark ? 0.0f : 1.0f);
-  mTree->ExpandAll();
-  mTree->CollapseNode(mNodes["Roots"], true);
-  mTree->SelectEntry(mNodes["Cherry"], false);
-  mTree->SetDrawBorder(true);
-  mTree->SetMarqueeRect(tv::Rect(90, 30, 60, 25));
-  const auto& supplier = *lumui::drawbot::GetDefaultSupplier();
-  const auto now = supplier.NewSurface(200, 100, scale);
-  {
-    lumui::drawbot::StDrawbotState state(now->GetDrawbot());
-    Track().ImageRect(tv::Rect(0, 0, 200, 100), now->GetDrawbot(), lumui::ui::Theme::Get());
-  }
-  lumui::ui::Theme::Terminate();
-  const std::string name = std::string(isDark ? "tree-dark-" : "tree-light-") +
-                           std::to_string(std::lround(scale * 100)) + ".png";
-  if (const char* const folder = std::getenv("VEK_NEW_PICTURES"))
-    now->SavePNG(std::string(folder) + "/" + name);
-  const auto before = supplier.NewSurface(200, 100, scale);
-  before->GetDrawbot().DrawImage(
-      *supplier.NewImageFromFile(std::string(TEST_PICTURES) + "/" + name, scale), tv::Point(0, 0));
-  int differing = 0;
-  const int width = now->GetPixelWidth(), height = now->GetPixelHeight();
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const auto a = now->GetPixel(x, y), b = before->GetPixel(x, y);
-      const float difference =
-          std::abs(a.red - b.red) + std::abs(a.green - b.green) + std::abs(a.blue - b.blue);
-      differing += difference > 0.1f ? 1 : 0;
-    }
-  }
-  EXPECT_LT(differing, width * height / 25) << name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Scales, TreePictures,
-                         testing::Values(std::pair(1.0f, true), std::pair(1.5f, true),
-                                         std::pair(2.0f, true), std::pair(1.0f, false),
-                                         std::pair(1.5f, false), std::pair(2.0f, false)));
 
 }  // namespace

@@ -17,6 +17,7 @@
 #include "support/RecordingPlatformView.h"
 #include "support/TestTree.h"
 #include "vek/hierarchyview/BasicTreeControlBase.h"
+#include "vek/hierarchyview/TreeGeometry.h"
 
 namespace test_support {
 
@@ -41,9 +42,17 @@ class LoggedTree : public BasicTreeControlBase {
   using TreeControlBase::TypedownClosestMatch;
 
   void SelectionChanged() override { mLog.Add("changed"); }
+  bool mWalks = false;       // by a geometry of a class of its own, which has no index
   bool mSortsNames = false;  // of toggles: bands list entries by their addresses
 
  protected:
+  std::auto_ptr<HierarchyGeometry> CreateGeometry() override {
+    struct OwnGeometry : vek::hierarchyview::TreeGeometry {
+      using TreeGeometry::TreeGeometry;
+    };
+    if (!mWalks) return BasicTreeControlBase::CreateGeometry();
+    return std::auto_ptr<HierarchyGeometry>(new OwnGeometry(this, 10, GetHideRoot(), 19));
+  }
   void DoDeselectAll() override {
     mLog.Add("none");
     BasicTreeControlBase::DoDeselectAll();
@@ -77,6 +86,7 @@ class TreeRig : public testing::Test {
     mView.mSupplier = lumui::drawbot::GetDefaultSupplier();
     std::auto_ptr<tv::Overlay> overlay(
         mTree = new LoggedTree(mTrack, mLog, inIsSingle, inDragOut, inHideRoot));
+    mTree->mWalks = mWalks;
     Root().SetText(lumcore::utility::ToUTF16("r"));
     const EntryP model = ReadTree("r [" + inShape + "]");
     Copy(*model, nullptr);
@@ -140,6 +150,7 @@ class TreeRig : public testing::Test {
   RecordingPlatformView mView{mViewLog, tv::Point(200, 60)};
   tv::TrackView& mTrack = mView.Show(false, 1, 1);
   LoggedTree* mTree = nullptr;
+  bool mWalks = false;  // of the trees that are built from now on
   std::map<char, EntryP> mNodes;
 
  private:

@@ -9,6 +9,7 @@
 
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/ui/UI_SubView.h"
 #include "trackview/RealView.h"
 #include "vek/sharedui/MarqeeOverlay.h"
 
@@ -24,6 +25,7 @@ class Cells : public Overlay {
       : Overlay(kLayerDefault, kStateActive), mTrackView(inView) {}
   void DoImageRect(const Rect& inRect, lumui::drawbot::Drawbot& inDrawbot,
                    boost::intrusive_ptr<lumui::ui::Theme>) const override {
+    mDrawn += inRect.width * inRect.height;
     for (int y = At(inRect.y); y <= At(inRect.Bottom()); ++y) {
       for (int x = At(inRect.x); x <= At(inRect.Right()); ++x) {
         Rect cell(static_cast<float>(x) * kCell, static_cast<float>(y) * kCell, kCell, kCell);
@@ -33,6 +35,8 @@ class Cells : public Overlay {
       }
     }
   }
+  // How much was asked for, in data units.
+  mutable float mDrawn = 0;
 
  private:
   static constexpr float kCell = 16;
@@ -45,10 +49,23 @@ class Cells : public Overlay {
   const TrackView& mTrackView;
 };
 
+// Lies over the view and draws something of its own.
+class Cover : public lumui::ui::UI_SubView {
+ public:
+  explicit Cover(float inAlpha) : mAlpha(inAlpha) { UI_SetOpaque(inAlpha == 1); }
+  void UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const override {
+    const lumui::drawbot::ColorRGBA colour(0.2f, 0.7f, 0.1f, mAlpha);
+    inDrawbot->FillRect(inDrawbot->GetClipBounds(), inDrawbot->GetSupplier()->NewBrush(colour));
+  }
+
+ private:
+  float mAlpha;
+};
+
 class Repaints : public test_support::RealView {
  protected:
   Repaints() {
-    Install(new Cells(Track()));
+    Install(mCells = new Cells(Track()));
     Picture();
   }
   void Install(Overlay* inOverlay) {
@@ -92,10 +109,62 @@ class Repaints : public test_support::RealView {
     ExpectWhole("no marquee", [&] { marquee->SetMarqueeRect(Rect()); });
     Track().RemoveOverlay(marquee);
   }
+  // Over the middle of the view, so that there is something at each side of it.
+  void PutCover(float inAlpha) {
+    const boost::intrusive_ptr<Cover> cover(new Cover(inAlpha));
+    cover->UI_SetLocalRectF(Rect(70, 45, 60, 25));
+    mWindow->UI_AddChild(cover);
+    mCover = cover;
+  }
+
+  Cells* mCells = nullptr;
+  boost::intrusive_ptr<Cover> mCover;
 };
 
 TEST_F(Repaints, LeaveNothingOfWhatWasThere) {
   ExpectWholeAt(Point(50, 60));
+}
+
+// What is on the screen already moves there, beside and around what covers it.
+TEST_F(Repaints, LeaveNothingWhereThePictureMoves) {
+  mScroll->SetMovesPicture(true);
+  // Between whole units of the screen there is nothing to move.
+  const qreal scale = QApplication::activeWindow()->devicePixelRatioF();
+  Picture();
+  mCells->mDrawn = 0;
+  View().DataPos(View().DataPos() + Point(0, 1), false);
+  Picture();
+  const Point size = View().DataSize();
+  if (scale == std::floor(scale)) {
+    EXPECT_LT(mCells->mDrawn, size.x * size.y * 0.3f);
+  }
+  for (const float alpha : {0.0f, 0.5f, 1.0f}) {
+    SCOPED_TRACE(alpha);
+    if (alpha > 0) PutCover(alpha);
+    View().DataPos(Point(50, 60), false);
+    for (const Point& step : {Point(3, 4), Point(-5, 2), Point(0, -3), Point(2, 0), Point(40, -20)})
+      ExpectWhole("step", [&] { View().DataPos(View().DataPos() + step, false); });
+    ExpectWhole("two steps at once", [&] {
+      View().DataPos(View().DataPos() + Point(4, 3), false);
+      View().InvalidateDataRect(Rect(60, 70, 5, 5));
+      View().DataPos(View().DataPos() + Point(-1, 5), false);
+    });
+    ExpectWhole("other data and a step", [&] {
+      Track().ResizeDataSize(Track().DataSize() + Point(10, 200), true);
+      View().DataPos(View().DataPos() + Point(4, 3), false);
+    });
+    ExpectWhole("zoom and a step", [&] {
+      const float other = Track().GetCoordScale() == 2 ? 3.0f : 2.0f;
+      Track().SetCoordScale(other, true, Point(-1, -1));
+      View().DataPos(Point(57, 63), false);
+    });
+    if (!mCover) continue;
+    ExpectWhole("another place for what covers", [&] {
+      mCover->UI_SetLocalRectF(Rect(20, 30, 60, 25));
+      View().DataPos(View().DataPos() + Point(2, 2), false);
+    });
+    mWindow->UI_RemoveChild(mCover.get());
+  }
 }
 
 // A thousand million units on the screen, of which a float knows every 64th.

@@ -41,15 +41,17 @@ std::list<Node*> BasicMultiColListSelJunction::AllSelectables() {
 bool BasicMultiColListSelJunction::Knows(const Node* inNode) {
   if (!mControl) return false;
   if (mShape != HierarchyEntryBase::GetShapeVersion()) FindAgain(false);
-  if (IsThere(inNode)) return true;
+  if (FindEntry(inNode)) return true;
   FindAgain(true);
-  return IsThere(inNode);
+  return FindEntry(inNode) != nullptr;
 }
 
 // The entry lives, but it may answer otherwise than it did.
-bool BasicMultiColListSelJunction::IsThere(const Node* inNode) const {
+HierarchyEntryBase* BasicMultiColListSelJunction::FindEntry(const Node* inNode) {
+  if (mShape != HierarchyEntryBase::GetShapeVersion()) return nullptr;
   const auto found = mEntries.find(inNode);
-  return found != mEntries.end() && GetSelectable(found->second) == inNode;
+  const bool isThere = found != mEntries.end() && GetSelectable(found->second) == inNode;
+  return isThere ? found->second : nullptr;
 }
 
 void BasicMultiColListSelJunction::FindAgain(bool inAll) {

@@ -7,11 +7,10 @@
 #include <unordered_map>
 
 #include "vek/config/Export.h"
-#include "vek/selection/KnowingJunction.h"
+#include "vek/hierarchyview/EntryJunction.h"
 
 namespace vek::hierarchyview {
 
-class HierarchyEntryBase;
 class TreeControlBase;
 
 // What can be selected in a ready-made list: the nodes of all its entries, open or closed, that say
@@ -19,13 +18,14 @@ class TreeControlBase;
 //
 // It remembers whose nodes it was asked for as long as no tree changes its shape, and with that no
 // entry dies. After a change one walk over all entries finds those again.
-class VEK_API BasicMultiColListSelJunction : public selection::KnowingJunction {
+class VEK_API BasicMultiColListSelJunction : public EntryJunction {
  public:
   explicit BasicMultiColListSelJunction(TreeControlBase const* inControl);
   ~BasicMultiColListSelJunction() override;
 
   std::list<selection::Node*> AllSelectables() override;
   bool Knows(const selection::Node* inNode) override;
+  HierarchyEntryBase* FindEntry(const selection::Node* inNode) override;
 
   // An entry of the control whose node is about to be selected, so that it need not be looked for.
   void Note(HierarchyEntryBase* inEntry);
@@ -35,7 +35,6 @@ class VEK_API BasicMultiColListSelJunction : public selection::KnowingJunction {
  private:
   using Entries = std::unordered_map<const selection::Node*, HierarchyEntryBase*>;
 
-  bool IsThere(const selection::Node* inNode) const;
   void FindAgain(bool inAll);
 
   TreeControlBase const* mControl;  // borrowed; null when it is gone

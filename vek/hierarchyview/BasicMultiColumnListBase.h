@@ -17,7 +17,7 @@ class EntryManager;
 
 // A tree list that is ready for use: it has a root, and a selection of its own with its manager.
 // Entries are of a host's classes; one that can be selected answers with a node from
-// GetDataAsSelNode. The columns are those that somebody inserts.
+// GetDataAsSelNode, and that node is no other entry's. The columns are those that somebody inserts.
 //
 // Who wants to know what is selected listens to the manager, whose restorers put back the selection
 // and the focus, for deeds. Entries may be put in and taken out

@@ -33,6 +33,11 @@ bool BasicTreeSelJunction::Knows(const selection::Node* inNode) {
   return std::find(nodes.begin(), nodes.end(), inNode) != nodes.end();
 }
 
+HierarchyEntryBase* BasicTreeSelJunction::FindEntry(const selection::Node* inNode) {
+  if (mJoined->count(inNode) == 0) return nullptr;
+  return const_cast<BasicTreeNode*>(static_cast<const BasicTreeNode*>(inNode));
+}
+
 void BasicTreeSelJunction::Join(HierarchyEntryBase* inEntry) {
   ForEachEntry(inEntry, [&](HierarchyEntryBase* inJoining) {
     auto* const node = dynamic_cast<BasicTreeNode*>(inJoining);

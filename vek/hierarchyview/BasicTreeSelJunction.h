@@ -6,18 +6,17 @@
 #include <memory>
 #include <unordered_set>
 
-#include "vek/selection/KnowingJunction.h"
+#include "vek/hierarchyview/EntryJunction.h"
 
 namespace vek::hierarchyview {
 
 class BasicTreeNode;
-class HierarchyEntryBase;
 class TreeControlBase;
 
 // What can be selected in a ready-made tree: the nodes of all its entries, open or closed, that say
 // they are selectable, from top to bottom. The root counts where it is shown. Entries of a host's
 // own class count too; those of the tree's own are also known one by one, from joining to leaving.
-class VEK_API BasicTreeSelJunction : public selection::KnowingJunction {
+class VEK_API BasicTreeSelJunction : public EntryJunction {
  public:
   // It borrows the control.
   explicit BasicTreeSelJunction(TreeControlBase const& inControl);
@@ -25,6 +24,7 @@ class VEK_API BasicTreeSelJunction : public selection::KnowingJunction {
 
   std::list<selection::Node*> AllSelectables() override;
   bool Knows(const selection::Node* inNode) override;
+  HierarchyEntryBase* FindEntry(const selection::Node* inNode) override;
 
   // With everything below, as an entry comes into the tree and as it goes.
   void Join(HierarchyEntryBase* inEntry);

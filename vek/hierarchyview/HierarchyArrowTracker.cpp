@@ -184,7 +184,8 @@ HierarchyGeometry::iterator HierarchyArrowTracker::ExtendUp(
     --top;
   }
   for (HierarchyGeometry::iterator row = top; row != inFocus; ++row) {
-    if (row == geometry.end() || !IsSelected(*row)) return inFocus;
+    // A way back out of a subtree ends on null, which is not where that ends.
+    if (!*row || row == geometry.end() || !IsSelected(*row)) return inFocus;
   }
   return top;
 }

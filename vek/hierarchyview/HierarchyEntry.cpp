@@ -4,6 +4,7 @@
 #include "vek/hierarchyview/HierarchyEntry.h"
 
 #include <utility>
+#include <vector>
 
 #include "vek/hierarchyview/TreeListComparator.h"
 #include "vek/selection/Manager.h"
@@ -51,13 +52,21 @@ selection::Node* HierarchyEntry::GetDataAsSelNode() const {
 
 void HierarchyEntry::SortChildrenImpl_(unsigned int const& inAxis, bool inAscending,
                                        TreeListComparator& inComparator) {
-  mSortAxis = inAxis;
-  mSortAscending = inAscending;
-  mCompareFunction = inComparator.GetCompareFunction();
-  SortList(inComparator);
-  for (const auto& child : GetChildren()) {
-    if (!child || !child->mIsHierarchyEntry) continue;
-    static_cast<HierarchyEntry&>(*child).SortChildrenImpl_(inAxis, inAscending, inComparator);
+  // From top to bottom; trees may be too deep for a recursion.
+  std::vector<HierarchyEntry*> waiting(1, this);
+  while (!waiting.empty()) {
+    HierarchyEntry& entry = *waiting.back();
+    waiting.pop_back();
+    entry.mSortAxis = inAxis;
+    entry.mSortAscending = inAscending;
+    entry.mCompareFunction = inComparator.GetCompareFunction();
+    if (entry.GetChildren().empty()) continue;
+    entry.SortList(inComparator);
+    const List& children = entry.GetChildren();
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+      if (*child && (*child)->mIsHierarchyEntry)
+        waiting.push_back(static_cast<HierarchyEntry*>(child->get()));
+    }
   }
 }
 

@@ -17,17 +17,9 @@ using lumcore::geom::RectT;
 
 namespace {
 
-// As in the plain walk, but an entry mostly knows its neighbours, and where all rows have one
-// height no text is measured for it.
-struct HintedRules {
-  explicit HintedRules(HierarchyGeometry const& inGeometry, TreeControlBase* inControl)
-      : geometry(inGeometry), control(inControl), rows(UniformRows::Of(inGeometry)) {}
-
+// As in the plain walk, but an entry mostly knows its neighbours.
+struct HintedNeighbours {
   HierarchyEntryBase* GetRoot() const { return control->GetRootEntry(); }
-  float GetHeight(HierarchyEntryBase const* inEntry) const {
-    return rows ? rows->GetHeight(inEntry) : geometry.EntryWidthHeight(inEntry).y;
-  }
-  int GetLevel(HierarchyEntryBase const* inEntry) const { return geometry.EntryLevel(inEntry); }
   static HierarchyEntryBase* GetNext(HierarchyEntryBase const* inEntry) {
     return inEntry->GetNextSibling();
   }
@@ -35,9 +27,34 @@ struct HintedRules {
     return inEntry->GetPreviousSibling();
   }
 
-  HierarchyGeometry const& geometry;
   TreeControlBase* control;
-  std::optional<UniformRows> rows;
+};
+
+struct HintedRules : HintedNeighbours, AskedLevels {
+  float GetHeight(HierarchyEntryBase const* inEntry) const {
+    return geometry.EntryWidthHeight(inEntry).y;
+  }
+};
+
+// Where all rows have one height no text is measured for it, and siblings are of one level.
+struct UniformRules : HintedNeighbours {
+  using Depth = unsigned short;
+
+  float GetHeight(HierarchyEntryBase const* inEntry) const { return rows.GetHeight(inEntry); }
+  Depth GetDepth(HierarchyEntryBase const* inEntry) const {
+    return geometry.HierarchyGeometry::EntryLevel(inEntry);
+  }
+  static Depth GetDepthAbove(Depth inDepth) { return static_cast<Depth>(inDepth - 1); }
+  Depth GetDepthBeside(HierarchyEntryBase const* inEntry, Depth inDepth,
+                       HierarchyEntryBase const* inOther) const {
+    return inEntry->GetParent() == inOther->GetParent() ? inDepth : GetDepth(inOther);
+  }
+  int GetLevel(HierarchyEntryBase const* /*inEntry*/, Depth inDepth) const {
+    return rows.GetLevel(inDepth);
+  }
+
+  HierarchyGeometry const& geometry;
+  UniformRows const& rows;
 };
 
 }  // namespace
@@ -50,12 +67,6 @@ HierarchyGeometry::TraverseEntry::TraverseEntry(HierarchyGeometry* inGeometry,
       mDeep(inDeep),
       mCookie(inCookie),
       mExactY(inCookie.y) {}
-
-void HierarchyGeometry::TraverseEntry::MoveBy(float inHeight) {
-  if (static_cast<float>(mExactY) != mCookie.y) mExactY = mCookie.y;
-  mExactY += inHeight;
-  mCookie.y = static_cast<float>(mExactY);
-}
 
 HierarchyGeometry::iterator::iterator()
     : iterator(TraverseEntry(nullptr, nullptr, false, PointT<float>())) {}
@@ -203,11 +214,19 @@ HierarchyGeometry::TraverseEntry const& HierarchyGeometry::GetTraverse(iterator 
 }
 
 void HierarchyGeometry::NextEntry(TraverseEntry* ioTraverse, bool inSkipChildren) const {
-  StepForward(HintedRules(*this, mTreeControl), *ioTraverse, mIndent, inSkipChildren);
+  if (UniformRows const* const rows = UniformRows::Of(*this)) {
+    StepForward(UniformRules{{mTreeControl}, *this, *rows}, *ioTraverse, mIndent, inSkipChildren);
+  } else {
+    StepForward(HintedRules{{mTreeControl}, {*this}}, *ioTraverse, mIndent, inSkipChildren);
+  }
 }
 
 void HierarchyGeometry::PreviousEntry(TraverseEntry* ioTraverse) const {
-  StepBack(HintedRules(*this, mTreeControl), *ioTraverse, mIndent);
+  if (UniformRows const* const rows = UniformRows::Of(*this)) {
+    StepBack(UniformRules{{mTreeControl}, *this, *rows}, *ioTraverse, mIndent);
+  } else {
+    StepBack(HintedRules{{mTreeControl}, {*this}}, *ioTraverse, mIndent);
+  }
 }
 
 }  // namespace vek::hierarchyview

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
+#include <typeinfo>
 
 #include "lumcore/geom/Point.h"
 #include "lumcore/geom/Rect.h"
@@ -16,6 +17,7 @@ namespace vek::hierarchyview {
 
 class HierarchyEntryBase;
 class TreeControlBase;
+struct UniformRows;
 
 // Turns a tree of entries into a flat sequence of rows with positions, in the control's data
 // coordinates. Nothing stores that sequence: a row's place is found by walking to it, and a change
@@ -35,7 +37,11 @@ class VEK_API HierarchyGeometry {
 
     // Moves the cookie down. Its y is the float of a sum that is kept exactly, so that rows stay in
     // order beyond 2^24 units; a y that somebody else wrote is where the sum starts again.
-    void MoveBy(float inHeight);
+    void MoveBy(float inHeight) {
+      if (static_cast<float>(mExactY) != mCookie.y) mExactY = mCookie.y;
+      mExactY += inHeight;
+      mCookie.y = static_cast<float>(mExactY);
+    }
 
     HierarchyGeometry* mGeometry;
     HierarchyEntryBase* mEntry;            // null past the end
@@ -131,6 +137,7 @@ class VEK_API HierarchyGeometry {
   friend class PlainWalk;
   friend class RowIndex;
   friend class RowWalk;
+  friend struct UniformRows;
 
   lumcore::geom::PointT<float> GetTraverseCookie(iterator const& inIterator);
   void NextEntry(TraverseEntry* ioTraverse, bool inSkipChildren) const;
@@ -149,6 +156,9 @@ class VEK_API HierarchyGeometry {
   // How often the index is not to be asked for, since it could not be had.
   std::uint32_t mIndexPause = 0;
   std::uint32_t mLastPause = 0;
+  // What this object was when it was last looked at, and what that says of its rows.
+  mutable std::type_info const* mKnownType = nullptr;
+  mutable std::unique_ptr<UniformRows const> mUniformRows;
 };
 
 }  // namespace vek::hierarchyview

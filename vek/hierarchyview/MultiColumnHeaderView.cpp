@@ -3,6 +3,8 @@
 
 #include "vek/hierarchyview/MultiColumnHeaderView.h"
 
+#include <boost/weak_ptr.hpp>
+
 #include "lumcore/config/Localizer.h"
 #include "lumui/ui/ContextMenu.h"
 #include "vek/hierarchyview/ColumnHeaderTrackers.h"
@@ -137,20 +139,22 @@ Rect MultiColumnHeaderView::GetColumnHeaderRect(unsigned short inColumn) const {
 
 void MultiColumnHeaderView::HandleClickInColumn(unsigned short inColumn) {
   if (!mClickable || !mMultiColumnView) return;
+  const boost::weak_ptr<char> alive(mAlive);
   if (inColumn != mMultiColumnView->GetSortColumn()) {
     mMultiColumnView->SetSortColumn(inColumn);
   } else {
     mMultiColumnView->SortIsAscending(!mMultiColumnView->GetSortIsAscending());
   }
-  InvalidateAll();
+  if (!alive.expired()) InvalidateAll();
 }
 
 bool MultiColumnHeaderView::DoDoubleClick(trackview::Modifiers /*inModifiers*/,
                                           const Point& inDataPoint) {
   unsigned short column = 0;
   if (!PointInResizeHandle(inDataPoint, column)) return false;
+  const boost::weak_ptr<char> alive(mAlive);
   mMultiColumnView->SizeColumnToMaxStringLength(column);
-  InvalidateAll();
+  if (!alive.expired()) InvalidateAll();
   return true;
 }
 
@@ -185,12 +189,13 @@ bool MultiColumnHeaderView::DoContextMenu(const Point& inLocalPoint, lumui::ui::
       localizer.GetLocalizedString("$$$/vek/hierview/MultiColumnHeaderView/Columns=Columns"),
       kColumnsID, *submenu);
 
-  // The list may be gone, or another, when the menu has closed.
+  // The list may be gone, or another, when the menu has closed, and so may this.
+  const boost::weak_ptr<char> alive(mAlive);
   const unsigned chosen = lumui::ui::UI_DoContextMenu(*menu, inNode, inLocalPoint);
-  if (chosen == 0 || !mMultiColumnView) return chosen != 0;
+  if (chosen == 0 || alive.expired() || !mMultiColumnView) return chosen != 0;
   if (chosen == kHideThisID && canHide) mMultiColumnView->RemoveColumn(hit);
   if (chosen >= kFirstColumnID) ToggleColumn(columns[chosen - kFirstColumnID]);
-  InvalidateAll();
+  if (!alive.expired()) InvalidateAll();
   return true;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
+#include <boost/shared_ptr.hpp>
 #include <list>
 #include <map>
 #include <utility>
@@ -112,6 +113,7 @@ class VEK_API MultiColumnHeaderView : public trackview::Overlay,
   ColumnSizes mDefaultNewColumnSizes;
   float mDefaultMinWidth = 15.0f;
   float mDefaultWidth = 100.0f;
+  boost::shared_ptr<char> mAlive{new char(0)};  // for calls in which somebody may take this away
 };
 
 }  // namespace vek::hierarchyview

@@ -30,12 +30,11 @@ HierarchyEntryBase* FindPrevious(HierarchyEntryBase const* inEntry) {
   return std::next(place)->get();
 }
 
-struct PlainRules {
+struct PlainRules : AskedLevels {
   HierarchyEntryBase* GetRoot() const { return control->GetRootEntry(); }
   float GetHeight(HierarchyEntryBase const* inEntry) const {
     return geometry.EntryWidthHeight(inEntry).y;
   }
-  int GetLevel(HierarchyEntryBase const* inEntry) const { return geometry.EntryLevel(inEntry); }
   static HierarchyEntryBase* GetNext(HierarchyEntryBase const* inEntry) {
     return FindNext(inEntry);
   }
@@ -43,7 +42,6 @@ struct PlainRules {
     return FindPrevious(inEntry);
   }
 
-  HierarchyGeometry const& geometry;
   TreeControlBase* control;
 };
 
@@ -51,12 +49,12 @@ struct PlainRules {
 
 void PlainWalk::NextEntry(HierarchyGeometry const& inGeometry, TraverseEntry& ioTraverse,
                           bool inSkipChildren) {
-  StepForward(PlainRules{inGeometry, inGeometry.mTreeControl}, ioTraverse, inGeometry.mIndent,
+  StepForward(PlainRules{{inGeometry}, inGeometry.mTreeControl}, ioTraverse, inGeometry.mIndent,
               inSkipChildren);
 }
 
 void PlainWalk::PreviousEntry(HierarchyGeometry const& inGeometry, TraverseEntry& ioTraverse) {
-  StepBack(PlainRules{inGeometry, inGeometry.mTreeControl}, ioTraverse, inGeometry.mIndent);
+  StepBack(PlainRules{{inGeometry}, inGeometry.mTreeControl}, ioTraverse, inGeometry.mIndent);
 }
 
 PlainWalk::TraverseEntry PlainWalk::Begin(HierarchyGeometry& ioGeometry, bool inDeep) {

@@ -32,7 +32,7 @@ constexpr std::uint32_t kMaxPause = 256;
 std::optional<RowIndex> RowIndex::Of(HierarchyGeometry& ioGeometry) {
   HierarchyEntryBase* const root = ioGeometry.mTreeControl->GetRootEntry();
   if (!root || root->GetParent()) return std::nullopt;
-  const std::optional<UniformRows> rows = UniformRows::Of(ioGeometry);
+  UniformRows const* const rows = UniformRows::Of(ioGeometry);
   if (!rows || !(rows->rowHeight > 0) || !std::isfinite(rows->rowHeight)) return std::nullopt;
   if (ioGeometry.mIndexPause > 0) {
     --ioGeometry.mIndexPause;

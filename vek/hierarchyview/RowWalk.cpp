@@ -19,6 +19,7 @@ RowWalk::RowWalk(HierarchyGeometry& ioGeometry)
     : mGeometry(ioGeometry), mRow(ioGeometry.GetTraverse(ioGeometry.begin())) {
   if (mRow.mEntry && !mRow.mEntry->GetParent()) mRows = UniformRows::Of(ioGeometry);
   if (mRows && mRows->columns) mColumnWidth = mRows->columns->GetTotalColumnWidth();
+  mShape = HierarchyEntryBase::GetShapeVersion();
 }
 
 bool RowWalk::AtEnd() const {
@@ -26,6 +27,7 @@ bool RowWalk::AtEnd() const {
 }
 
 void RowWalk::Next() {
+  if (mRows && mShape != HierarchyEntryBase::GetShapeVersion()) mRows = nullptr;
   if (!mRows) return mGeometry.NextEntry(&mRow, false);
   if (!mRow.mEntry) return;
   mRow.MoveBy(mRows->GetHeight(mRow.mEntry));
@@ -65,7 +67,7 @@ void RowWalk::LeaveUpward() {
 void RowWalk::StandAt(HierarchyEntryBase* inOwner, Place inPlace) {
   mRow.mEntry = inPlace->get();
   mPath.back() = inPlace;
-  if (!mRow.mEntry || !mRow.mEntry->StandsOnlyUnder(inOwner)) mRows.reset();
+  if (!mRow.mEntry || !mRow.mEntry->StandsOnlyUnder(inOwner)) mRows = nullptr;
 }
 
 int RowWalk::GetLevel() const {

@@ -3,26 +3,26 @@
 
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <vector>
 
 #include "vek/hierarchyview/UniformRows.h"
 
 namespace vek::hierarchyview {
 
-// The rows of a geometry from the first to the last, for loops that leave the tree's shape and the
-// control's columns and font alone. It answers as iterators do and is several times as quick in a
-// regular tree with one of the library's geometries, where it keeps the way down to the row instead
-// of climbing for levels and looking for siblings. At the first entry that another list holds too,
-// or whose parent is not its list's owner, it goes on as an iterator.
-//
-// Opening or closing the current entry is no change of shape above it, and is allowed.
+// The rows of a geometry from the first to the last, for loops that leave the control's columns and
+// font alone. It answers as iterators do and is several times as quick in a regular tree with one
+// of the library's geometries, where it keeps the way down to the row instead of climbing for
+// levels and looking for siblings. At the first entry that another list holds too, or whose parent
+// is not its list's owner, and when any tree changes its shape, it goes on as an iterator.
 class VEK_API RowWalk {
  public:
   explicit RowWalk(HierarchyGeometry& ioGeometry);
 
   bool AtEnd() const;
   void Next();
+  // What has changed is that the current entry was opened or closed, and nothing above it.
+  void FollowChange() { mShape = HierarchyEntryBase::GetShapeVersion(); }
 
   HierarchyEntryBase* GetEntry() const { return mRow.mEntry; }
   float GetTop() const { return mRow.mCookie.y; }
@@ -41,8 +41,9 @@ class VEK_API RowWalk {
 
   HierarchyGeometry& mGeometry;
   HierarchyGeometry::TraverseEntry mRow;
-  std::optional<UniformRows> mRows;  // empty: steps as an iterator
+  UniformRows const* mRows = nullptr;  // null: steps as an iterator
   float mColumnWidth = 0;
+  std::uint64_t mShape = 0;
   std::vector<Place> mPath;  // where the row and its ancestors below the root stand
 };
 

@@ -68,7 +68,11 @@ void TreeControlBase::ExpandAll() {
   if (!mGeometry) return;
   // The walk enters an entry when it leaves its row, and so comes by what opens here.
   for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next()) {
-    if (CanExpandNode(row.GetEntry())) ExpandNode(row.GetEntry(), false);
+    if (!CanExpandNode(row.GetEntry())) continue;
+    const std::uint64_t shape = HierarchyEntryBase::GetShapeVersion();
+    ExpandNode(row.GetEntry(), false);
+    // One change is that of the state alone.
+    if (HierarchyEntryBase::GetShapeVersion() == shape + 1) row.FollowChange();
   }
   ResizeHierarchy();
 }

@@ -225,6 +225,8 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
  private:
   friend class AccessibleRows;
   struct Step;
+  struct SelectedRow;
+  struct SelectedRows;
   class Painter;
 
   lumui::drawbot::SupplierInterface const* GetSupplier() const;
@@ -238,6 +240,8 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   bool Reveal(Rect inDataRect) const;
   void SetOpen(HierarchyEntryBase* inEntry, ENodeState inState, bool inResize);
   bool SetOpenWhereSelected(bool inOpen);
+  SelectedRows FindSelectedRows(bool inOnlyFirst);
+  bool LookUpSelectedRows(SelectedRows& outSelected);
   Rect NoteSelectedRow(HierarchyGeometry::iterator const& inRow, Step& ioStep);
   void TakeStep(Step& ioStep, bool inAlignToRows);
   bool HandleKeyDown(int inOSCode);

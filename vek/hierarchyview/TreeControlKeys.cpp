@@ -8,13 +8,17 @@
 
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/KeyboardEvent.h"
+#include "vek/hierarchyview/EntryJunction.h"
 #include "vek/hierarchyview/HoldEntry.h"
+#include "vek/hierarchyview/RowIndex.h"
 #include "vek/hierarchyview/RowWalk.h"
 #include "vek/hierarchyview/TreeControlBase.h"
+#include "vek/selection/Manager.h"
 #include "vek/trackview/PlatformView.h"
 
 namespace vek::hierarchyview {
 
+using EntryP = boost::intrusive_ptr<HierarchyEntryBase>;
 using lumcore::UTF16String;
 using lumcore::utility::FoldCase;
 
@@ -97,6 +101,17 @@ struct TreeControlBase::Step {
   bool found = false;                  // the focus goes to the target
 };
 
+struct TreeControlBase::SelectedRow {
+  int number;  // from 0 at the top
+  HierarchyGeometry::iterator row;
+  EntryP held;
+};
+
+struct TreeControlBase::SelectedRows {
+  std::vector<SelectedRow> rows;
+  int passed = 0;  // all rows, unless the search stopped at a selected one
+};
+
 TreeControlBase::Rect TreeControlBase::NoteSelectedRow(HierarchyGeometry::iterator const& inRow,
                                                        Step& ioStep) {
   const Rect area = GetEntryGeometry(inRow)->GetRowRect();
@@ -105,30 +120,58 @@ TreeControlBase::Rect TreeControlBase::NoteSelectedRow(HierarchyGeometry::iterat
   return Grown(area);
 }
 
+// Those that show, from the top; of several only the first where no other is wanted. Where the
+// junction and the index answer for each of the few that are selected, nothing else is asked.
+TreeControlBase::SelectedRows TreeControlBase::FindSelectedRows(bool inOnlyFirst) {
+  SelectedRows selected;
+  if (!LookUpSelectedRows(selected)) {
+    for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next(), ++selected.passed) {
+      if (!IsSelected(row.GetEntry())) continue;
+      selected.rows.push_back(
+          {selected.passed, row.GetIterator(), EntryP(HoldEntry(row.GetEntry()))});
+      if (inOnlyFirst) break;
+    }
+  }
+  if (inOnlyFirst && selected.rows.size() > 1) selected.rows.resize(1);
+  return selected;
+}
+
+bool TreeControlBase::LookUpSelectedRows(SelectedRows& outSelected) {
+  constexpr std::size_t kFew = 1024;
+  selection::Manager* const manager = GetSelectionManager();
+  auto* const junction = dynamic_cast<EntryJunction*>(manager->GetJunction());
+  if (!junction) return false;
+  const std::list<selection::Node*> nodes = manager->SelectedSelectables();
+  const std::optional<RowIndex> index = RowIndex::Of(*mGeometry);
+  if (!index || nodes.size() > kFew) return false;
+  std::vector<SelectedRow> rows;
+  for (selection::Node const* const node : nodes) {
+    HierarchyEntryBase* const entry = junction->FindEntry(node);
+    if (!entry || !IsSelected(entry)) return false;
+    const std::optional<RowIndex::Row> row = index->Find(entry);
+    if (row)
+      rows.push_back({static_cast<int>(*row), index->GetIterator(*row), EntryP(HoldEntry(entry))});
+  }
+  std::sort(rows.begin(), rows.end(),
+            [](SelectedRow const& inA, SelectedRow const& inB) { return inA.number < inB.number; });
+  outSelected.rows.swap(rows);
+  outSelected.passed = static_cast<int>(index->GetCount());
+  return true;
+}
+
 void TreeControlBase::SelectNext() {
   if (!HasRows()) return;
   Step step;
   const int count = NumSelectedEntries();
-  RowWalk row(*mGeometry);
-  while (!row.AtEnd()) {
-    HierarchyEntryBase* const entry = row.GetEntry();
-    bool startsHere = false;
-    if (IsSelected(entry)) {
-      const HierarchyGeometry::iterator here = row.GetIterator();
-      const Rect around = NoteSelectedRow(here, step);
-      startsHere = count == 1 || entry == mFocusItem;
-      if (startsHere) {
-        step.target = here;
-        step.left = around;
-      }
-    }
-    row.Next();
-    if (!startsHere) continue;
-    if (!row.AtEnd()) {
-      step.target = row.GetIterator();
-      step.found = true;
-    }
-    if (count == 1) break;
+  for (SelectedRow const& selected : FindSelectedRows(count == 1).rows) {
+    const Rect around = NoteSelectedRow(selected.row, step);
+    if (count != 1 && *selected.row != mFocusItem) continue;
+    step.target = selected.row;
+    step.left = around;
+    HierarchyGeometry::iterator next = selected.row;
+    if (++next == mGeometry->end()) continue;
+    step.target = next;
+    step.found = true;
   }
   if (*step.target) TakeStep(step, false);
 }
@@ -138,17 +181,14 @@ void TreeControlBase::SelectPrevious() {
   if (!HasRows()) return;
   Step step;
   const int count = NumSelectedEntries();
-  int position = 0;
-  for (RowWalk row(*mGeometry); !row.AtEnd(); row.Next()) {
-    if (IsSelected(row.GetEntry())) {
-      const Rect around = NoteSelectedRow(row.GetIterator(), step);
-      if (count == 1 || row.GetEntry() == mFocusItem) {
-        step.left = around;
-        step.found = true;
-      }
-      if (count == 1) break;
-    }
-    if (!step.found) ++position;
+  const SelectedRows selected = FindSelectedRows(count == 1);
+  int position = selected.passed;
+  for (auto const& [number, row, held] : selected.rows) {
+    const Rect around = NoteSelectedRow(row, step);
+    if (count != 1 && *row != mFocusItem) continue;
+    step.left = around;
+    if (!step.found) position = number;
+    step.found = true;
   }
   position = std::max(position - 1, 0);
   if (position == 0 && mHideRoot) position = 1;

@@ -3,22 +3,22 @@
 
 #include "vek/hierarchyview/UniformRows.h"
 
-#include <typeinfo>
-
 #include "vek/hierarchyview/TreeGeometry.h"
 #include "vek/hierarchyview/TreeListGeometry.h"
 
 namespace vek::hierarchyview {
 
-std::optional<UniformRows> UniformRows::Of(HierarchyGeometry const& inGeometry) {
+void UniformRows::Learn(HierarchyGeometry const& inGeometry) {
   const std::type_info& type = typeid(inGeometry);
+  inGeometry.mUniformRows.reset();
   if (type == typeid(TreeListGeometry)) {
-    return static_cast<TreeListGeometry const&>(inGeometry).GetUniformRows();
+    inGeometry.mUniformRows.reset(
+        new UniformRows(static_cast<TreeListGeometry const&>(inGeometry).GetUniformRows()));
+  } else if (type == typeid(TreeGeometry)) {
+    inGeometry.mUniformRows.reset(
+        new UniformRows(static_cast<TreeGeometry const&>(inGeometry).GetUniformRows()));
   }
-  if (type == typeid(TreeGeometry)) {
-    return static_cast<TreeGeometry const&>(inGeometry).GetUniformRows();
-  }
-  return std::nullopt;
+  inGeometry.mKnownType = &type;
 }
 
 }  // namespace vek::hierarchyview

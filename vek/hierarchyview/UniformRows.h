@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <optional>
+#include <typeinfo>
 
 #include "vek/hierarchyview/HierarchyEntryBase.h"
 #include "vek/hierarchyview/HierarchyGeometry.h"
@@ -17,7 +17,11 @@ class TreeListControlBase;
 // height, but for a hidden root, and levels that nobody overrides. A class that a host derives may
 // answer otherwise, so only the exact classes count, and they only once they are constructed.
 struct UniformRows {
-  static std::optional<UniformRows> Of(HierarchyGeometry const& inGeometry);
+  // Null for any other; the geometry's as long as that lives.
+  static UniformRows const* Of(HierarchyGeometry const& inGeometry) {
+    if (&typeid(inGeometry) != inGeometry.mKnownType) Learn(inGeometry);
+    return inGeometry.mUniformRows.get();
+  }
 
   bool IsHidden(HierarchyEntryBase const* inEntry) const {
     return hideRoot && !inEntry->GetParent();
@@ -35,6 +39,9 @@ struct UniformRows {
   // Rows are as wide as its columns less their indent, or, where it is null, as their texts.
   TreeListControlBase const* columns;
   TextWidths* widths;  // null where there are columns
+
+ private:
+  static void Learn(HierarchyGeometry const& inGeometry);
 };
 
 }  // namespace vek::hierarchyview

@@ -52,8 +52,11 @@ struct Manager::Impl {
 void Manager::Impl::Clean() {
   assert(mJunction);  // whoever uses a manager has given it one
   if (auto* const knowing = dynamic_cast<KnowingJunction*>(mJunction)) {
-    for (auto entry = mSelected.begin(); entry != mSelected.end();)
-      entry = knowing->Knows(*entry) ? std::next(entry) : mSelected.erase(entry);
+    // Of a copy: a host that is asked may change the selection.
+    const std::vector<Node*> selected(mSelected.begin(), mSelected.end());
+    for (Node* const node : selected) {
+      if (!knowing->Knows(node)) mSelected.erase(node);
+    }
     return;
   }
   const std::list<Node*> known = mJunction->AllSelectables();

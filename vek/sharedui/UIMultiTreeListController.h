@@ -41,7 +41,7 @@ class VEK_API UIMultiTreeListController {
       UIMultiTreeListView& inView, UIMultiTreeListNode const& inNode);
   virtual bool IsSelectable(UIMultiTreeListView& inView,
                             UIMultiTreeListNode const& inNode);  // true
-  // What is selected in place of the row's own node; null for that one.
+  // What is selected in place of the row's own node, and of no other row; null for that one.
   virtual selection::Node* GetDataAsSelNode(UIMultiTreeListView& inView,
                                             UIMultiTreeListNode const& inNode);
   // True takes the event. A double click that is left opens and closes the row, a key does what

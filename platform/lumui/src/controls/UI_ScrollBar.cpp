@@ -4,11 +4,14 @@
 #include "lumui/controls/UI_ScrollBar.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionSlider>
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <utility>
 
 #include "controls/ScrollBarPeer.h"
 #include "lumcore/debug/Contract.h"
@@ -24,13 +27,66 @@ namespace {
 // Leaves room below the limit of int for the page that Qt adds to the value.
 constexpr double kLargestBarRange = 1 << 30;
 
+// Qt's bar draws all of itself for each change of its slider, which takes several times as long as
+// the slider alone. This one asks for drawing only from where the slider was seen last to where it
+// is now, while nothing else of the bar can look different. And it is opaque whatever the style
+// says, since it lies over the content, which would be drawn below it otherwise.
+class BarWidget final : public ui::NodeWidgetT<QScrollBar> {
+ public:
+  using NodeWidgetT::NodeWidgetT;
+
+ protected:
+  void sliderChange(SliderChange inChange) override {
+    const Look look = GetLook();
+    const bool moved = inChange != SliderOrientationChange && look.ends == mSeen.ends &&
+                       !style()->styleHint(QStyle::SH_ScrollBar_Transient, nullptr, this);
+    if (!moved) return NodeWidgetT::sliderChange(inChange);
+    if (look.slider != mSeen.slider) {
+      // Styles may draw an edge or a shadow around it.
+      update((look.slider | mSeen.slider).adjusted(-kAround, -kAround, kAround, kAround));
+    }
+  }
+  bool event(QEvent* inEvent) override {
+    const bool isTaken = NodeWidgetT::event(inEvent);
+    // Styles have their say in these.
+    if (inEvent->type() == QEvent::Polish || inEvent->type() == QEvent::StyleChange) {
+      setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+    return isTaken;
+  }
+  void paintEvent(QPaintEvent* inEvent) override {
+    QPainter(this).fillRect(inEvent->rect(), palette().window());
+    mSeen = GetLook();
+    NodeWidgetT::paintEvent(inEvent);
+  }
+
+ private:
+  // Units that a style may draw around the slider.
+  static constexpr int kAround = 2;
+
+  struct Look {
+    QRect slider;
+    // Whether it is at the one end and at the other: an arrow that leads nowhere may look so.
+    std::pair<bool, bool> ends;
+  };
+
+  Look GetLook() const {
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    return {
+        style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, this),
+        {sliderPosition() <= minimum(), sliderPosition() >= maximum()}};
+  }
+
+  Look mSeen;
+};
+
 }  // namespace
 
 UI_ScrollBar::Peer::Peer(bool inHorizontal) : NodePeer(Kind::kNative), mHorizontal(inHorizontal) {}
 
 QWidget* UI_ScrollBar::Peer::DoMakeWidget(QWidget* inParent) {
-  auto* const bar =
-      new ui::NodeWidgetT<QScrollBar>(*this, mHorizontal ? Qt::Horizontal : Qt::Vertical, inParent);
+  auto* const bar = new BarWidget(*this, mHorizontal ? Qt::Horizontal : Qt::Vertical, inParent);
   bar->setContextMenuPolicy(Qt::NoContextMenu);
   QObject::connect(bar, &QScrollBar::actionTriggered, bar, [this](int inAction) {
     ui::EventGate::Get()->RunGuarded([&] { HandleAction(inAction); });

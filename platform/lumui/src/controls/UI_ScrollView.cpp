@@ -21,6 +21,24 @@ using Rect = lumcore::geom::RectT<float>;
 
 constexpr double kLinesANotch = 3;
 
+// What lies over a widget's rectangle, in the widget's coordinates: the later ones among its
+// siblings, and among those of what it lies in.
+QRegion CoveredPart(const QWidget& inWidget, const QRect& inRect) {
+  QRegion covered;
+  QPoint origin;  // the widget's, in the one that is looked at
+  for (const QWidget* at = &inWidget; !at->isWindow() && at->parentWidget();
+       at = at->parentWidget()) {
+    origin += at->pos();
+    const QObjectList& siblings = at->parentWidget()->children();
+    for (auto i = siblings.indexOf(at) + 1; i < siblings.size(); ++i) {
+      const auto* const sibling = qobject_cast<const QWidget*>(siblings[i]);
+      if (!sibling || sibling->isWindow() || sibling->isHidden()) continue;
+      covered += sibling->geometry().translated(-origin) & inRect;
+    }
+  }
+  return covered;
+}
+
 // The least move along one axis that shows the extent; the near edge first.
 double Revealed(double inOffset, double inViewed, double inStart, double inSize) {
   if (inStart < inOffset || inSize > inViewed) return inStart;
@@ -139,7 +157,8 @@ bool UI_ScrollView::MoveTo(const Point& inWanted) {
   return true;
 }
 
-// False where everything is to be drawn anew: between whole units the picture cannot be moved.
+// False where everything is to be drawn anew, and nothing has seen to that yet: between whole units
+// the picture cannot be moved.
 bool UI_ScrollView::MovePicture(const Point& inOldOffset) {
   QWidget* const widget = mContent->GetPeer()->GetWidget();
   const Point way = inOldOffset - mOffset;
@@ -148,9 +167,18 @@ bool UI_ScrollView::MovePicture(const Point& inOldOffset) {
       std::abs(way.x) >= size.x || std::abs(way.y) >= size.y) {
     return false;
   }
+  if (mContent->GetPeer()->IsAllInvalid()) return true;
+  const QPoint pixels(static_cast<int>(way.x), static_cast<int>(way.y));
   const QRect area(0, 0, static_cast<int>(size.x), static_cast<int>(size.y));
-  widget->scroll(static_cast<int>(way.x), static_cast<int>(way.y), area);
-  // The bars cover the rest, but for the corner between their ends.
+  // What is covered has no picture to be moved, and would keep all the rest from moving.
+  const QRegion covered = CoveredPart(*widget, area);
+  for (const QRect& rect : QRegion(area) - covered) {
+    const bool stays = rect.intersects(rect.translated(pixels));
+    stays ? widget->scroll(pixels.x(), pixels.y(), rect) : widget->update(rect);
+  }
+  // Something may be seen through what covers it. Of the rest, the corner between the ends of the
+  // bars is the only part that they leave free.
+  widget->update(covered);
   widget->update(QRect(area.bottomRight() + QPoint(1, 1), widget->rect().bottomRight()));
   return true;
 }

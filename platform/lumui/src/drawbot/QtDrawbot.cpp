@@ -52,12 +52,9 @@ bool IsVisible(const Pen& inPen) {
   return inPen.width > 0 && inPen.color.alpha > 0;
 }
 
-// A picture that is drawn pixel for pixel is moved to whole pixels, since between them it blurs.
-QRectF SnapIfUnscaled(const QRectF& inDevice, const QSize& inPixels) {
-  const bool unscaled = std::abs(inDevice.width() - inPixels.width()) < kPixelTolerance &&
-                        std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
-  if (!unscaled) return inDevice;
-  return QRectF(QPointF(std::round(inDevice.x()), std::round(inDevice.y())), QSizeF(inPixels));
+bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
+  return std::abs(inDevice.width() - inPixels.width()) < kPixelTolerance &&
+         std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
 }
 
 }  // namespace
@@ -212,11 +209,32 @@ void QtDrawbot::DrawRaster(const ImageInterface& inImage, const Rect& inRect,
     tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
     tint.fillRect(raster.rect(), ToQt(*inTint));
   }
+  // Each change of the painter's state costs about as much as a small picture.
+  const bool isFaint = inOpacity < 1;
   const qreal opacity = mPainter.opacity();
-  mPainter.setOpacity(opacity * std::min(inOpacity, 1.0f));
-  const QRectF target = SnapIfUnscaled(device, raster.size());
-  mPainter.drawImage(toDevice.inverted().mapRect(target), raster);
-  mPainter.setOpacity(opacity);
+  if (isFaint) mPainter.setOpacity(opacity * inOpacity);
+  if (IsPixelForPixel(device, raster.size())) {
+    DrawPixels(raster, device, toDevice);
+  } else {
+    mPainter.drawImage(ToQt(inRect), raster);
+  }
+  if (isFaint) mPainter.setOpacity(opacity);
+}
+
+// On whole pixels, since between them it blurs. There is nothing to smooth then, and with the hints
+// the painter would take its slow road all the same.
+void QtDrawbot::DrawPixels(const QImage& inRaster, const QRectF& inDevice,
+                           const QTransform& inToDevice) {
+  const QPointF origin(std::round(inDevice.x()), std::round(inDevice.y()));
+  const auto hints = mPainter.renderHints();
+  mPainter.setRenderHints(hints, false);
+  if (inToDevice.type() <= QTransform::TxTranslate) {
+    mPainter.drawImage(origin - QPointF(inToDevice.dx(), inToDevice.dy()), inRaster);
+  } else {
+    const QRectF target(origin, QSizeF(inRaster.size()));
+    mPainter.drawImage(inToDevice.inverted().mapRect(target), inRaster);
+  }
+  mPainter.setRenderHints(hints);
 }
 
 SupplierInterface* QtDrawbot::GetSupplier() const {

@@ -8,7 +8,9 @@
 
 #include "lumui/drawbot/Drawbot.h"
 
+class QImage;
 class QPainter;
+class QRectF;
 
 namespace lumui::drawbot {
 
@@ -65,6 +67,7 @@ class QtDrawbot : public Drawbot {
   // inTint may be null.
   void DrawRaster(const ImageInterface& inImage, const Rect& inRect, const ColorRGBA* inTint,
                   float inOpacity);
+  void DrawPixels(const QImage& inRaster, const QRectF& inDevice, const QTransform& inToDevice);
 
   QPainter& mPainter;
   std::vector<State> mStates;  // the current one is the last

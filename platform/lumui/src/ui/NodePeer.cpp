@@ -212,4 +212,10 @@ void NodePeer::Invalidate(const lumcore::geom::RectT<int>& inRect) {
   if (!seen.isEmpty()) mWidget->update(seen.toAlignedRect());
 }
 
+void NodePeer::InvalidateAll() {
+  if (!mWidget) return;
+  mIsAllInvalid = IsDrawn();
+  mWidget->update();
+}
+
 }  // namespace lumui::ui

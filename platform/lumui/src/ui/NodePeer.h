@@ -6,6 +6,7 @@
 #include <QPaintEvent>
 #include <QPointF>
 #include <QPointer>
+#include <QRegion>
 #include <QVariant>
 #include <QWidget>
 #include <memory>
@@ -98,10 +99,13 @@ class LUMUI_API NodePeer {
   // Of the widget, at its top, what is none of the node's rectangle.
   int GetChromeHeight() const { return mChromeHeight; }
   void Invalidate(const lumcore::geom::RectT<int>& inRect);
+  void InvalidateAll();
+  // Whether all of a drawn node waits for drawing: what is on the screen is good for nothing.
+  bool IsAllInvalid() const { return mIsAllInvalid; }
 
   // Of the widget's overrides.
   bool HandleEvent(QEvent& inEvent);  // true if Qt's class shall not see it
-  void Paint(const QRect& inDamage);
+  void Paint(const QRegion& inDamage);
   // On behalf of a widget on the way of a key to the window. False leaves it to the walk.
   bool MoveFocusFromWidget(bool inForward);
   bool MoveFocus(bool inForward);
@@ -142,6 +146,7 @@ class LUMUI_API NodePeer {
   bool mApplyingRect = false;
   int mChromeHeight = 0;
   bool mIsOpaque = false;
+  bool mIsAllInvalid = false;
   lumcore::geom::PointT<double> mContentOrigin;
   lumcore::geom::PointT<float> mLastPosition;
 };
@@ -170,7 +175,7 @@ class NodeWidgetT : public Base, public NodeWidgetLink {
   }
   void paintEvent(QPaintEvent* inEvent) override {
     if (mPeer && mPeer->IsDrawn()) {
-      mPeer->Paint(inEvent->rect());
+      mPeer->Paint(inEvent->region());
     } else {
       Base::paintEvent(inEvent);
     }

@@ -16,6 +16,7 @@
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
 #include "lumui/ui/UI_NodeManager.h"
+#include "ui/DamageRects.h"
 #include "ui/EventGate.h"
 #include "ui/NodeManagerImpl.h"
 #include "ui/NodePeer.h"
@@ -212,17 +213,20 @@ void NodePeer::HandleGeometry() {
 }
 
 // The clip's bounds are those of the damage, so that a node with a large content draws little.
-void NodePeer::Paint(const QRect& inDamage) {
+void NodePeer::Paint(const QRegion& inDamage) {
   const lumcore::utility::StKeepAlive keepAlive(*mNode);
   QWidget* const widget = mWidget;
+  mIsAllInvalid = false;
+  const QRect drawn = widget->rect().adjusted(0, mChromeHeight, 0, 0);
   QPainter painter(widget);
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
-  const QRectF bounds = QRectF(inDamage & widget->rect().adjusted(0, mChromeHeight, 0, 0))
-                            .translated(mContentOrigin.x, mContentOrigin.y);
   const lumcore::utility::StScopedValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {
-    drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));
-    mNode->UI_Draw(&drawbot);
+    for (const QRect& rect : SplitDamage(inDamage & drawn)) {
+      const QRectF bounds = QRectF(rect).translated(mContentOrigin.x, mContentOrigin.y);
+      drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));
+      mNode->UI_Draw(&drawbot);
+    }
   });
 }
 

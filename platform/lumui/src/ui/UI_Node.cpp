@@ -279,7 +279,7 @@ void UI_Node::UI_Invalidate(const lumcore::geom::RectT<int>& inRect,
 }
 
 void UI_Node::UI_InvalidateAll() {
-  if (QWidget* const widget = mPeer->GetWidget()) widget->update();
+  mPeer->InvalidateAll();
 }
 
 void UI_Node::UI_UpdateNow(lumcore::utility::Flags<unsigned int>) {
