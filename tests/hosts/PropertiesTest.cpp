@@ -8,6 +8,7 @@
 
 #include "hosts/OutlineText.h"
 #include "hosts/RunningOutliner.h"
+#include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_StaticText.h"
 #include "lumui/controls/UI_TextButton.h"
@@ -17,6 +18,7 @@
 #include "outliner/OpmlWriter.h"
 #include "outliner/OutlineEdits.h"
 #include "vek/undo/Deed.h"
+#include "vek/undo/MultiUndoerHooks.h"
 
 namespace {
 
@@ -153,6 +155,39 @@ TEST_F(Properties, AreNeverLostHoweverTheFieldIsLeft) {
     if (way != "undo") edits::Undo(mHost.GetDocument());
     EXPECT_EQ(mHost.Show(), "a* b c");
   }
+}
+
+// Refuses whatever is posted.
+class NoDeeds : public vek::undo::MultiUndoerHooks {
+ public:
+  void WillPostDeed(vek::undo::Deed*) override {
+    throw lumcore::config::Error(ToUTF16("no deed today"));
+  }
+  void DidPostDeed(vek::undo::Deed*) override {}
+  void WillUndoDeed(vek::undo::Deed*) override {}
+  void DidUndoDeed(vek::undo::Deed*) override {}
+  void WillRedoDeed(vek::undo::Deed*) override {}
+  void DidRedoDeed(vek::undo::Deed*) override {}
+};
+
+TEST_F(Properties, StayInTheirFieldWhereACommitFailsAndGoOutWithTheNextSave) {
+  NoDeeds refusal;
+  auto& undoer = mHost.GetDocument().GetUndoer();
+  Focus("weight");
+  mHost.Type("9");
+  undoer.SetHooks(&refusal);
+  mHost.Keys("Return");
+  EXPECT_NE(mHost.TakeMessages().find("no deed today"), std::string::npos);
+  EXPECT_EQ(Show("weight") + " " + Values("weight"), "weight=9 '1' '2' -");
+  Select("b");
+  EXPECT_EQ(Show("weight"), "weight=2");
+  EXPECT_NE(mHost.TakeMessages().find("no deed today"), std::string::npos) << "tried once more";
+  Select("a");
+  EXPECT_EQ(Show("weight"), "weight=9");
+  undoer.SetHooks(nullptr);
+  mHost.Keys("Ctrl+S");
+  EXPECT_EQ(Values("weight"), "'9' '2' -");
+  EXPECT_NE(mHost.ReadFile().find("weight=\"9\""), std::string::npos);
 }
 
 TEST_F(Properties, OfRowsThatHaveGoneGetARowOfTheirOwn) {
