@@ -29,7 +29,7 @@ UTF16String Localized(const char* inKey) {
 
 // Adds what one row says about an attribute; inIsFirst for the first of all rows.
 void Merge(Property& ioProperty, const UTF16String& inValue, bool inIsFirst) {
-  if (inValue.find('\n') != inValue.npos) ioProperty.isLong = true;
+  if (!ioProperty.isLong && inValue.find('\n') != inValue.npos) ioProperty.isLong = true;
   if (inIsFirst) {
     ioProperty.value = inValue;
   } else if (!ioProperty.isMixed && ioProperty.value != inValue) {
@@ -59,6 +59,7 @@ std::vector<Property> CollectProperties(const OutlineDocument& inDocument,
   properties.back().isLong = true;
   for (Property& property : properties) {
     for (const OutlineRow* row : inRows) {
+      if (property.isMixed && property.isLong) break;
       Merge(property, edits::GetAttribute(inDocument, *row, property.name), row == inRows.front());
     }
   }

@@ -39,10 +39,18 @@ TextSearch::TextSearch(const SearchTerm& inTerm)
     : mTerm(inTerm),
       mWanted(inTerm.matchesCase ? inTerm.text : lumcore::utility::FoldCase(inTerm.text)) {}
 
-// Folding knows no neighbours, so that it may go character by character.
+// Folding knows no neighbours, so that it may go character by character. Most texts are plain, and
+// of those each unit stays where it was.
 void TextSearch::Prepare(const UTF16String& inText) const {
-  mFolded.clear();
+  mFolded = inText;
   mOrigins.clear();
+  bool isPlain = true;
+  for (unsigned short& unit : mFolded) {
+    if (unit >= 'A' && unit <= 'Z') unit = static_cast<unsigned short>(unit + ('a' - 'A'));
+    isPlain = isPlain && unit < kFirstBeyondASCII;
+  }
+  if (isPlain) return;
+  mFolded.clear();
   for (std::size_t at = 0; at < inText.size();) {
     const unsigned short unit = inText[at];
     const bool isPair = IsLead(unit) && at + 1 < inText.size() && IsTrail(inText[at + 1]);
@@ -62,13 +70,14 @@ void TextSearch::Prepare(const UTF16String& inText) const {
 // to.
 bool TextSearch::FindFrom(const UTF16String& inText, std::size_t& ioFrom, Match& outMatch) const {
   const UTF16String& text = mTerm.matchesCase ? inText : mFolded;
+  const bool isAsItWas = mTerm.matchesCase || mOrigins.empty();
   const auto originOf = [&](std::size_t inAt) {
-    if (mTerm.matchesCase) return inAt;
+    if (isAsItWas) return inAt;
     return inAt < mOrigins.size() ? static_cast<std::size_t>(mOrigins[inAt]) : inText.size();
   };
   const auto isBoundary = [&](std::size_t inAt) {
     if (inAt == 0 || inAt == text.size()) return true;
-    if (!mTerm.matchesCase) return mOrigins[inAt] != mOrigins[inAt - 1];
+    if (!isAsItWas) return mOrigins[inAt] != mOrigins[inAt - 1];
     return !(IsTrail(text[inAt]) && IsLead(text[inAt - 1]));
   };
   for (;; ++ioFrom) {

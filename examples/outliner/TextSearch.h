@@ -50,8 +50,8 @@ class TextSearch {
 
   SearchTerm mTerm;
   lumcore::UTF16String mWanted;  // folded, where case does not count
-  // The text that is looked at, in the same form, and where each of its units comes from. Kept
-  // from text to text for their memory alone.
+  // The text that is looked at, in the same form, and where each of its units comes from; nothing
+  // there for where it was. Kept from text to text for their memory alone.
   mutable lumcore::UTF16String mFolded;
   mutable std::vector<std::uint32_t> mOrigins;
 };
