@@ -1,6 +1,7 @@
 # vek_embed_resources(TARGET [FILES file...] [DOCUMENTS xml...] [IMAGES svg...] [SCALES percent...]
 #   [SIZES NAME=units...] [INKS NAME=colour...]): builds resources into a program or a shared library, whose code finds them
 # through a lumui::utility::ResourceManager of its module. It may be called several times for a target.
+# A library of objects hands them on to the program that it is linked into.
 #
 # FILES are taken as they are: the type is the extension and the name is what stands before it.
 # IMAGES are rendered to PNG resources of the file's name, in each scale (100 if none is given; 150, 200
@@ -12,10 +13,10 @@ function(vek_embed_resources target)
     message(FATAL_ERROR "vek_embed_resources(${target}): unknown arguments: ${ARG_UNPARSED_ARGUMENTS}")
   endif()
   get_target_property(type ${target} TYPE)
-  if(NOT type MATCHES "^(EXECUTABLE|SHARED_LIBRARY|MODULE_LIBRARY)$")
+  if(NOT type MATCHES "^(EXECUTABLE|SHARED_LIBRARY|MODULE_LIBRARY|OBJECT_LIBRARY)$")
     # A linker drops an object that nobody refers to from an archive.
-    message(FATAL_ERROR "vek_embed_resources(${target}): resources are built into a program or a shared "
-      "library, and this is of the type ${type}")
+    message(FATAL_ERROR "vek_embed_resources(${target}): resources are built into a program, a shared "
+      "library or a library of objects, and this is of the type ${type}")
   endif()
 
   set(lines "")

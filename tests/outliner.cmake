@@ -3,6 +3,7 @@ vek_test(outliner_tests
     hosts/CommandFilesTest.cpp
     hosts/DocumentsTest.cpp
     hosts/FileCheckTest.cpp
+    hosts/HistoryTest.cpp
     hosts/MapGesturesTest.cpp
     hosts/MapLayoutTest.cpp
     hosts/OpmlRoundTripTest.cpp
@@ -12,10 +13,12 @@ vek_test(outliner_tests
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
     hosts/PanelsTest.cpp
+    hosts/PropertiesTest.cpp
     hosts/RunningOutliner.cpp
     hosts/ScriptRunTest.cpp
     hosts/ShortcutsTest.cpp
     hosts/ToolPanelsTest.cpp
+    hosts/SearchTest.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
 vek_embed_resources(outliner_tests

@@ -49,6 +49,9 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
   mEntries[kCommandQuit] = {always, [this] { mApp.EndEventLoop(); }, nullptr};
   mEntries[kCommandNextDocument] = {hasSeveral, [this] { Step(1); }, nullptr};
   mEntries[kCommandPreviousDocument] = {hasSeveral, [this] { Step(-1); }, nullptr};
+  mEntries[kCommandFindText] = {always, [this] { mApp.Find(); }, nullptr};
+  mEntries[kCommandFindNext] = {hasDocument, [this] { mApp.FindNext(true); }, nullptr};
+  mEntries[kCommandFindPrevious] = {hasDocument, [this] { mApp.FindNext(false); }, nullptr};
   mEntries[kCommandAbout] = {always, [this] { ShowAbout(); }, nullptr};
   mEntries[kCommandShortcuts] = {always, [this] { EditShortcuts(mApp); }, nullptr};
   mEntries[kCommandKeyboardMap] = {always, [this] { EditKeyboardMap(mApp); }, nullptr};
@@ -58,7 +61,8 @@ ApplicationCommands::ApplicationCommands(OutlinerApp& inApp) : mApp(inApp) {
                                       [this] { mApp.ResetWorkspace(); }, nullptr};
   for (const int panel :
        {kCommandShowOutline, kCommandShowNotes, kCommandShowCommands, kCommandShowMap,
-        kCommandShowFiles, kCommandShowConsole, kCommandShowNodes}) {
+        kCommandShowFiles, kCommandShowConsole, kCommandShowNodes, kCommandShowProperties,
+        kCommandShowHistory, kCommandShowSearch}) {
     mEntries[panel] = {always, [this, panel] { mApp.TogglePanel(panel); },
                        [this, panel] { return mApp.IsPanelInFront(panel); }};
   }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "ArchivedPanels.h"
 #include "Panels.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/proplist/PropList.h"
@@ -43,6 +44,12 @@ PropList Group(int inSize, const Types& inTabs) {
   return group;
 }
 
+// Behind these, those that tell of the rows, where a column beside the outline has room for them.
+Types WithRowPanels(Types inTabs) {
+  inTabs.insert(inTabs.end(), {PropertiesPanel(), SearchPanel(), HistoryPanel()});
+  return inTabs;
+}
+
 PropList Items(const char* inKind, int inSize, std::vector<PropList> inItems) {
   PropList list;
   list.Set("Kind", ToUTF8(inKind));
@@ -73,21 +80,22 @@ UTF8String NotesLayout() {
   const int width = BuiltInWorkspaces::GetWindowSize().x;
   return Layout(Items("row", width,
                       {Group(width - kNotesWidth, {OutlinePanel()}),
-                       Group(kNotesWidth, {NotesPanel(), CommandsPanel()})}));
+                       Group(kNotesWidth, WithRowPanels({NotesPanel(), CommandsPanel()}))}));
 }
 
 UTF8String CommandsLayout() {
   const int width = BuiltInWorkspaces::GetWindowSize().x;
   return Layout(Items("row", width,
                       {Group(width - kCommandsWidth, {OutlinePanel()}),
-                       Group(kCommandsWidth, {CommandsPanel(), NotesPanel()})}));
+                       Group(kCommandsWidth, WithRowPanels({CommandsPanel(), NotesPanel()}))}));
 }
 
 UTF8String WithMapLayout() {
   const int width = BuiltInWorkspaces::GetWindowSize().x;
-  return Layout(Items("row", width,
-                      {Group(width - kMapWidth, {OutlinePanel()}),
-                       Group(kMapWidth, {MapPanel(), NotesPanel(), CommandsPanel()})}));
+  return Layout(
+      Items("row", width,
+            {Group(width - kMapWidth, {OutlinePanel()}),
+             Group(kMapWidth, WithRowPanels({MapPanel(), NotesPanel(), CommandsPanel()}))}));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "NoteEditor.h"
 
+#include "AttributeEdits.h"
 #include "OutlineDocument.h"
 #include "OutlineEdits.h"
 

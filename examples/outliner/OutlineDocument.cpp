@@ -7,6 +7,7 @@
 #include <list>
 #include <utility>
 
+#include "AttributeEditor.h"
 #include "DocumentCommands.h"
 #include "FileQuestions.h"
 #include "NoteEditor.h"
@@ -38,11 +39,13 @@ OutlineDocument::OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File
       mUndoer(new vek::undo::MultiUndoer(kUndoLevels)),
       mEditor(std::make_unique<RowEditor>(*this)),
       mNoteEditor(std::make_unique<NoteEditor>(*this)),
+      mAttributeEditor(std::make_unique<AttributeEditor>(*this)),
       mCommands(std::make_unique<DocumentCommands>(*this)),
       mSavedSerial(mUndoer->GetCurSerialNumber()) {
   SetFile(inFile);
   mUndoer->SetHooks(this);
   mNoteEditor->SetChangedFunction([this] { Changed(); });
+  mAttributeEditor->SetChangedFunction([this] { Changed(); });
 }
 
 OutlineDocument::~OutlineDocument() {
@@ -102,10 +105,11 @@ vek::uisupport::CommandAttachment* OutlineDocument::GetCommandAttachment() const
 void OutlineDocument::CommitTyping() {
   mEditor->Commit();
   mNoteEditor->Commit();
+  mAttributeEditor->Commit();
 }
 
 bool OutlineDocument::IsTyping() const {
-  return mEditor->IsModified() || mNoteEditor->IsModified();
+  return mEditor->IsModified() || mNoteEditor->IsModified() || mAttributeEditor->IsModified();
 }
 
 void OutlineDocument::Close() {
@@ -131,6 +135,7 @@ void OutlineDocument::LoadFromFile(const File& inFile) {
   std::unique_ptr<OutlineTree> tree = ReadOpml(inFile);
   mEditor->Cancel();
   mNoteEditor->Cancel();
+  mAttributeEditor->Cancel();
   mSelection->DeselectAll();
   mUndoer->PostDeed(std::auto_ptr<vek::undo::Deed>(new vek::undo::ClearUndoStackDeed));
   mTree = std::move(tree);

@@ -19,6 +19,7 @@
 
 namespace outliner {
 
+class AttributeEditor;
 class DocumentCommands;
 class NoteEditor;
 class RowEditor;
@@ -54,8 +55,9 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   const OutlineTree& GetTree() const { return *mTree; }
   RowEditor& GetEditor() { return *mEditor; }
   NoteEditor& GetNoteEditor() { return *mNoteEditor; }
-  // Makes deeds of what is being typed, in a row or in a note: before anything else happens to the
-  // outline. What the second of them throws leaves the first done.
+  AttributeEditor& GetAttributeEditor() { return *mAttributeEditor; }
+  // Makes deeds of what is being typed, in a row, in a note or for an attribute: before anything
+  // else happens to the outline. What one of them throws leaves those before it done.
   void CommitTyping();
   bool IsTyping() const;  // whether that would post anything
   DocumentCommands& GetCommands() { return *mCommands; }
@@ -122,6 +124,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
   std::unique_ptr<RowEditor> mEditor;
   std::unique_ptr<NoteEditor> mNoteEditor;
+  std::unique_ptr<AttributeEditor> mAttributeEditor;
   std::unique_ptr<DocumentCommands> mCommands;
   const std::shared_ptr<bool> mRowDrag = std::make_shared<bool>(false);
   std::function<void()> mChanged;

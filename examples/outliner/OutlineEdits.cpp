@@ -12,12 +12,11 @@
 #include "MarkupText.h"
 #include "MoveRowsDeed.h"
 #include "OutlineDocument.h"
+#include "OutlineEdit.h"
 #include "OutlineRestorer.h"
 #include "RemoveRowsDeed.h"
-#include "SetNoteDeed.h"
 #include "SetTextDeed.h"
 #include "lumcore/config/Localizer.h"
-#include "vek/undo/MultiDeed.h"
 
 namespace outliner::edits {
 
@@ -69,45 +68,11 @@ UTF16String Name(const char* inKey) {
   return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
-// Gathers the deeds of one edit, and posts them as one.
-class Edit {
+// An edit by the key of its name.
+class Edit : public OutlineEdit {
  public:
   Edit(OutlineDocument& ioDocument, const char* inNameKey)
-      : mDocument(ioDocument), mName(Name(inNameKey)), mGroup(new vek::undo::MultiDeed(mName)) {}
-
-  const UTF16String& GetName() const { return mName; }
-
-  template <class SomeDeed, class... Arguments>
-  void Add(Arguments&&... inArguments) {
-    mDeeds.emplace_back(new SomeDeed(mDocument, mName, std::forward<Arguments>(inArguments)...));
-  }
-
-  // inAfter tells the rows that are selected when the edit is done.
-  void Post(std::unique_ptr<vek::selection::Restorer> inAfter) {
-    if (mDeeds.empty()) return;
-    std::auto_ptr<Deed> deed;
-    if (mDeeds.size() == 1) {
-      deed.reset(mDeeds.front().release());
-    } else {
-      std::auto_ptr<vek::undo::MultiDeed> group(mGroup.release());
-      for (auto& child : mDeeds)
-        group->AddDeed(std::auto_ptr<Deed>(child.release()));
-      deed = group;
-    }
-    deed->SetBeforeRestorer(new OutlineRestorer(mDocument));
-    deed->SetAfterRestorer(inAfter.release());
-    mDocument.GetUndoer().PostDeed(deed);
-  }
-  void PostKeepingSelection() { Post(std::make_unique<OutlineRestorer>(mDocument)); }
-  void PostSelecting(const OutlineRow& inRow) {
-    Post(std::make_unique<OutlineRestorer>(mDocument, std::vector<OutlineRow::Id>{inRow.GetId()}));
-  }
-
- private:
-  OutlineDocument& mDocument;
-  UTF16String mName;
-  std::unique_ptr<vek::undo::MultiDeed> mGroup;
-  std::vector<std::unique_ptr<Deed>> mDeeds;
+      : OutlineEdit(ioDocument, Name(inNameKey)) {}
 };
 
 OutlineRow& InsertNewRow(OutlineDocument& ioDocument, const char* inNameKey, OutlineRow& inParent,
@@ -320,32 +285,6 @@ void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& 
   Edit edit(ioDocument, "$$$/outliner/Edit/ChangeText=Change Text");
   edit.Add<SetTextDeed>(ioRow, text);
   edit.PostSelecting(ioRow);
-}
-
-UTF16String GetNote(const OutlineDocument& inDocument, const OutlineRow& inRow) {
-  const UTF16String* const note = inDocument.GetTree().FindAttribute(inRow, SetNoteDeed::Name());
-  UTF16String lines;
-  for (std::size_t at = 0; note && at < note->size(); ++at) {
-    const unsigned short unit = (*note)[at];
-    const bool isOneEnd = unit == '\r' && at + 1 < note->size() && (*note)[at + 1] == '\n';
-    if (!isOneEnd) lines += unit == '\r' ? static_cast<unsigned short>('\n') : unit;
-  }
-  return lines;
-}
-
-void SetNote(OutlineDocument& ioDocument, OutlineRow& ioRow, const UTF16String& inNote) {
-  if (inNote == GetNote(ioDocument, ioRow)) return;
-  const UTF16String* const old = ioDocument.GetTree().FindAttribute(ioRow, SetNoteDeed::Name());
-  const bool hasCR = old && old->find('\r') != old->npos;
-  const bool hasLF = old && old->find('\n') != old->npos;
-  UTF16String note;
-  for (const unsigned short unit : inNote) {
-    if (unit == '\n' && hasCR) note += '\r';
-    if (unit != '\n' || hasLF || !hasCR) note += unit;
-  }
-  Edit edit(ioDocument, "$$$/outliner/Edit/ChangeNote=Change Note");
-  edit.Add<SetNoteDeed>(ioRow, note);
-  edit.PostKeepingSelection();
 }
 
 bool CanUndo(const OutlineDocument& inDocument) {

@@ -56,11 +56,6 @@ void InsertAt(OutlineDocument& ioDocument, const MoveTarget& inTarget, const Loo
 // The same text as before posts nothing.
 void SetText(OutlineDocument& ioDocument, OutlineRow& ioRow, const lumcore::UTF16String& inText);
 
-// The row's note, in lines that end with '\n'; empty where it has none.
-lumcore::UTF16String GetNote(const OutlineDocument& inDocument, const OutlineRow& inRow);
-// An empty note is none. The lines end as they did in the note before. The selection stays.
-void SetNote(OutlineDocument& ioDocument, OutlineRow& ioRow, const lumcore::UTF16String& inNote);
-
 // One step back or forward, where there is one that can be made.
 bool CanUndo(const OutlineDocument& inDocument);
 void Undo(OutlineDocument& ioDocument);

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "SetNoteDeed.h"
+#include "AttributeEdits.h"
 #include "lumui/drawbot/Image.h"
 
 namespace outliner {
@@ -188,7 +188,7 @@ void OutlineEntries::FindShown() {
 bool OutlineEntries::Matches(const OutlineRow& inRow) const {
   if (mFilter.Matches(inRow.GetText())) return true;
   if (inRow.GetAttributeCount() == 0) return false;
-  const lumcore::UTF16String* const note = mTree.FindAttribute(inRow, SetNoteDeed::Name());
+  const lumcore::UTF16String* const note = mTree.FindAttribute(inRow, attributes::Note());
   if (note && mFilter.Matches(*note)) return true;
   lumcore::UTF16String text;
   return std::any_of(mFilterColumns.begin(), mFilterColumns.end(), [&](auto inAttribute) {

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "AttributeEdits.h"
 #include "OutlineEntries.h"
 #include "Palette.h"
-#include "SetNoteDeed.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
@@ -117,7 +117,7 @@ void OutlineRowLook::DrawCell(Drawbot& ioDrawbot, unsigned short inColumn, const
 void OutlineRowLook::DrawNote(Drawbot& ioDrawbot, const OutlineRow& inRow, Rect inRest,
                               bool inIsMarked) const {
   const UTF16String* const note =
-      mList.GetEntries()->GetTree().FindAttribute(inRow, SetNoteDeed::Name());
+      mList.GetEntries()->GetTree().FindAttribute(inRow, attributes::Note());
   if (!note || note->empty() || inRest.width < kLeastNote) return;
   const FontP font = ioDrawbot.GetSupplier()->NewFont(
       nullptr, std::round(GetFont()->GetSize() * kNoteShare), FontStyle::kPlain);

@@ -12,6 +12,7 @@
 #include "CommandSystem.h"
 #include "ListCommands.h"
 #include "MapCommands.h"
+#include "OutlineSearch.h"
 #include "lumcore/filesupport/File.h"
 #include "vek/app/MultiDocApplication.h"
 
@@ -80,6 +81,13 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   void TogglePanel(int inCommand);
   MapPane* FindMap() const;        // null while none is in front
   DocumentPane* FindPane() const;  // of the current document, or null
+  // Gives the keyboard to the rows of the current outline, if they are on screen.
+  void FocusRows();
+  // What is looked for. Find asks for it, the other selects the next row that has it, or the one
+  // before, and asks where there is none.
+  SearchWish& GetSearchWish() { return mSearchWish; }
+  void Find();
+  void FindNext(bool inForward);
   // Puts the panels of a built-in workspace back, if the user agrees.
   bool CanResetWorkspace() const;
   void ResetWorkspace();
@@ -142,6 +150,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   void RemoveWorkspaceCommands();
 
   Options mOptions;
+  SearchWish mSearchWish;
   std::unique_ptr<CommandSystem> mCommandSystem;
   ApplicationCommands mCommands{*this};
   MapCommands mMapCommands{[this] { return FindMap(); }};

@@ -65,6 +65,12 @@ enum Command : int {
   kCommandExpandAll,
   kCommandCollapseAll,
   kCommandOutlineOrder,
+  kCommandShowProperties,
+  kCommandShowHistory,
+  kCommandShowSearch,
+  kCommandFindText,
+  kCommandFindNext,
+  kCommandFindPrevious,
   kCommandsEnd,
 
   // Menu items that have neither a name nor keys: the recent files, the open documents and the

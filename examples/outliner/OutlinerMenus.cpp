@@ -44,10 +44,12 @@ const Items& FileItems() {
 
 const Items& EditItems() {
   static const Items sItems = {
-      kCommandUndo,     kCommandRedo,      kSeparator,         kCommandNewSibling, kCommandNewChild,
-      kCommandEditText, kCommandDelete,    kSeparator,         kCommandIndent,     kCommandOutdent,
-      kCommandMoveUp,   kCommandMoveDown,  kSeparator,         kCommandSelectAll,  kCommandFind,
-      kSeparator,       kCommandShortcuts, kCommandKeyboardMap};
+      kCommandUndo,      kCommandRedo,         kSeparator,     kCommandNewSibling,
+      kCommandNewChild,  kCommandEditText,     kCommandDelete, kSeparator,
+      kCommandIndent,    kCommandOutdent,      kCommandMoveUp, kCommandMoveDown,
+      kSeparator,        kCommandSelectAll,    kSeparator,     kCommandFindText,
+      kCommandFindNext,  kCommandFindPrevious, kCommandFind,   kSeparator,
+      kCommandShortcuts, kCommandKeyboardMap};
   return sItems;
 }
 
@@ -64,6 +66,9 @@ const Items& ViewItems() {
                                kCommandShowCommands,
                                kCommandShowMap,
                                kMapHere,
+                               kCommandShowProperties,
+                               kCommandShowHistory,
+                               kCommandShowSearch,
                                kCommandShowFiles,
                                kCommandShowConsole,
                                kCommandShowNodes,

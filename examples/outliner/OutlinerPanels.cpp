@@ -3,11 +3,13 @@
 
 // The application's panels, and the workspaces that they stand in.
 
+#include "ArchivedPanels.h"
 #include "BuiltInWorkspaces.h"
 #include "CommandsPane.h"
 #include "CommandsView.h"
 #include "DocumentFrame.h"
 #include "FilesPane.h"
+#include "HistoryView.h"
 #include "MapPane.h"
 #include "NotesView.h"
 #include "OutlineDocument.h"
@@ -28,6 +30,7 @@
 #include "lumworkspace/workspace/Workspace.h"
 #include "lumworkspace/workspace/WorkspaceFrameBase.h"
 #include "vek/uisupport/ReportError.h"
+#include "vek/workspace/GenericPanelRegistry.h"
 #include "vek/workspace/ViewDebuggerTabCreator.h"
 #include "vek/workspace/WorkspaceUtils.h"
 
@@ -59,10 +62,22 @@ View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {
   return panel ? dynamic_cast<View*>(&panel->GetView()) : nullptr;
 }
 
-const UTF8String& PanelOf(int inCommand) {
+class BesideRowsCreator final : public PanelCreator {
+ public:
+  using PanelCreator::PanelCreator;
+  TabPlace GetDefaultPlace(const Workspace& inWorkspace) const override {
+    return PlaceBesideRows(inWorkspace);
+  }
+};
+
+UTF8String PanelOf(int inCommand) {
+  UTF8String type;
+  auto& archived = vek::workspace::GenericPanelRegistry::GetInstance();
+  if (archived.GetTabTypeForCommand(inCommand, type)) return type;
   return inCommand == kCommandShowOutline   ? OutlinePanel()
          : inCommand == kCommandShowNotes   ? NotesPanel()
          : inCommand == kCommandShowMap     ? MapPanel()
+         : inCommand == kCommandShowHistory ? HistoryPanel()
          : inCommand == kCommandShowFiles   ? FilesPanel()
          : inCommand == kCommandShowConsole ? ConsolePanel()
          : inCommand == kCommandShowNodes   ? NodesPanel()
@@ -103,6 +118,10 @@ void OutlinerApp::OnWorkspaceReady(Workspace* inWorkspace) {
         };
         return boost::intrusive_ptr<lumui::ui::UI_SubView>(new MapPane(GetOutline(), functions));
       }));
+  inWorkspace->RegisterTabCreator(new BesideRowsCreator(
+      HistoryPanel(), "$$$/outliner/Panel/History=History", TabPlace(),
+      [] { return boost::intrusive_ptr<lumui::ui::UI_SubView>(new HistoryPane); }));
+  PlaceArchivedPanels(*inWorkspace);
   RegisterToolPanels(*inWorkspace);
 }
 
@@ -228,7 +247,7 @@ void OutlinerApp::ShowOutlinePanel() {
 }
 
 void OutlinerApp::TogglePanel(int inCommand) {
-  const UTF8String& type = PanelOf(inCommand);
+  const UTF8String type = PanelOf(inCommand);
   if (IsPanelInFront(inCommand)) {
     GetWorkspace()->CloseTab(type);
     mFrame->FocusRows();
@@ -238,9 +257,34 @@ void OutlinerApp::TogglePanel(int inCommand) {
   if (auto* const notes = FindView<NotesView>(GetWorkspace(), type)) notes->FocusField();
   if (auto* const commands = FindView<CommandsPane>(GetWorkspace(), type)) commands->FocusList();
   if (MapPane* const map = FindMap(); map && type == MapPanel()) map->FocusMap();
+  if (auto* const history = FindView<HistoryPane>(GetWorkspace(), type)) history->FocusList();
   if (type == OutlinePanel()) mFrame->FocusRows();
   if (auto* const files = FindView<FilesPane>(GetWorkspace(), type)) files->FocusTree();
   if (auto* const console = FindView<ScriptConsole>(GetWorkspace(), type)) console->FocusInput();
+  FocusArchivedPanel(*GetWorkspace(), type);
+}
+
+void OutlinerApp::FocusRows() {
+  ShowOutlinePanel();
+  mFrame->FocusRows();
+}
+
+void OutlinerApp::Find() {
+  GetWorkspace()->OpenTab(SearchPanel());
+  FocusArchivedPanel(*GetWorkspace(), SearchPanel());
+}
+
+void OutlinerApp::FindNext(bool inForward) {
+  OutlineDocument* const document = GetOutline();
+  if (!document) return;
+  document->CommitTyping();
+  OutlineRow* const row = search::FindNext(*document, TextSearch(mSearchWish.term), inForward);
+  if (!row) {
+    Find();
+    return;
+  }
+  document->SelectRows({row});
+  if (!IsPanelInFront(kCommandShowOutline)) GetWorkspace()->OpenTab(OutlinePanel());
 }
 
 MapPane* OutlinerApp::FindMap() const {

@@ -42,6 +42,11 @@ const UTF8String& MapPanel() {
   return sType;
 }
 
+const UTF8String& HistoryPanel() {
+  static const UTF8String sType = ToUTF8("outliner.history");
+  return sType;
+}
+
 const UTF8String& FilesPanel() {
   static const UTF8String sType = ToUTF8("outliner.files");
   return sType;

@@ -20,6 +20,7 @@ const lumcore::UTF8String& MapPanel();
 const lumcore::UTF8String& FilesPanel();
 const lumcore::UTF8String& ConsolePanel();
 const lumcore::UTF8String& NodesPanel();
+const lumcore::UTF8String& HistoryPanel();
 
 // A panel that one view fills. The view may outlive it, and fill the next one.
 class ViewPanel final : public lumworkspace::workspace::TabPanel {
@@ -40,7 +41,7 @@ class ViewPanel final : public lumworkspace::workspace::TabPanel {
 };
 
 // Makes the panels of one type, each around the view that a function gives.
-class PanelCreator final : public lumworkspace::workspace::TabCreator {
+class PanelCreator : public lumworkspace::workspace::TabCreator {
  public:
   using MakeView = std::function<boost::intrusive_ptr<lumui::ui::UI_SubView>()>;
 

@@ -208,7 +208,7 @@ TEST(OutlineList, KeysOpenAndCloseAndWhatIsClosedStandsForWhatWasSelectedBelow) 
 TEST(OutlineList, FindsRowsAndWhatIsAboveThem) {
   Host host("Tea [green black [Earl]] milk Sugar");
   host.Keys("Down Down");
-  host.Keys("Ctrl+F");
+  host.Keys("Ctrl+Shift+F");
   host.Type("EA");
   EXPECT_EQ(host.Shown(), "Tea [black [Earl]]");
   EXPECT_EQ(host.Show(), "Tea [green black [Earl]] milk Sugar") << "out of sight is not selected";
@@ -221,7 +221,7 @@ TEST(OutlineList, FindsRowsAndWhatIsAboveThem) {
   EXPECT_EQ(host.Shown(), "Tea [black [Earl]] milk");
   host.Keys("Return");
   host.Type("x");
-  host.Keys("Ctrl+F");
+  host.Keys("Ctrl+Shift+F");
   EXPECT_EQ(host.Shown(), "Tea [black [Earl]] milk x");
   host.Keys("Escape");
   EXPECT_EQ(host.Shown(), "Tea [green black [Earl]] milk x Sugar");
@@ -361,7 +361,7 @@ TEST(OutlineList, ACommitThatFailsLeavesTheTextInItsField) {
   host.Keys("Return");
   EXPECT_NE(host.TakeMessages().find("no deed today"), std::string::npos);
   EXPECT_EQ(host.Show(), "a* b / axy|");
-  host.Keys("Ctrl+F");
+  host.Keys("Ctrl+Shift+F");
   EXPECT_NE(host.TakeMessages().find("no deed today"), std::string::npos);
   EXPECT_EQ(ToStdString(host.GetDocument().GetEditor().GetText()), "axy");
   host.GetDocument().GetUndoer().SetHooks(nullptr);

@@ -16,6 +16,7 @@
 #include "lumworkspace/testing/Layouts.h"
 #include "lumworkspace/workspace/ManagerBase.h"
 #include "lumworkspace/workspace/Workspace.h"
+#include "outliner/AttributeEdits.h"
 #include "outliner/CommandsView.h"
 #include "outliner/NoteEditor.h"
 #include "outliner/OpmlWriter.h"
@@ -228,11 +229,11 @@ TEST(OutlinersWorkspaces, ComeBackAtTheNextStart) {
     ChooseWorkspace(host, "Notes");
     ChooseMenuItem(host.GetWindow(), {ToUTF16("View"), ToUTF16("Commands")});
     host.GetWindow().UI_SetSize(700, 500);
-    EXPECT_EQ(Panels(host), "left[outline + notes|commands*] Notes");
+    EXPECT_EQ(Panels(host), "left[outline + notes|commands*|~properties|~search|~history] Notes");
   }
   {
     RunningOutliner host(folder);
-    EXPECT_EQ(Panels(host), "left[outline + notes|commands*] Notes");
+    EXPECT_EQ(Panels(host), "left[outline + notes|commands*|~properties|~search|~history] Notes");
     EXPECT_EQ(host.GetWindow().UI_GetLocalRectF().width, 700);
     lumui::testing::OpenMenu(host.GetWindow(), {ToUTF16("Workspace")});
     EXPECT_EQ(
@@ -243,14 +244,15 @@ TEST(OutlinersWorkspaces, ComeBackAtTheNextStart) {
     lumui::testing::CloseMenus(host.GetWindow());
     host.AnswerNextBox("Cancel");
     ChooseWorkspace(host, "Reset Workspace...");
-    EXPECT_EQ(Panels(host), "left[outline + notes|commands*] Notes");
+    EXPECT_EQ(Panels(host), "left[outline + notes|commands*|~properties|~search|~history] Notes");
     host.AnswerNextBox("Reset");
     ChooseWorkspace(host, "Reset Workspace...");
-    EXPECT_EQ(Panels(host), "left[outline + notes*|~commands] Notes");
+    EXPECT_EQ(Panels(host), "left[outline + notes*|~commands|~properties|~search|~history] Notes");
     host.Keys("Ctrl+1");
-    EXPECT_EQ(Panels(host), "left[~outline + notes*|~commands] Notes");
+    EXPECT_EQ(Panels(host), "left[~outline + notes*|~commands|~properties|~search|~history] Notes");
     host.Keys("Ctrl+N");
-    EXPECT_EQ(Panels(host), "left[outline + notes*|~commands] Notes") << "there to be written in";
+    EXPECT_EQ(Panels(host), "left[outline + notes*|~commands|~properties|~search|~history] Notes")
+        << "there to be written in";
   }
 }
 

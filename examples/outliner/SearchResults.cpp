@@ -1,0 +1,168 @@
+// Copyright (c) 2026 The vek authors
+// SPDX-License-Identifier: MIT
+
+#include "SearchResults.h"
+
+#include <algorithm>
+
+#include "AttributeEdits.h"
+#include "OutlineDocument.h"
+#include "Palette.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/utility/StringUtils.h"
+#include "lumui/controls/UI_ScrollView.h"
+#include "lumui/drawbot/Drawbot.h"
+#include "lumui/drawbot/SupplierInterface.h"
+
+namespace outliner {
+
+using lumcore::UTF16String;
+using lumcore::utility::ToUTF16;
+using lumui::drawbot::ColorRGBA;
+using lumui::drawbot::Drawbot;
+using Rect = lumcore::geom::RectT<float>;
+
+namespace {
+
+constexpr float kLineHeight = 42;
+constexpr float kMargin = 12;
+constexpr float kTextTop = 3;
+constexpr float kTextHeight = 19;
+constexpr float kPathTop = 21;
+constexpr float kPathHeight = 17;
+constexpr float kTextSize = 13;
+constexpr float kPathSize = 11;
+constexpr float kMarkAlpha = 0.3f;
+// A match that begins further behind than this is shown with so much of what stands before it.
+constexpr std::size_t kFarMatch = 32;
+constexpr std::size_t kBeforeMatch = 12;
+
+UTF16String Localized(const char* inKey) {
+  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+}
+
+// From a little before the first match, with an ellipsis for what is left out.
+UTF16String Shortened(const UTF16String& inText, const TextSearch& inSearch) {
+  const auto matches = inSearch.FindAll(inText);
+  if (matches.empty() || matches.front().start <= kFarMatch) return inText;
+  std::size_t from = matches.front().start - kBeforeMatch;
+  if ((inText[from] & 0xFC00) == 0xDC00) ++from;  // not the second half of a character
+  return ToUTF16("\xE2\x80\xA6") + inText.substr(from);
+}
+
+struct Inks {
+  ColorRGBA text;
+  ColorRGBA mark;
+};
+
+void DrawMarked(Drawbot& ioDrawbot, const UTF16String& inText, const TextSearch& inSearch,
+                float inSize, const Inks& inInks, const Rect& inPlace) {
+  const UTF16String text = Shortened(inText, inSearch);
+  const auto font = ioDrawbot.GetSupplier()->NewFont(nullptr, inSize);
+  for (const auto& match : inSearch.FindAll(text)) {
+    const float left = inPlace.x + font->MeasureWidthOnce(text.substr(0, match.start));
+    if (left >= inPlace.Right()) break;
+    const float width = font->MeasureWidthOnce(text.substr(match.start, match.length));
+    ioDrawbot.FillRect(
+        {left, inPlace.y + 1, std::min(width, inPlace.Right() - left), inPlace.height - 2},
+        inInks.mark);
+  }
+  ioDrawbot.DrawStringInRect(text, font, inInks.text, inPlace);
+}
+
+}  // namespace
+
+SearchResults::SearchResults() : LinesView(kLineHeight) {
+  UI_SetNodeID("SearchList");
+}
+
+void SearchResults::Show(const OutlineDocument* inDocument, const SearchTerm& inTerm,
+                         std::vector<OutlineRow::Id> inRows) {
+  mDocument = inDocument;
+  mSearch = std::make_unique<TextSearch>(inTerm);
+  mRows = std::move(inRows);
+  ShowSelection();
+}
+
+void SearchResults::ShowSelection() {
+  mPresent = kNoLine;
+  const auto selected = mDocument ? mDocument->GetSelectedRows() : std::vector<OutlineRow*>();
+  if (selected.size() == 1) {
+    const auto found = std::find(mRows.begin(), mRows.end(), selected.front()->GetId());
+    if (found != mRows.end()) mPresent = static_cast<std::size_t>(found - mRows.begin());
+  }
+  LinesChanged();
+}
+
+const OutlineRow* SearchResults::FindRow(std::size_t inLine) const {
+  return mDocument ? mDocument->GetTree().FindRow(mRows[inLine]) : nullptr;
+}
+
+UTF16String SearchResults::PathOf(const OutlineRow& inRow) const {
+  UTF16String path;
+  for (const OutlineRow* row = inRow.GetParent(); row && row->GetParent(); row = row->GetParent()) {
+    if (!path.empty()) path = ToUTF16(" \xE2\x80\xBA ") + path;
+    path = row->GetText() + path;
+  }
+  return path;
+}
+
+UTF16String SearchResults::TextOfLine(std::size_t inLine) const {
+  const OutlineRow* const row = FindRow(inLine);
+  return row ? row->GetText() : UTF16String();
+}
+
+UTF16String SearchResults::NameOfList() const {
+  return Localized("$$$/outliner/Search/Results=Rows that were found");
+}
+
+UTF16String SearchResults::TextOfNoLines() const {
+  return {};
+}
+
+// What it does may take the list away.
+void SearchResults::Choose(std::size_t inLine, bool inIsFinal) {
+  const ChooseFunction choose = mChoose;
+  if (choose) choose(mRows[inLine], inIsFinal);
+}
+
+// A row that goes leaves its line blank until the search is made again.
+void SearchResults::DrawLine(Drawbot& ioDrawbot, std::size_t inLine, const Rect& inPlace,
+                             bool inIsLit) const {
+  const OutlineRow* const row = FindRow(inLine);
+  if (!row) return;
+  const float width = std::max(0.0f, inPlace.width - 2 * kMargin);
+  const auto mark = inIsLit ? palette::SelectionInk() : palette::Accent();
+  const Inks inks{inIsLit ? palette::SelectionInk() : palette::RowInk(),
+                  mark.WithAlpha(kMarkAlpha)};
+  const Inks faint{inIsLit ? palette::SelectionInk() : palette::FaintInk(), inks.mark};
+  ioDrawbot.FillRect({kMargin, inPlace.Bottom() - 1, width, 1}, palette::Guide());
+  DrawMarked(ioDrawbot, row->GetText(), *mSearch, kTextSize, inks,
+             {kMargin, inPlace.y + kTextTop, width, kTextHeight});
+  const Rect below(kMargin, inPlace.y + kPathTop, width, kPathHeight);
+  const UTF16String note = edits::GetNote(*mDocument, *row);
+  if (mSearch->IsIn(note)) {
+    DrawMarked(ioDrawbot, note, *mSearch, kPathSize, faint, below);
+  } else {
+    ioDrawbot.DrawStringInRect(PathOf(*row), ioDrawbot.GetSupplier()->NewFont(nullptr, kPathSize),
+                               faint.text, below, lumui::drawbot::TextAlignment::kLeft,
+                               lumui::drawbot::TextTruncation::kMiddle);
+  }
+}
+
+SearchResultsPane::SearchResultsPane()
+    : mList(new SearchResults), mScrollView(mList->MakeScrollView()) {
+  UI_AddChild(mScrollView);
+}
+
+void SearchResultsPane::UI_SizeChanged(const Rect& inRect) {
+  UI_SubView::UI_SizeChanged(inRect);
+  mScrollView->UI_SetLocalRectF({0, 1, inRect.width, std::max(0.0f, inRect.height - 1)});
+  mList->LinesChanged();
+}
+
+void SearchResultsPane::UI_Draw(Drawbot* inDrawbot) const {
+  inDrawbot->FillRect({0, 0, UI_GetLocalRectF().width, 1}, palette::Line());
+}
+
+}  // namespace outliner
