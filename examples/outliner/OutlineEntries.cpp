@@ -58,11 +58,12 @@ void OutlineEntries::NoteState(OutlineRow::Id inRow, ENodeState inState) {
   }
 }
 
-bool OutlineEntries::Update() {
-  const bool isChanged = !mStale.empty() || !mFilter.IsEmpty();
+bool OutlineEntries::Update(bool inTextsChanged) {
+  const bool hasOrder = mSortedBy != 0;
+  if (mStale.empty() && !(inTextsChanged && (hasOrder || !mFilter.IsEmpty()))) return false;
   if (!mFilter.IsEmpty()) {
     Rebuild();
-  } else if (isChanged) {
+  } else {
     std::vector<OutlineEntry*> parents;
     for (const OutlineRow::Id row : mStale) {
       if (OutlineEntry* const entry = Find(row)) parents.push_back(entry);
@@ -70,7 +71,6 @@ bool OutlineEntries::Update() {
     RebuildBelow(parents);
   }
   mStale.clear();
-  if (mSortedBy == 0) return isChanged;
   SortAgain();
   return true;
 }

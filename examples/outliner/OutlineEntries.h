@@ -41,8 +41,9 @@ class OutlineEntries {
   const EntryP& GetRoot() const { return mRoot; }  // stays the same; it stands for no row
   OutlineEntry* Find(OutlineRow::Id inRow) const;  // null where it has none
 
-  // Brings the entries in line with the tree. False where their shape stays as it was.
-  bool Update();
+  // Brings the entries in line with the tree. False where their shape stays as it was. Where texts
+  // may be others, rows match and sort otherwise as well.
+  bool Update(bool inTextsChanged);
 
   const OutlineFilter& GetFilter() const { return mFilter; }
   // Looks into the texts, the notes and the columns that are named.

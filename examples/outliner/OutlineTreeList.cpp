@@ -107,7 +107,7 @@ void OutlineTreeList::RowsChanged() {
 
 void OutlineTreeList::DocumentChanged() {
   if (!mDocument) return;
-  const bool hasNewShape = mEntries->Update();
+  const bool hasNewShape = mEntries->Update(true);
   const bool letsIn = mEntries->LetIn(mDocument->GetSelectedRows());
   if (hasNewShape || letsIn) {
     RowsChanged();
@@ -124,7 +124,8 @@ void OutlineTreeList::DocumentSelectionChanged() {
   InvalidateAll();
   AnnounceSelection();
   // Deeds restore the selection before the document tells that it has changed.
-  if (mEntries->Update() | mEntries->LetIn(mDocument->GetSelectedRows())) RowsChanged();
+  const bool hasNewShape = mEntries->Update(false);
+  if (mEntries->LetIn(mDocument->GetSelectedRows()) || hasNewShape) RowsChanged();
   FollowSelection();
 }
 
@@ -153,7 +154,7 @@ bool OutlineTreeList::OpenAbove(const Entry& inEntry) {
 
 void OutlineTreeList::ShowRow(const OutlineRow& inRow) {
   if (!mDocument) return;
-  if (mEntries->Update()) RowsChanged();
+  if (mEntries->Update(false)) RowsChanged();
   OutlineEntry* const entry = mEntries->Find(inRow.GetId());
   if (!entry) return;
   if (OpenAbove(*entry)) ResizeHierarchy();
@@ -210,9 +211,8 @@ void OutlineTreeList::Step(bool inDown) {
       if (isSelected) break;
     }
   }
-  if (!target) return;
-  DoSelectEntry(target, false);
-  RevealIfNotVisible(target);
+  // The document's selection is followed by showing it.
+  if (target) DoSelectEntry(target, false);
 }
 
 void OutlineTreeList::SelectAllShown() {
@@ -313,16 +313,18 @@ void OutlineTreeList::DoDeselectAll() {
 }
 
 void OutlineTreeList::DoSelectEntry(Entry* inEntry, bool inExtend) {
-  // Before the selection changes: what is committed selects its own row.
+  const OutlineRow::Id id = static_cast<OutlineEntry*>(inEntry)->GetRowId();
+  // Before the selection changes: what is committed selects its own row. It may end the entry.
   mDocument->CommitTyping();
-  auto* const row = static_cast<OutlineEntry*>(inEntry)->FindRow();
-  if (!row || !inEntry->GetParent()) return;
+  OutlineRow* const row = mDocument->GetTree().FindRow(id);
+  if (!row || !row->GetParent()) return;
   if (inExtend) {
     mDocument->GetSelection().ToggleSelectables({row}, vek::selection::eSendMessages);
   } else {
     mDocument->SelectRows({row});
   }
-  if (mDocument && mDocument->IsSelected(*row)) SetFocusItem(inEntry, true);
+  if (!mDocument || !mDocument->IsSelected(*row)) return;
+  if (Entry* const entry = mEntries->Find(id)) SetFocusItem(entry, true);
 }
 
 void OutlineTreeList::DoToggleEntrySelectionState(EntryList& ioEntries) {

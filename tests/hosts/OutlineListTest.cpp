@@ -29,6 +29,7 @@
 #include "vek/hierarchyview/TreeListGeometry.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
+#include "vek/undo/MultiUndoerHooks.h"
 
 namespace {
 
@@ -243,7 +244,7 @@ TEST(OutlineList, MarksWhatItFoundAlsoWhereFoldingChangesTheLength) {
   EXPECT_EQ(find("SS",
                  "Stra\xC3\x9F"
                  "e mit Masse"),
-            "4-5 12-14 ");
+            "4-5 13-15 ");
   EXPECT_EQ(find("s", "\xC3\x9F"), "0-1 0-1 ");
   EXPECT_EQ(find("\xF0\x90\x90\x80", "x\xF0\x90\x90\xA8y"), "1-3 ") << "Deseret has two cases";
   EXPECT_EQ(find("", "abc"), "");
@@ -294,13 +295,15 @@ TEST(OutlineList, TakesRowsToWhereTheLineIsInOneStep) {
 
 TEST(OutlineList, RowsAreDraggedBetweenItAndTheMap) {
   Host host("a [b] c d");
+  host.GetWindow().UI_SetSize(790, 780);  // a screen that is none has 800 units
   host.Keys("Ctrl+4");
-  host.Drag(host.At(3, 0.5f), host.InMap("b"));
-  EXPECT_EQ(host.Show(), "a [b [d*]] c");
+  tests::Select(host.GetDocument(), "d");  // the map scrolls to what is selected
+  host.Drag(host.At(3, 0.5f), host.InMap("c"));
+  EXPECT_EQ(host.Show(), "a [b] c [d*]");
   host.Drag(host.InMap("c"), host.At(1, 0.1f));
-  EXPECT_EQ(host.Show(), "a [c* b [d]]");
-  host.Drag(host.InMap("a"), host.At(2, 0.5f));
-  EXPECT_EQ(host.Show(), "a* [c b [d]]") << "not below itself";
+  EXPECT_EQ(host.Show(), "a [c* [d] b]");
+  host.Drag(host.InMap("a"), host.At(3, 0.5f));
+  EXPECT_EQ(host.Show(), "a* [c [d] b]") << "not below itself";
   host.Keys("Ctrl+Z Ctrl+Z");
   EXPECT_EQ(host.Show(), "a [b] c d*");
   EXPECT_FALSE(host.GetDocument().IsDirty());
@@ -336,12 +339,17 @@ TEST(OutlineList, TakesTextAndOutlinesOfOtherPrograms) {
   EXPECT_EQ(host.Show(), "a [b] c");
 }
 
-// What a deed is refused by, in the middle of its posting.
-class Refusal : public vek::messaging::Listener<vek::undo::Deed*> {
+// Refuses whatever is posted.
+class Refusal : public vek::undo::MultiUndoerHooks {
  public:
-  void ListenToMessage(vek::undo::Deed* inDeed) override {
-    if (inDeed) throw lumcore::config::Error(ToUTF16("no deed today"));
+  void WillPostDeed(vek::undo::Deed*) override {
+    throw lumcore::config::Error(ToUTF16("no deed today"));
   }
+  void DidPostDeed(vek::undo::Deed*) override {}
+  void WillUndoDeed(vek::undo::Deed*) override {}
+  void DidUndoDeed(vek::undo::Deed*) override {}
+  void WillRedoDeed(vek::undo::Deed*) override {}
+  void DidRedoDeed(vek::undo::Deed*) override {}
 };
 
 TEST(OutlineList, ACommitThatFailsLeavesTheTextInItsField) {
@@ -349,14 +357,14 @@ TEST(OutlineList, ACommitThatFailsLeavesTheTextInItsField) {
   host.Keys("Down");
   host.Type("xy");
   Refusal refusal;
-  host.GetDocument().GetUndoer().GetDeedNotifier()->AddListener(&refusal);
+  host.GetDocument().GetUndoer().SetHooks(&refusal);
   host.Keys("Return");
   EXPECT_NE(host.TakeMessages().find("no deed today"), std::string::npos);
   EXPECT_EQ(host.Show(), "a* b / axy|");
   host.Keys("Ctrl+F");
   EXPECT_NE(host.TakeMessages().find("no deed today"), std::string::npos);
   EXPECT_EQ(ToStdString(host.GetDocument().GetEditor().GetText()), "axy");
-  host.GetDocument().GetUndoer().GetDeedNotifier()->RemoveListener(&refusal);
+  host.GetDocument().GetUndoer().SetHooks(nullptr);
   host.Keys("Ctrl+S");
   EXPECT_EQ(host.Show(), "axy* b");
   EXPECT_EQ(host.TakeMessages(), "");
