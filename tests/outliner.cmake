@@ -14,6 +14,8 @@ vek_test(outliner_tests
     hosts/PanelsTest.cpp
     hosts/RunningOutliner.cpp
     hosts/ScriptRunTest.cpp
+    hosts/ShortcutsTest.cpp
+    hosts/ToolPanelsTest.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
 vek_embed_resources(outliner_tests
@@ -33,3 +35,17 @@ set_tests_properties(outliner_speaks_the_language_asked_for PROPERTIES
   ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C")
 set_tests_properties(outliner_speaks_the_systems_language outliner_speaks_the_language_asked_for
   PROPERTIES PASS_REGULAR_EXPRESSION "bearbeitet Gliederungen")
+
+foreach(tool Xvfb openbox setxkbmap xdotool)
+  find_program(VEK_${tool} ${tool})
+  if(NOT VEK_${tool})
+    message(STATUS "No ${tool}: the outliner's test on a real display is left out")
+    return()
+  endif()
+endforeach()
+add_test(NAME outliner_shortcuts_on_a_display
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh
+    ${CMAKE_CURRENT_SOURCE_DIR}/hosts/shortcuts_on_a_display.sh $<TARGET_FILE:vek_outliner>
+    ${CMAKE_CURRENT_BINARY_DIR}/shortcuts_on_a_display)
+set_tests_properties(outliner_shortcuts_on_a_display PROPERTIES
+  ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_SCALE_FACTOR=1" TIMEOUT 60)

@@ -7,6 +7,7 @@ vek_test(vek_sharedui_tools_tests
 set_tests_properties(vek_sharedui_tools_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 vek_test(vek_sharedui_lists_tests
   SOURCES
+    sharedui/MultiTreeListFuzzTest.cpp
     sharedui/MultiTreeListTest.cpp
     lumui/UITest.cpp
     support/UIApplication.cpp

@@ -14,6 +14,7 @@
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/ui/AccessibleList.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/PointerEvent.h"
 #include "vek/uisupport/CommandHandlerBase.h"
@@ -43,9 +44,62 @@ constexpr float kSmallSize = 11;
 
 }  // namespace
 
-CommandsView::CommandsView(Functions inFunctions) : mFunctions(std::move(inFunctions)) {
+class CommandsView::Accessible final : public lumui::ui::AccessibleList {
+ public:
+  explicit Accessible(CommandsView& inView) : AccessibleList(inView), mView(inView) {}
+
+ protected:
+  std::size_t DoCount() const override { return mView.mLines.size(); }
+  lumui::ui::AccessibleItem DoDescribe(std::size_t inLine) const override {
+    using namespace lumui::ui;
+    const Line& line = mView.mLines[inLine];
+    AccessibleItem item;
+    item.role = AccessibleRole::kListItem;
+    item.name = line.name;
+    item.value = line.keys;
+    item.description = line.description;
+    item.rect = mView.RectOf(inLine);
+    item.states = kAccessibleSelectable | kAccessibleFocusable;
+    item.actions = kAccessibleSelect | kAccessibleShow;
+    (line.isEnabled ? item.actions : item.states) |=
+        line.isEnabled ? unsigned{kAccessiblePress} : unsigned{kAccessibleDisabled};
+    if (inLine == mView.mChosen) item.states |= kAccessibleSelected;
+    if (DoFindFocus() == inLine) item.states |= kAccessibleFocused;
+    return item;
+  }
+  Index DoFindAt(const lumcore::geom::PointT<float>& inPosition) const override {
+    return mView.FindLine(inPosition.y);
+  }
+  Index DoFindFocus() const override {
+    return mView.UI_HasKeyboardFocus() ? Index(mView.mChosen) : std::nullopt;
+  }
+  bool DoPerform(std::size_t inLine, lumui::ui::AccessibleAction inAction) override {
+    mView.Choose(inLine);
+    if (inAction == lumui::ui::kAccessiblePress) mView.RunChosen();
+    return true;
+  }
+
+ private:
+  CommandsView& mView;
+};
+
+CommandsView::CommandsView(Functions inFunctions)
+    : mFunctions(std::move(inFunctions)), mAccessible(std::make_unique<Accessible>(*this)) {
   UI_SetNodeID("commands");
   Update();
+}
+
+CommandsView::~CommandsView() = default;
+
+lumui::ui::AccessibleItems* CommandsView::UI_GetAccessibleItems() {
+  return mAccessible.get();
+}
+
+// Counted from 0; nothing beside all.
+std::optional<std::size_t> CommandsView::FindLine(float inY) const {
+  const float line = std::floor(inY / kLineHeight);
+  if (line < 0 || line >= static_cast<float>(mLines.size())) return std::nullopt;
+  return static_cast<std::size_t>(line);
 }
 
 void CommandsView::SetScrollView(lumui::controls::UI_ScrollView* inScrollView) {
@@ -108,7 +162,9 @@ void CommandsView::Update() {
       isOther = true;
     }
   }
-  if (isOther) UI_InvalidateAll();
+  if (!isOther) return;
+  UI_InvalidateAll();
+  mAccessible->Notify(lumui::ui::AccessibleChange::kItems);
 }
 
 UTF16String CommandsView::AsText() const {
@@ -129,10 +185,11 @@ void CommandsView::Choose(std::size_t inLine) {
   if (mLines.empty()) return;
   mChosen = std::min(inLine, mLines.size() - 1);
   if (mScrollView) {
-    mScrollView->ScrollIntoView({0, static_cast<float>(mChosen) * kLineHeight, 1, kLineHeight},
-                                false);
+    mScrollView->ScrollIntoView({0, RectOf(mChosen).y, 1, kLineHeight}, false);
   }
   UI_InvalidateAll();
+  mAccessible->Notify(lumui::ui::AccessibleChange::kSelection, mChosen);
+  if (UI_HasKeyboardFocus()) mAccessible->Notify(lumui::ui::AccessibleChange::kFocus, mChosen);
 }
 
 // The command may close the panel that this is in.
@@ -207,10 +264,10 @@ bool CommandsView::UI_DoMouseEvent(lumui::ui::UI_Node*, const MouseEvent& inEven
     return false;
   }
   UI_SetKeyboardFocus(lumui::ui::kFocusPointer);
-  const float line = std::floor(inEvent.GetPosition().y / kLineHeight);
-  if (line < 0 || line >= static_cast<float>(mLines.size())) return true;
-  const bool isSame = mChosen == static_cast<std::size_t>(line);
-  Choose(static_cast<std::size_t>(line));
+  const auto line = FindLine(inEvent.GetPosition().y);
+  if (!line) return true;
+  const bool isSame = mChosen == *line;
+  Choose(*line);
   if (isSame && inEvent.GetClickCount() == 2) RunChosen();
   return true;
 }
@@ -241,11 +298,17 @@ void CommandsView::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
     DrawLine(*inDrawbot, line);
 }
 
-void CommandsView::DrawLine(lumui::drawbot::Drawbot& ioDrawbot, std::size_t inLine) const {
-  const Line& line = mLines[inLine];
+lumcore::geom::RectT<float> CommandsView::RectOf(std::size_t inLine) const {
   const float width =
       mScrollView ? mScrollView->GetViewedContentRectF().width : UI_GetLocalRectF().width;
-  const float top = static_cast<float>(inLine) * kLineHeight;
+  return {0, static_cast<float>(inLine) * kLineHeight, width, kLineHeight};
+}
+
+void CommandsView::DrawLine(lumui::drawbot::Drawbot& ioDrawbot, std::size_t inLine) const {
+  const Line& line = mLines[inLine];
+  const auto rect = RectOf(inLine);
+  const float width = rect.width;
+  const float top = rect.y;
   const bool isLit = inLine == mChosen && UI_HasKeyboardFocus();
   if (inLine == mChosen) {
     ioDrawbot.FillRect({0, top, width, kLineHeight},

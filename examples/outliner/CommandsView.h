@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <vector>
 
 #include "lumcore/Strings.h"
@@ -30,6 +32,7 @@ class CommandsView final : public lumui::ui::UI_SubView {
   };
 
   explicit CommandsView(Functions inFunctions);
+  ~CommandsView() override;
 
   void SetScrollView(lumui::controls::UI_ScrollView* inScrollView);
   // Only commands that have the text in their name or description; an empty one shows all.
@@ -46,8 +49,10 @@ class CommandsView final : public lumui::ui::UI_SubView {
                           const lumui::ui::KeyboardEvent& inEvent) override;
   bool UI_WantsKeyboardFocus() const override { return true; }
   void UI_FocusChanged(int inReason) override;
+  lumui::ui::AccessibleItems* UI_GetAccessibleItems() override;
 
  private:
+  class Accessible;
   struct Line {
     int command;
     lumcore::UTF16String name;
@@ -63,6 +68,8 @@ class CommandsView final : public lumui::ui::UI_SubView {
   void Choose(std::size_t inLine);
   void RunChosen();
   std::size_t GetPage() const;
+  std::optional<std::size_t> FindLine(float inY) const;
+  lumcore::geom::RectT<float> RectOf(std::size_t inLine) const;
   void DrawLine(lumui::drawbot::Drawbot& ioDrawbot, std::size_t inLine) const;
 
   Functions mFunctions;
@@ -70,6 +77,7 @@ class CommandsView final : public lumui::ui::UI_SubView {
   lumcore::UTF16String mFilter;
   std::vector<Line> mLines;
   std::size_t mChosen = 0;
+  std::unique_ptr<Accessible> mAccessible;
 };
 
 }  // namespace outliner

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <vector>
 
+#include "support/RandomSteps.h"
 #include "support/RecordingDrawbot.h"
 #include "support/TreeRig.h"
 
@@ -226,14 +227,7 @@ class TreeFuzz : public TreeRig {
   }
 
   enum Act { kAdd, kRemove, kMove, kTurn, kSort, kSelect, kDown, kUp, kUndo, kActs };
-  // What it does to whom goes by its own number alone, so that others can be left out before it.
-  struct Step {
-    Act act;
-    std::mt19937::result_type number;
-  };
-  using Steps = std::vector<Step>;
-
-  void Do(Act inAct) {
+  void Do(int inAct) {
     switch (mRoot.children.empty() ? kAdd : inAct) {
       case kAdd:
         return Add();
@@ -255,7 +249,7 @@ class TreeFuzz : public TreeRig {
     }
   }
   // Nothing, or what differed first.
-  std::string Run(const Steps& inSteps) {
+  std::string Run(const RandomSteps& inSteps) {
     Build("");
     mRoot = Plain();
     mRoot.isOpen = true;
@@ -264,8 +258,8 @@ class TreeFuzz : public TreeRig {
     mCount = 0;
     mUndo.clear();
     mAll.clear();
-    for (const Step& step : inSteps) {
-      mRandom.seed(static_cast<unsigned>(step.number));
+    for (const RandomStep& step : inSteps) {
+      mRandom.seed(step.number);
       Do(step.act);
       if (Random(4) != 0) mTree->ResizeHierarchy();
       const tv::Rect damage(0, static_cast<float>(Random(400)), 200,
@@ -278,28 +272,6 @@ class TreeFuzz : public TreeRig {
     }
     return "";
   }
-  // The least that still fails, found by leaving out shorter and shorter pieces.
-  std::string Shortened(Steps inSteps) {
-    for (std::size_t piece = inSteps.size() / 2; piece > 0; piece /= 2) {
-      for (std::size_t first = 0; first + piece <= inSteps.size();) {
-        Steps fewer = inSteps;
-        const auto from = fewer.begin() + static_cast<std::ptrdiff_t>(first);
-        fewer.erase(from, from + static_cast<std::ptrdiff_t>(piece));
-        if (Run(fewer).empty()) {
-          first += piece;
-        } else {
-          inSteps.swap(fewer);
-        }
-      }
-    }
-    static const char* const kNames[] = {"add",    "remove", "move", "turn", "sort",
-                                         "select", "down",   "up",   "undo"};
-    std::string text;
-    for (const Step& step : inSteps)
-      text += std::string(kNames[step.act]) + " " + std::to_string(step.number) + "\n";
-    return text + Run(inSteps);
-  }
-
   std::mt19937 mRandom;
   Plain mRoot;
   Plain* mFocus = nullptr;
@@ -309,13 +281,14 @@ class TreeFuzz : public TreeRig {
 };
 
 TEST_F(TreeFuzz, ShowsAndPaintsWhatAPlainModelSays) {
+  const std::vector<const char*> kNames = {"add",    "remove", "move", "turn", "sort",
+                                           "select", "down",   "up",   "undo"};
+  const auto run = [this](const RandomSteps& inSteps) { return Run(inSteps); };
   for (unsigned seed = 1; seed <= 120; ++seed) {
     mWalks = seed % 2 == 0;
-    std::mt19937 random(seed);
-    Steps steps;
-    for (int step = 0; step < 150; ++step)
-      steps.push_back({step < 12 ? kAdd : static_cast<Act>(random() % kActs), random()});
-    ASSERT_EQ(Run(steps), "") << "seed " << seed << ", in short:\n" << Shortened(steps);
+    const RandomSteps steps = NewSteps(seed, 12, 150, kActs);
+    ASSERT_EQ(Run(steps), "") << "seed " << seed << ", in short:\n"
+                              << Shortened(steps, run, kNames);
   }
 }
 

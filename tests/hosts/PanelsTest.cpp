@@ -11,6 +11,7 @@
 #include "lumui/controls/UI_TextEdit.h"
 #include "lumui/testing/Menus.h"
 #include "lumui/testing/SyntheticInput.h"
+#include "lumui/ui/Accessible.h"
 #include "lumui/ui/Application.h"
 #include "lumworkspace/testing/Layouts.h"
 #include "lumworkspace/workspace/ManagerBase.h"
@@ -185,6 +186,19 @@ TEST(CommandsPanel, SaysWhatTheChainSaysAndRunsWhatIsChosen) {
   lumui::testing::DoubleClickMouse(host.GetWindow(), host.PlaceIn("commands", 100, 20));
   EXPECT_EQ(host.Show(), "a b -*");
   EXPECT_EQ(text(), "> Undo New Child Row  Ctrl+Z\n");
+  // As those hear it who do not see it.
+  using namespace lumui::ui;
+  list->SetFilter(ToUTF16("next outline"));
+  AccessibleItem row;
+  ASSERT_TRUE(
+      list->UI_GetAccessibleItems()->Describe(list->UI_GetAccessibleItems()->GetAt({5, 5}), row));
+  EXPECT_EQ(ToStdString(row.name + row.value), "Next OutlineCtrl+Tab, Ctrl+Page Down");
+  EXPECT_TRUE(row.states & kAccessibleDisabled);
+  EXPECT_FALSE(row.actions & kAccessiblePress);
+  list->SetFilter(ToUTF16("all commands"));
+  AccessibleItems& items = *list->UI_GetAccessibleItems();
+  EXPECT_EQ(items.GetChildCount(AccessibleID()), 1);
+  EXPECT_TRUE(items.GetAt({5, 50}).IsNode());
   // A command that takes the list away from under itself.
   list->SetFilter(ToUTF16("all commands"));
   EXPECT_EQ(text(), "> * Commands  Ctrl+3\n");

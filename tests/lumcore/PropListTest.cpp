@@ -8,6 +8,7 @@
 #include <cstring>
 #include <iterator>
 #include <limits>
+#include <map>
 #include <random>
 #include <string>
 #include <type_traits>
@@ -313,6 +314,34 @@ TEST(PropLists, PointersHoldWhileTheirKeysDoAndListsMayBeAssignedWithinEachOther
   moved = std::move(*moved.GetSubList("sub"));
   EXPECT_EQ(moved.GetSubList("sub")->Get<std::int32_t>("in", 0), 1);
   EXPECT_TRUE(moved.Get("z", false));
+}
+
+TEST(PropLists, FindTheirKeysHoweverManyThereAreAndHaveBeen) {
+  std::mt19937 random(5);
+  PropList list;
+  std::map<std::string, std::int32_t> model;
+  for (std::int32_t step = 0; step < 3000; ++step) {
+    // Long and short in turns.
+    const bool grows = step / 60 % 2 == 0;
+    const std::string key = "k" + std::to_string(random() % 20);
+    if (random() % 4 == 0 ? !grows : grows) {
+      list.Set<std::int32_t>(key.c_str(), step);
+      model[key] = step;
+    } else {
+      EXPECT_EQ(list.Remove(key.c_str()), model.erase(key) != 0);
+    }
+    if (step % 500 == 0) list = PropList(list);
+    ASSERT_EQ(list.GetSize(), model.size());
+    for (int i = 0; i < 20; ++i) {
+      const std::string each = "k" + std::to_string(i);
+      const auto found = model.find(each);
+      const std::int32_t* const value = list.Find<std::int32_t>(each.c_str());
+      ASSERT_EQ(value != nullptr, found != model.end()) << step << " " << each;
+      if (value) {
+        ASSERT_EQ(*value, found->second);
+      }
+    }
+  }
 }
 
 TEST(PropLists, DepthDoesNotEndTheStackAndIsNotSaved) {

@@ -66,7 +66,7 @@ class FileDialogs : public lumui::test::UITest {
   hierarchyview::HierarchyEntryBase* Row(const std::string& inName) {
     for (auto const& row : mList->GetRootEntry()->GetChildren()) {
       lumcore::UTF16String name;
-      row->GetCellText(0, name);
+      row->GetCellText(UIMultiTreeListNode::kFirstAttribute, name);
       if (lumcore::utility::ToStdString(name) == inName) return row.get();
     }
     return nullptr;
@@ -77,7 +77,7 @@ class FileDialogs : public lumui::test::UITest {
     std::string text;
     for (auto const& row : mList->GetRootEntry()->GetChildren()) {
       lumcore::UTF16String name;
-      row->GetCellText(0, name);
+      row->GetCellText(UIMultiTreeListNode::kFirstAttribute, name);
       text += (row->Selected(mList->GetSelectionManager()) ? "*" : "") +
               lumcore::utility::ToStdString(name) + " ";
     }
@@ -178,6 +178,26 @@ TEST_F(FileDialogs, ChooseByThePointer) {
   EXPECT_EQ(State(), "a.txt *B.doc b.txt | B.doc OK");
 }
 
+TEST_F(FileDialogs, ChooseByTheKeyboardAlone) {
+  Make("in");
+  std::string log;
+  const auto tap = [&](unsigned short inCode) {
+    input::TapKey(*mDialog, KeyboardCode::CreateFromControlCode(inCode, false));
+    log += State() + "; ";
+  };
+  EXPECT_EQ(Run([&] {
+              tap(KeyboardCode::kTab);
+              tap(KeyboardCode::kDownArrow);
+              tap(KeyboardCode::kDownArrow);
+              tap(KeyboardCode::kReturn);
+            }),
+            UI_Dialog::kOK);
+  EXPECT_EQ(
+      log,
+      "a.txt B.doc b.txt |  OK; *a.txt B.doc b.txt | a.txt OK; a.txt *B.doc b.txt | B.doc OK; "
+      "a.txt *B.doc b.txt | B.doc OK; ");
+}
+
 TEST_F(FileDialogs, KeepWhatIsTyped) {
   Make("in", "in/a.txt");
   std::string log;
@@ -223,7 +243,7 @@ TEST_F(FileDialogs, AnswerForTheirOwnListAlone) {
   for (unsigned int column = 0; column < 5; ++column) {
     lumcore::UTF16String text = U16("?");
     if (column > 0 && column < 4) text.clear();
-    Row("a.txt")->GetCellText(column, text);
+    Row("a.txt")->GetCellText(UIMultiTreeListNode::kFirstAttribute + column, text);
     EXPECT_EQ(lumcore::utility::ToStdString(text), column == 0  ? "a.txt"
                                                    : column < 4 ? ""
                                                                 : "Error!");
@@ -234,7 +254,7 @@ TEST_F(FileDialogs, AnswerForTheirOwnListAlone) {
   other.GetTreeControl()->InsertItem(row);
   other.GetTreeControl()->SelectEntry(row.get(), false);
   lumcore::UTF16String text;
-  row->GetCellText(0, text);
+  row->GetCellText(UIMultiTreeListNode::kFirstAttribute, text);
   EXPECT_TRUE(text.empty());
   EXPECT_EQ(State(), "*a.txt B.doc b.txt | a.txt OK");
   other.GetTreeControl()->SetController(nullptr);

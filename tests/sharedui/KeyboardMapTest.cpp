@@ -5,9 +5,11 @@
 
 #include <optional>
 
+#include "lumui/controls/UI_ScrollView.h"
 #include "lumui/controls/UI_TextButton.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/testing/SyntheticInput.h"
+#include "lumui/ui/Accessible.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "uisupport/KeyFixture.h"
 #include "vek/sharedui/KeyboardMapDialog.h"
@@ -96,6 +98,43 @@ class KeyboardMaps : public KeyFixture {
   boost::shared_ptr<boost::function<void(int)>> mTold;
   boost::intrusive_ptr<KeyboardMapDialog> mDialog;
 };
+
+// "Cut=Ctrl+X: Edit > Cut *", a star where it is selected and "~" where it is disabled.
+std::string Spoken(lumui::ui::UI_Node& inNode, const std::string& inName) {
+  using namespace lumui::ui;
+  AccessibleItems* const items = inNode.UI_GetAccessibleItems();
+  for (int i = 0; i < items->GetChildCount(AccessibleID()); ++i) {
+    const AccessibleID id = items->GetChild(AccessibleID(), i);
+    AccessibleItem item;
+    if (!items->Describe(id, item) || lumcore::utility::ToStdString(item.name) != inName) continue;
+    EXPECT_EQ(items->GetIndex(id), i);
+    EXPECT_EQ(items->GetAt({item.rect.x + 2, item.rect.y + 2}), id);
+    items->Perform(id, kAccessiblePress);
+    const auto text = lumcore::utility::ToStdString(item.value) + ": " +
+                      lumcore::utility::ToStdString(item.description);
+    const unsigned before = item.states;
+    items->Describe(id, item);
+    return text + ((before ^ item.states) & kAccessibleSelected ? " toggled" : "") +
+           (item.states & kAccessibleDisabled ? " ~" : "");
+  }
+  return "none";
+}
+
+TEST_F(KeyboardMaps, KeysAndCommandsAreToldToThoseWhoDoNotSeeThem) {
+  EXPECT_EQ(Spoken(Keyboard(), "X"), "Cut: Edit > Cut toggled");
+  EXPECT_EQ(Keyboard().GetSelectedKey(), Char('X'));
+  EXPECT_EQ(Spoken(Keyboard(), "K"), ":  toggled");
+  EXPECT_EQ(Spoken(Keyboard(), "Caps Lock"), ":  ~");
+  EXPECT_EQ(Spoken(Keyboard(), "Ctrl"), ":  toggled");
+  EXPECT_EQ(Spoken(Keyboard(), "X"), ":  toggled") << "without Ctrl";
+  const auto scroll = mDialog->GetNodeForID("Commands");
+  auto& list = *dynamic_cast<lumui::controls::UI_ScrollView&>(*scroll).GetContentNode();
+  EXPECT_EQ(Spoken(list, "Edit"), ": ");
+  EXPECT_EQ(Shortcuts(), mBefore);
+  EXPECT_EQ(Spoken(list, "Paste"), ":  toggled");
+  EXPECT_EQ(mDialog->GetMap().GetSelectedCommand(), 3);
+  EXPECT_NE(Shortcuts(), mBefore) << "the key that was chosen is given to the command";
+}
 
 TEST_F(KeyboardMaps, AFreeKeyIsGivenAndTakenAwayInTheLiveMap) {
   mDialog->GetMap().SelectCommand(4);

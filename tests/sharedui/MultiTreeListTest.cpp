@@ -181,6 +181,9 @@ TEST_F(MultiTreeLists, LayOutOnceWhileSuspendedAndKeepTheOrder) {
   EXPECT_EQ(Rows(), "19 52 31");  // 91, 25 and 13
   mList->SortIsAscending(false);
   EXPECT_EQ(Rows(), "31 52 19");
+  mList->SetSortColumn(0);
+  mList->InsertItem(Row(24));
+  EXPECT_EQ(Rows(), "19 24 31 52");
 }
 
 // A list that is wider than its view, and by its scroll bar narrower than the header.
@@ -215,7 +218,7 @@ TEST_F(MultiTreeLists, HideAndShowColumnsByTheHeadersMenu) {
   EXPECT_EQ(Titles(), "Name Back ");
   EXPECT_EQ(mList->GetColumnWidth(1), 100);
   EXPECT_EQ(mList->GetMinColumnWidth(1), 15);
-  mNode->GetHeaderView()->SetDefaultNewColumnSizes({{2, {30, 55}}});
+  mNode->GetHeaderView()->SetDefaultNewColumnSizes({{3, {30, 55}}});
   choose(30, {U16("Columns"), U16("More")});
   EXPECT_EQ(mList->GetColumnWidth(2), 55);
   EXPECT_EQ(mList->GetMinColumnWidth(2), 30);
@@ -232,7 +235,7 @@ TEST_F(MultiTreeLists, ComeOutOfArchivesAndGoIntoThem) {
   const auto* const copy = dynamic_cast<UIMultiTreeList*>(built.get());
   ASSERT_NE(copy, nullptr);
   EXPECT_EQ(copy->GetColumns(), mNode->GetColumns());
-  EXPECT_EQ(copy->GetTreeControl()->GetColumnAttr(2), 2U);
+  EXPECT_EQ(copy->GetTreeControl()->GetColumnAttr(2), 3U);
   EXPECT_EQ(copy->GetHeaderHeight(), 17);
   EXPECT_TRUE(copy->GetShowHeader() && copy->GetTreeControl()->GetFullRowSelect() &&
               copy->GetTreeControl()->HasIcons());

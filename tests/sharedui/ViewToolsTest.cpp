@@ -182,9 +182,9 @@ TEST_F(ViewTools, MarqueeAsksForWhereItWasAndWhereItIs) {
   band->SetMarqueeRect(Rect(80, 75, 10, 6));
   EXPECT_EQ(TakeDamage(), "v:draw@80,75,10,6");
   band->SetMarqueeRect(Rect(81, 76, 10, 6));
-  EXPECT_EQ(TakeDamage(), "v:draw@60,60,50,40");
+  EXPECT_EQ(TakeDamage(), "v:draw@60,60,50,33");
   band->SetMarqueeRect(Rect(81, 76, 0, 6));
-  EXPECT_EQ(TakeDamage(), "v:draw@61,60,50,40");
+  EXPECT_EQ(TakeDamage(), "v:draw@61,60,50,33");
   band->SetMarqueeRect(Rect(1, 1, -3, 6));
   EXPECT_EQ(TakeDamage(), "");
 }

@@ -35,6 +35,7 @@ TEST(VekResources, LiveFromFirstUseToDisposal) {
     EXPECT_EQ(GetDrawbotImageCache(), nullptr);
     EXPECT_EQ(GetImageProvider(), provider);
     EXPECT_TRUE(GetResourceManager()->HasBinary(ToUTF16("UIShell_Drive"), "PNG"));
+    EXPECT_TRUE(GetLibraryImage(*window->UI_GetDrawSupplier(), ToUTF8("UIShell_Drive")));
     EXPECT_EQ(GetDrawbotImageCache(), nullptr);
   }
   EXPECT_EQ(image->GetWidth(), 10);

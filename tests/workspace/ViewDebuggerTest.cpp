@@ -202,6 +202,7 @@ TEST_F(ViewDebugger, PicksAndOutlinesBelowAMenuBar) {
 TEST_F(ViewDebugger, CopiesWhatItListsAndNotItsOutline) {
   const auto before = mTab->GetText();
   mTab->ChooseNode(mLamp.get());
+  EXPECT_EQ(Tree().GetText(Tree().GetSelectedRow(), NodeListing::kClass), U16("Lamp"));
   dynamic_cast<lumui::controls::UI_TextButton&>(*mTab->UI_GetNodeForID(U8("Copy"))).Press();
   EXPECT_EQ(lumui::datatransfer::GetClipboardText(), before);
   EXPECT_NE(lumcore::utility::ToStdString(before).find("viewdebugger_test::Lamp\tlamp\t"),

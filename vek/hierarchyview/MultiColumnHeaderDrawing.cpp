@@ -8,7 +8,6 @@
 #include "lumui/ui/IconType.h"
 #include "lumui/ui/Theme.h"
 #include "lumui/ui/ThemeColors.h"
-#include "lumui/utility/DrawbotImageResourceCache.h"
 #include "lumui/utils/DrawUtils.h"
 #include "vek/hierarchyview/MultiColumnHeaderSkin.h"
 #include "vek/hierarchyview/MultiColumnHeaderView.h"
@@ -64,9 +63,7 @@ MultiColumnHeaderSkin::~MultiColumnHeaderSkin() = default;
 
 boost::intrusive_ptr<lumui::drawbot::ImageInterface> MultiColumnHeaderSkin::GetSortArrow(
     lumcore::UTF8String const& inName, lumui::drawbot::SupplierInterface const& inSupplier) const {
-  const auto* const images = utility::GetDrawbotImageCache();
-  if (!images) return nullptr;  // the library is being unloaded
-  return images->GetImage(*utility::GetResourceManager(), inSupplier, inName);
+  return utility::GetLibraryImage(inSupplier, inName);
 }
 
 void MultiColumnHeaderView::DoImageRect(const Rect& inDataRect, Drawbot& inDrawbot,

@@ -10,7 +10,6 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/Fonts.h"
-#include "lumui/utility/DrawbotImageResourceCache.h"
 #include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/HierarchyArrowTracker.h"
 #include "vek/hierarchyview/HoldEntry.h"
@@ -144,15 +143,13 @@ std::auto_ptr<HierarchyGeometry> TreeControlBase::CreateGeometry() {
 }
 
 boost::intrusive_ptr<lumui::drawbot::ImageInterface> TreeControlBase::GetExpandedTwisty() {
-  return utility::GetDrawbotImageCache()->GetImage(
-      *utility::GetResourceManager(), *GetSupplier(),
-      lumcore::utility::ToUTF8("SP_DisclosureTriangle_Xs_N"));
+  return utility::GetLibraryImage(*GetSupplier(),
+                                  lumcore::utility::ToUTF8("SP_DisclosureTriangle_Xs_N"));
 }
 
 boost::intrusive_ptr<lumui::drawbot::ImageInterface> TreeControlBase::GetUnExpandedTwisty() {
-  return utility::GetDrawbotImageCache()->GetImage(
-      *utility::GetResourceManager(), *GetSupplier(),
-      lumcore::utility::ToUTF8("SP_DisclosureTriangleDown_Xs_N.png"));
+  return utility::GetLibraryImage(*GetSupplier(),
+                                  lumcore::utility::ToUTF8("SP_DisclosureTriangleDown_Xs_N.png"));
 }
 
 std::auto_ptr<trackview::Tracker> TreeControlBase::DoAcquireTracker(

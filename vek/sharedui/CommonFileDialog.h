@@ -69,6 +69,7 @@ class VEK_API CommonFileDialog
       UIMultiTreeListView& inView, UIMultiTreeListNode const& inNode) override;
   bool IsSelectable(UIMultiTreeListView& inView, UIMultiTreeListNode const& inNode) override;
   bool OnDoubleClick(UIMultiTreeListView& inView, UIMultiTreeListNode& inNode) override;
+  bool OnKeyEvent(UIMultiTreeListView& inView, lumui::ui::KeyboardEvent const& inEvent) override;
   void OnSelectionChanged(UIMultiTreeListView& inView,
                           std::list<UIMultiTreeListNode*> const& inSelected) override;
   void OnSizeChanged(UIMultiTreeListView& inView) override;
@@ -81,6 +82,7 @@ class VEK_API CommonFileDialog
   void SetUpFolders(lumcore::filesupport::Dir const* inInitialDir);
   void SetUpFilename();
   void SelectInitialFile(lumcore::filesupport::File const& inFile);
+  void SelectRow(UIMultiTreeListNode& inRow);
   void EmptyList();
   void ListFiles();
   void NameTyped();

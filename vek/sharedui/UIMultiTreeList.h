@@ -49,8 +49,8 @@ class VEK_API UIMultiTreeList : public lumui::ui::UI_SubView {
   void SetShowHeader(bool inShow);
   float GetHeaderHeight() const { return mHeaderHeight; }
   void SetHeaderHeight(float inHeight);  // units
-  // In place of the columns that there are. Their attributes are their places here, from 0; the
-  // user can show and hide all of them but the first.
+  // In place of the columns that there are. Their attributes are their places here, from
+  // UIMultiTreeListNode::kFirstAttribute; the user can show and hide all of them but the first.
   void SetColumns(std::vector<lumcore::UTF16String> const& inTitles);
   std::vector<lumcore::UTF16String> const& GetColumns() const { return mTitles; }
 

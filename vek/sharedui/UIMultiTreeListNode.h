@@ -18,6 +18,10 @@ class UIMultiTreeListView;
 // controller, it is empty and can be selected. It may outlive its list.
 class VEK_API UIMultiTreeListNode : public hierarchyview::HierarchyEntry, public selection::Node {
  public:
+  // That of column 0, and one more for each. No column has attribute 0: an order by that is none,
+  // and rows that come later would not be put into their places.
+  static constexpr unsigned int kFirstAttribute = 1;
+
   explicit UIMultiTreeListNode(unsigned int inID,
                                hierarchyview::ENodeState inState = hierarchyview::kNodeCollapsed);
 

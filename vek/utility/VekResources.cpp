@@ -38,6 +38,11 @@ const DrawbotImageResourceCache* GetDrawbotImageCache() {
   return sImageCache.Get();
 }
 
+boost::intrusive_ptr<lumui::drawbot::ImageInterface> GetLibraryImage(
+    const lumui::drawbot::SupplierInterface& inSupplier, const lumcore::UTF8String& inName) {
+  return ImageProvider(GetResourceManager(), &inSupplier, GetDrawbotImageCache()).GetImage(inName);
+}
+
 ImageProvider* GetImageProvider() {
   if (!sImageProvider) {
     const lumui::drawbot::SupplierInterface* const supplier = uisupport::FindDrawSupplier();

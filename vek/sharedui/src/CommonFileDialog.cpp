@@ -13,6 +13,7 @@
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/Cursors.h"
+#include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/UI_NodeAdapter.h"
 #include "lumui/utility/ResourceManager.h"
 #include "vek/selection/ActiveManager.h"
@@ -56,7 +57,7 @@ Kind* As(lumui::ui::UI_Node* inNode) {
 
 // In units; the names get what the others leave.
 float GetFirstWidth(unsigned short inColumn) {
-  constexpr float kWidths[] = {200, 60, 70, 110};
+  constexpr float kWidths[] = {200, 48, 52, 108};
   return inColumn < std::size(kWidths) ? kWidths[inColumn] : 100;
 }
 
@@ -133,11 +134,16 @@ void CommonFileDialog::SelectInitialFile(File const& inFile) {
   for (auto const& entry : list.GetRootEntry()->GetChildren()) {
     auto* const row = dynamic_cast<UIMultiTreeListNode*>(entry.get());
     if (!row || row->GetID() >= mFiles.size() || mFiles[row->GetID()].GetName() != name) continue;
-    const std::list<selection::Node*> nodes(1, row);
-    list.GetSelectionManager()->Select(nodes, selection::eDeselectOthers, selection::eSendMessages);
-    list.RevealItemIfNotInView(row);
+    SelectRow(*row);
     return;
   }
+}
+
+void CommonFileDialog::SelectRow(UIMultiTreeListNode& inRow) {
+  UIMultiTreeListView& list = *mFilesList->GetTreeControl();
+  const std::list<selection::Node*> nodes(1, &inRow);
+  list.GetSelectionManager()->Select(nodes, selection::eDeselectOthers, selection::eSendMessages);
+  list.RevealItemIfNotInView(&inRow);
 }
 
 Dir CommonFileDialog::GetDirectory() const {
@@ -208,6 +214,17 @@ bool CommonFileDialog::IsSelectable(UIMultiTreeListView&, UIMultiTreeListNode co
 bool CommonFileDialog::OnDoubleClick(UIMultiTreeListView& inView, UIMultiTreeListNode& inNode) {
   if (!IsOwnList(inView) || inNode.GetID() >= mFiles.size() || !mOKButton) return false;
   if (mOKButton->UI_IsEnabled()) mOKButton->Press();
+  return true;
+}
+
+// Lists leave it alone where nothing is selected, and who has no pointer would be stuck there.
+bool CommonFileDialog::OnKeyEvent(UIMultiTreeListView& inView,
+                                  lumui::ui::KeyboardEvent const& inEvent) {
+  const bool isDown = inEvent.IsActionKeyDown() && inEvent.GetCode().GetControlCode(false) ==
+                                                       lumui::ui::KeyboardCode::kDownArrow;
+  if (!isDown || !IsOwnList(inView) || mFiles.empty() || inView.NumSelectedEntries() > 0)
+    return false;
+  SelectRow(*static_cast<UIMultiTreeListNode*>(inView.GetRootEntry()->GetChildren().front().get()));
   return true;
 }
 

@@ -9,8 +9,6 @@
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/ModifierKeys.h"
 #include "lumui/ui/Theme.h"
-#include "lumui/utility/DrawbotImageResourceCache.h"
-#include "lumui/utility/ResourceManager.h"
 #include "vek/sharedui/src/KeyCapture.h"
 #include "vek/uisupport/KeyCommandManager.h"
 #include "vek/utility/VekResources.h"
@@ -35,11 +33,9 @@ constexpr unsigned short kEllipsis = 0x2026;
 
 boost::intrusive_ptr<lumui::drawbot::ImageInterface> RemoveImage(
     const lumui::drawbot::SupplierInterface& inSupplier) {
-  const auto* const cache = utility::GetDrawbotImageCache();
-  if (!cache) return nullptr;
   const bool light = lumui::ui::Theme::GetBrightness() >= kLightFrom;
-  return cache->GetImage(
-      *utility::GetResourceManager(), inSupplier,
+  return utility::GetLibraryImage(
+      inSupplier,
       lumcore::utility::ToUTF8(std::string_view(light ? "SP_Delete_Xs_N" : "SP_Delete_Xs_N_D")));
 }
 

@@ -123,7 +123,8 @@ void UIMultiTreeList::SetColumns(std::vector<lumcore::UTF16String> const& inTitl
     mList->RemoveColumn(static_cast<unsigned short>(mList->GetNumberOfColumns() - 1));
   MultiColumnHeaderView::ColumnSet columns;
   for (const lumcore::UTF16String& title : mTitles) {
-    const auto attribute = static_cast<unsigned int>(columns.size());
+    const auto attribute =
+        UIMultiTreeListNode::kFirstAttribute + static_cast<unsigned int>(columns.size());
     mList->InsertColumn(attribute, kColumnWidth, kMinColumnWidth, title.c_str(), nullptr);
     columns.emplace_back(attribute, title);
   }

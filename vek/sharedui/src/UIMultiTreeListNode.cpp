@@ -68,8 +68,9 @@ boost::intrusive_ptr<lumui::drawbot::ImageInterface> UIMultiTreeListNode::GetNod
 void UIMultiTreeListNode::GetCellText(unsigned int const& inAttribute,
                                       lumcore::UTF16String& outText) const {
   outText.clear();
-  if (UIMultiTreeListController* const controller = GetController())
-    controller->GetTextForNode(*GetView(), *this, inAttribute, outText);
+  UIMultiTreeListController* const controller = GetController();
+  if (controller && inAttribute >= kFirstAttribute)
+    controller->GetTextForNode(*GetView(), *this, inAttribute - kFirstAttribute, outText);
 }
 
 bool UIMultiTreeListNode::CanExpand() const {

@@ -81,10 +81,11 @@ void UIMultiTreeListView::SetController(UIMultiTreeListController* inController)
 
 void UIMultiTreeListView::Attach(NodeP const& inItem, UIMultiTreeListNode* inParent,
                                  bool inResort) {
-  LUM_INPUT_CONTRACT(inItem && !inItem->GetView());
+  LUM_INPUT_CONTRACT(inItem && !inItem->GetView() && !inItem->GetParent());
   LUM_INPUT_CONTRACT(!inParent || inParent->GetView() == this);
-  InsertEntry(inParent, inItem, inResort);
+  // First, since its place in the order goes by its texts.
   ForEachNode(*inItem, [&](UIMultiTreeListNode& ioNode) { ioNode.mView = mSelf; });
+  InsertEntry(inParent, inItem, inResort);
 }
 
 void UIMultiTreeListView::InsertItem(NodeP const& inItem, UIMultiTreeListNode* inParent) {

@@ -8,7 +8,6 @@
 #include "lumcore/filesupport/File.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
-#include "lumui/utility/DrawbotImageResourceCache.h"
 #include "vek/utility/VekResources.h"
 
 namespace vek::sharedui {
@@ -18,8 +17,7 @@ using lumui::drawbot::SupplierInterface;
 namespace {
 
 ImageP GetImage(SupplierInterface const& inSupplier, const char* inName) {
-  return utility::GetDrawbotImageCache()->GetImage(*utility::GetResourceManager(), inSupplier,
-                                                   lumcore::utility::ToUTF8(inName));
+  return utility::GetLibraryImage(inSupplier, lumcore::utility::ToUTF8(inName));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "lumui/ui/Theme.h"
-#include "lumui/utility/DrawbotImageResourceCache.h"
 #include "vek/hierarchyview/BasicTreeRowGeometry.h"
 #include "vek/hierarchyview/HoldEntry.h"
 #include "vek/hierarchyview/TreeGeometry.h"
@@ -53,9 +52,8 @@ bool IsBelow(HierarchyEntryBase const* inEntry, HierarchyEntryBase const* inTop)
 boost::intrusive_ptr<lumui::drawbot::ImageInterface> GetTwisty(
     lumui::drawbot::SupplierInterface const& inSupplier, std::string const& inName) {
   const bool isDark = lumui::ui::Theme::GetBrightness() < kLightFamily;
-  return utility::GetDrawbotImageCache()->GetImage(
-      *utility::GetResourceManager(), inSupplier,
-      lumcore::utility::ToUTF8(isDark ? inName + "MAC" : inName));
+  return utility::GetLibraryImage(inSupplier,
+                                  lumcore::utility::ToUTF8(isDark ? inName + "MAC" : inName));
 }
 
 }  // namespace

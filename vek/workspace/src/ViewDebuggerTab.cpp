@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <set>
+#include <string>
 
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/ScopedValue.h"
@@ -46,7 +47,21 @@ UTF16String Localized(const char* inKey) {
 constexpr float kMargin = 6;
 constexpr float kButtonHeight = 24;
 constexpr float kButtonWidth = 110;
-constexpr float kColumnWidths[NodeListing::kColumns] = {300, 120, 150, 60, 60, 50, 90};
+constexpr float kColumnWidths[NodeListing::kColumns] = {220, 120, 150, 60, 60, 50, 90};
+
+// The names of classes without their namespaces, of which a panel at the side would show little
+// else. The list that is copied has them.
+std::vector<UTF16String> ShownTexts(const NodeListing::Entry& inEntry) {
+  std::vector<UTF16String> texts = inEntry.texts;
+  std::string name = lumcore::utility::ToStdString(texts[NodeListing::kClass]);
+  for (std::size_t at; (at = name.find("::")) != std::string::npos;) {
+    const std::size_t before = name.find_last_of("<,", at);
+    const std::size_t start = before == std::string::npos ? 0 : before + 1;
+    name.erase(start, at + 2 - start);
+  }
+  texts[NodeListing::kClass] = lumcore::utility::ToUTF16(name);
+  return texts;
+}
 
 }  // namespace
 
@@ -163,7 +178,7 @@ void ViewDebuggerTab::ShowRows(const std::vector<NodeListing::Entry>& inEntries)
       for (int column = 0; column < NodeListing::kColumns; ++column) {
         const auto at = static_cast<std::size_t>(column);
         if (inEntries[i].texts[at] == mEntries[i].texts[at]) continue;
-        mTree->SetText(mRows[i], column, inEntries[i].texts[at]);
+        mTree->SetText(mRows[i], column, ShownTexts(inEntries[i])[at]);
       }
     }
     mEntries = inEntries;
@@ -180,7 +195,7 @@ void ViewDebuggerTab::ShowRows(const std::vector<NodeListing::Entry>& inEntries)
   for (const NodeListing::Entry& entry : mEntries) {
     above.resize(static_cast<std::size_t>(entry.depth));
     const RowID parent = above.empty() ? UI_MultiColumnTree::kNoRow : above.back();
-    mRows.push_back(mTree->AddRow(parent, entry.texts));
+    mRows.push_back(mTree->AddRow(parent, ShownTexts(entry)));
     above.push_back(mRows.back());
     mTree->SetRowOpen(mRows.back(), closed.count(entry.node) == 0);
     if (entry.node == mChosen) mTree->SetSelectedRow(mRows.back());

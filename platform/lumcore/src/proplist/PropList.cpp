@@ -16,10 +16,27 @@ namespace lumcore::proplist {
 
 namespace {
 
+// Most lists are so short that a walk finds a key sooner than an index, which would cost more than
+// the entries.
+constexpr std::size_t kMostWithoutIndex = 8;
+
 using ListPair = std::pair<const PropList*, const PropList*>;
 
 std::string_view AsBytes(const UTF8String& inText) {
   return {reinterpret_cast<const char*>(inText.data()), inText.size()};
+}
+
+// The index is of all entries, or of none.
+template <class Index>
+PropList::const_iterator Locate(const std::list<PropList::Entry>& inEntries, const Index& inIndex,
+                                std::string_view inKey) {
+  if (inIndex.empty()) {
+    return std::find_if(inEntries.begin(), inEntries.end(), [&](const PropList::Entry& inEntry) {
+      return AsBytes(inEntry.key) == inKey;
+    });
+  }
+  const auto found = inIndex.find(inKey);
+  return found == inIndex.end() ? inEntries.end() : PropList::const_iterator(found->second);
 }
 
 bool IsSame(float inA, float inB) {
@@ -132,14 +149,13 @@ PropList& PropList::CreateSubList(Key inKey) {
 }
 
 bool PropList::Has(Key inKey) const {
-  return mIndex.count(inKey.GetBytes()) != 0;
+  return FindEntry(inKey) != nullptr;
 }
 
 bool PropList::Remove(Key inKey) {
-  const auto found = mIndex.find(inKey.GetBytes());
-  if (found == mIndex.end()) return false;
-  const auto entry = found->second;
-  mIndex.erase(found);
+  const auto entry = Locate(mEntries, mIndex, inKey.GetBytes());
+  if (entry == mEntries.end()) return false;
+  mIndex.erase(inKey.GetBytes());
   mEntries.erase(entry);
   return true;
 }
@@ -159,8 +175,8 @@ void PropList::Clear() {
 }
 
 const PropList::Entry* PropList::FindEntry(Key inKey) const {
-  const auto found = mIndex.find(inKey.GetBytes());
-  return found == mIndex.end() ? nullptr : &*found->second;
+  const auto found = Locate(mEntries, mIndex, inKey.GetBytes());
+  return found == mEntries.end() ? nullptr : &*found;
 }
 
 PropList::Entry* PropList::FindEntry(Key inKey) {
@@ -172,7 +188,16 @@ PropList::Entry& PropList::NeedEntry(Key inKey) {
   const std::string_view bytes = inKey.GetBytes();
   std::list<Entry> fresh;
   fresh.push_back({UTF8String(bytes.begin(), bytes.end()), Value()});
-  mIndex.emplace(AsBytes(fresh.back().key), fresh.begin());
+  if (!mIndex.empty()) {
+    mIndex.emplace(AsBytes(fresh.back().key), fresh.begin());
+  } else if (mEntries.size() >= kMostWithoutIndex) {
+    decltype(mIndex) index;
+    for (std::list<Entry>* const part : {&mEntries, &fresh}) {
+      for (auto at = part->begin(); at != part->end(); ++at)
+        index.emplace(AsBytes(at->key), at);
+    }
+    mIndex.swap(index);
+  }
   mEntries.splice(mEntries.end(), fresh);
   return mEntries.back();
 }

@@ -3,14 +3,19 @@
 
 #include "lumui/controls/UI_ScrollView.h"
 
+#include <QPalette>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
 
 #include "controls/ScrollBarPeer.h"
+#include "drawbot/QtConvert.h"
 #include "lumcore/debug/Contract.h"
 #include "lumui/controls/UI_ScrollBar.h"
+#include "lumui/drawbot/Drawbot.h"
 #include "lumui/ui/PointerEvent.h"
+#include "lumui/ui/Theme.h"
+#include "lumui/ui/ThemeColors.h"
 
 namespace lumui::controls {
 
@@ -48,19 +53,37 @@ double Revealed(double inOffset, double inViewed, double inStart, double inSize)
 
 }  // namespace
 
+// Where both bars end neither they nor the content have anything to show or to take.
+class UI_ScrollView::Corner : public ui::UI_SubView {
+ public:
+  // A disabled node passes presses on to its parent, and not to what lies behind it.
+  Corner() { UI_SetDisabled(true); }
+  void UI_Draw(drawbot::Drawbot* inDrawbot) const override {
+    const auto theme = ui::Theme::Get();
+    const QPalette& palette = GetPeer()->GetWidget()->palette();
+    inDrawbot->FillRect(inDrawbot->GetClipBounds(),
+                        theme && theme->HasColor(ui::themev5::kColor_ScrollTrack)
+                            ? theme->GetColor(ui::themev5::kColor_ScrollTrack)
+                            : drawbot::FromQt(palette.color(QPalette::Window)));
+  }
+};
+
 UI_ScrollView::UI_ScrollView(lumcore::utility::Flags<unsigned int> inFlags,
                              const boost::intrusive_ptr<ui::UI_Node>& inContent)
     : mFlags(inFlags),
       mContent(inContent),
       mBarX(new UI_ScrollBar(true)),
-      mBarY(new UI_ScrollBar(false)) {
+      mBarY(new UI_ScrollBar(false)),
+      mCorner(new Corner) {
   LUM_INPUT_CONTRACT(inContent != nullptr);
   mBarX->UI_Show(false);
   mBarY->UI_Show(false);
+  mCorner->UI_Show(false);
   // The bars lie over the content, so they come behind it.
   UI_AddChild(mContent);
   UI_AddChild(mBarX);
   UI_AddChild(mBarY);
+  UI_AddChild(mCorner);
 }
 
 UI_ScrollView::~UI_ScrollView() {
@@ -109,6 +132,8 @@ void UI_ScrollView::PlaceBars() {
   const float roomY = std::max(0.0f, area.height - (needX ? thickX : 0));
   mBarX->UI_SetLocalRectF(Rect(0, area.height - thickX, roomX, thickX));
   mBarY->UI_SetLocalRectF(Rect(area.width - thickY, 0, thickY, roomY));
+  mCorner->UI_SetLocalRectF(Rect(roomX, roomY, thickY, thickX));
+  if (mCorner->UI_IsVisible() != (needX && bothY)) mCorner->UI_Show(needX && bothY);
   if (mBarX->UI_IsVisible() != needX) mBarX->UI_Show(needX);
   if (mBarY->UI_IsVisible() != bothY) mBarY->UI_Show(bothY);
 }
@@ -181,10 +206,8 @@ bool UI_ScrollView::MovePicture(const Point& inOldOffset) {
     const bool stays = rect.intersects(rect.translated(pixels));
     stays ? widget->scroll(pixels.x(), pixels.y(), rect) : widget->update(rect);
   }
-  // Something may be seen through what covers it. Of the rest, the corner between the ends of the
-  // bars is the only part that they leave free.
+  // Something may be seen through what covers it. The rest is covered by the bars and their corner.
   widget->update(covered);
-  widget->update(QRect(area.bottomRight() + QPoint(1, 1), widget->rect().bottomRight()));
   return true;
 }
 

@@ -56,6 +56,17 @@ std::vector<const PropList*> Counted(const PropList& inList, const char* inWord,
   return lists;
 }
 
+// What is below the node is never copied: it may be the whole archive.
+PropList WithoutChildren(const PropList& inSection) {
+  static const UTF8String kChildren = lumcore::utility::ToUTF8("children");
+  PropList section;
+  for (const PropList::Entry& entry : inSection) {
+    if (entry.key == kChildren) continue;
+    std::visit([&](const auto& inValue) { section.Set(entry.key, inValue); }, entry.value);
+  }
+  return section;
+}
+
 // Known before any node is made, so that the errors of its making can name it.
 UTF16String IDIn(const PropList& inNode) {
   const PropList* const sections = inNode.GetSubList("sections");
@@ -126,10 +137,9 @@ boost::intrusive_ptr<UI_Node> UI_NodeBuilder::BuildNode(
   auto archived = std::make_unique<PropList>();
   archived->Set("adapter", *name);
   std::vector<PropList> withoutChildren;
-  for (const PropList* section : sections) {
-    withoutChildren.push_back(*section);
-    withoutChildren.back().Remove("children");
-  }
+  withoutChildren.reserve(sections.size());
+  for (const PropList* section : sections)
+    withoutChildren.push_back(WithoutChildren(*section));
   archived->Set("sections", std::move(withoutChildren));
   node->GetPeer()->SetArchived(std::move(archived));
   for (const PropList* section : sections)

@@ -68,6 +68,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
 
  private:
   friend class UI_ScrollBar;
+  class Corner;
 
   // A move by the user along one axis, in units; tells the listeners if anything moved.
   void ScrollByUser(bool inHorizontal, double inDistance);
@@ -84,6 +85,7 @@ class LUMUI_API UI_ScrollView : public ui::UI_SubView {
   boost::intrusive_ptr<ui::UI_Node> mContent;
   boost::intrusive_ptr<UI_ScrollBar> mBarX;
   boost::intrusive_ptr<UI_ScrollBar> mBarY;
+  boost::intrusive_ptr<Corner> mCorner;  // between the ends of the bars
   lumcore::geom::RectT<float> mContentRect;
   lumcore::geom::PointT<double> mWanted;  // with the fractions that are less than a device's unit
   lumcore::geom::PointT<double> mOffset;

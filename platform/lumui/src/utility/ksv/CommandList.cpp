@@ -10,6 +10,7 @@
 #include "lumui/controls/UI_ScrollBar.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/ui/AccessibleList.h"
 #include "lumui/ui/Fonts.h"
 #include "lumui/ui/InputCapture.h"
 #include "lumui/ui/KeyboardEvent.h"
@@ -82,11 +83,64 @@ class CommandList::Drag : public ui::InputCapture {
   bool mDragging = false;
 };
 
+// The rows as a list, in which categories are texts alone.
+class CommandList::Accessible : public ui::AccessibleList {
+ public:
+  Accessible(ui::UI_Node& inContent, CommandList*& inList)
+      : AccessibleList(inContent), mContent(inContent), mList(inList) {}
+
+ protected:
+  std::size_t DoCount() const override { return mList->mRows.size(); }
+  ui::AccessibleItem DoDescribe(std::size_t inRow) const override {
+    const Row& row = mList->mRows[inRow];
+    ui::AccessibleItem item;
+    item.role = row.command ? ui::AccessibleRole::kListItem : ui::AccessibleRole::kText;
+    item.name = row.text;
+    item.rect = mList->RectOf(inRow);
+    if (!row.command) return item;
+    item.value = row.keys;
+    item.description = row.command->description;
+    item.actions = ui::kAccessiblePress | ui::kAccessibleSelect | ui::kAccessibleShow;
+    item.states = ui::kAccessibleSelectable | ui::kAccessibleFocusable;
+    if (row.command->id == mList->mSelected) item.states |= ui::kAccessibleSelected;
+    if (DoFindFocus() == inRow) item.states |= ui::kAccessibleFocused;
+    return item;
+  }
+  Index DoFindAt(const PointT<float>& inPosition) const override {
+    const float row = inPosition.y / kRowHeight;
+    if (row < 0 || row >= static_cast<float>(DoCount())) return std::nullopt;
+    return static_cast<std::size_t>(row);
+  }
+  Index DoFindFocus() const override {
+    return mContent.UI_HasKeyboardFocus() ? mList->FindRow(mList->mSelected) : std::nullopt;
+  }
+  bool DoPerform(std::size_t inRow, ui::AccessibleAction inAction) override {
+    const Command* const command = mList->mRows[inRow].command;
+    if (!command) return false;
+    const boost::intrusive_ptr<CommandList> list = mList;
+    const int id = command->id;
+    if (inAction == ui::kAccessibleShow) {
+      list->ScrollIntoView(list->RectOf(inRow), false);
+      return true;
+    }
+    list->SelectCommand(id);
+    const auto activated = list->mActivated;
+    if (inAction == ui::kAccessiblePress && activated) activated();
+    return true;
+  }
+
+ private:
+  ui::UI_Node& mContent;
+  CommandList*& mList;
+};
+
 // Draws the rows and takes what the user does with them.
 class CommandList::Content : public ui::UI_SubView {
  public:
-  Content() { UI_SetWantsKeyboardFocus(true); }
+  Content() : mAccessible(*this, mList) { UI_SetWantsKeyboardFocus(true); }
   CommandList* mList = nullptr;
+  Accessible mAccessible;
+  ui::AccessibleItems* UI_GetAccessibleItems() override { return mList ? &mAccessible : nullptr; }
 
   void UI_Draw(drawbot::Drawbot* inDrawbot) const override;
   bool UI_DoMouseEvent(ui::UI_Node*, const ui::MouseEvent& inEvent) override;
@@ -230,6 +284,7 @@ void CommandList::BuildRows() {
   SetContentRectF(RectT<float>(0, 0, 1, kRowHeight * static_cast<float>(mRows.size())));
   Update();
   GetContentNode()->UI_InvalidateAll();
+  static_cast<Content*>(GetContentNode())->mAccessible.Notify(ui::AccessibleChange::kItems);
   if (mSelected != 0 && !isSelectedShown) Choose(0);
 }
 
@@ -249,17 +304,26 @@ void CommandList::Choose(int inCommand) {
   if (inCommand == mSelected) return;
   mSelected = inCommand;
   GetContentNode()->UI_InvalidateAll();
+  auto& content = static_cast<Content&>(*GetContentNode());
+  content.mAccessible.Notify(ui::AccessibleChange::kSelection, FindRow(inCommand));
+  if (content.UI_HasKeyboardFocus())
+    content.mAccessible.Notify(ui::AccessibleChange::kFocus, FindRow(inCommand));
   const auto changed = mChanged;
   if (changed) changed();
 }
 
-void CommandList::SelectCommand(int inCommand) {
+std::optional<std::size_t> CommandList::FindRow(int inCommand) const {
   for (std::size_t i = 0; i < mRows.size(); ++i) {
-    if (!mRows[i].command || mRows[i].command->id != inCommand) continue;
-    Choose(inCommand);
-    ScrollIntoView(RectOf(i), false);
-    return;
+    if (mRows[i].command && mRows[i].command->id == inCommand) return i;
   }
+  return std::nullopt;
+}
+
+void CommandList::SelectCommand(int inCommand) {
+  const std::optional<std::size_t> row = FindRow(inCommand);
+  if (!row) return;
+  Choose(inCommand);
+  ScrollIntoView(RectOf(*row), false);
 }
 
 void CommandList::Walk(int inStep) {

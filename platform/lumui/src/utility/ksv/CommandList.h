@@ -4,6 +4,7 @@
 #pragma once
 
 #include <boost/function.hpp>
+#include <optional>
 #include <vector>
 
 #include "lumui/controls/UI_ScrollView.h"
@@ -36,6 +37,7 @@ class CommandList : public controls::UI_ScrollView {
   void SetDragFunction(const DragFunction& inFunction) { mDrag = inFunction; }
 
  private:
+  class Accessible;
   class Content;
   class Drag;
   struct Row {
@@ -46,6 +48,7 @@ class CommandList : public controls::UI_ScrollView {
 
   void BuildRows();
   lumcore::geom::RectT<float> RectOf(std::size_t inRow) const;
+  std::optional<std::size_t> FindRow(int inCommand) const;
   void Choose(int inCommand);
   void Walk(int inStep);
 

@@ -9,6 +9,7 @@
 
 #include "lumcore/utility/RefCounted.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/ui/AccessibleList.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/PointerEvent.h"
 
@@ -40,13 +41,66 @@ PointT<float> MiddleOf(const RectT<float>& inRect) {
 
 }  // namespace
 
+// The keys as buttons, each with its cap and what it does with the present modifiers.
+class KeyboardView::Accessible : public ui::AccessibleList {
+ public:
+  explicit Accessible(KeyboardView& inView) : AccessibleList(inView), mView(inView) {}
+
+ protected:
+  std::size_t DoCount() const override { return mView.mKeys.size(); }
+  ui::AccessibleItem DoDescribe(std::size_t inKey) const override {
+    const KeyShape& key = mView.mKeys[inKey];
+    const bool isModifier = !key.modifier.IsEmpty();
+    ui::AccessibleItem item;
+    item.role = ui::AccessibleRole::kButton;
+    item.name = key.cap;
+    item.rect = mView.Placed(key.rect);
+    const auto found = mView.mCommands.find(mView.mUses[inKey].command);
+    if (found != mView.mCommands.end()) {
+      item.value = found->second.name;
+      item.description = mView.PathOf(found->second);
+    }
+    if (!isModifier && key.code == KeyboardCode()) {
+      item.states = ui::kAccessibleDisabled;
+      return item;
+    }
+    item.actions = ui::kAccessiblePress;
+    item.states = ui::kAccessibleSelectable | (isModifier ? 0u : ui::kAccessibleFocusable);
+    const bool isOn = isModifier && mView.GetModifiers().HasAny(key.modifier.GetBits());
+    if (isOn || mView.mSelected == inKey) item.states |= ui::kAccessibleSelected;
+    if (DoFindFocus() == inKey) item.states |= ui::kAccessibleFocused;
+    return item;
+  }
+  Index DoFindAt(const PointT<float>& inPosition) const override {
+    return mView.FindAt(inPosition);
+  }
+  Index DoFindFocus() const override {
+    return mView.UI_HasKeyboardFocus() ? mView.mSelected : std::nullopt;
+  }
+  bool DoPerform(std::size_t inKey, ui::AccessibleAction inAction) override {
+    if (inAction != ui::kAccessiblePress || DoDescribe(inKey).actions == 0) return false;
+    mView.PressKey(inKey);
+    return true;
+  }
+
+ private:
+  KeyboardView& mView;
+};
+
 KeyboardView::KeyboardView(const IDelegateInterface& inDelegate)
-    : mDelegate(inDelegate), mForm(GetLikelyForm()), mKeys(MakeKeyboard(mForm)) {
+    : mDelegate(inDelegate),
+      mForm(GetLikelyForm()),
+      mKeys(MakeKeyboard(mForm)),
+      mAccessible(std::make_unique<Accessible>(*this)) {
   UI_SetWantsKeyboardFocus(true);
   Refresh();
 }
 
 KeyboardView::~KeyboardView() = default;
+
+ui::AccessibleItems* KeyboardView::UI_GetAccessibleItems() {
+  return mAccessible.get();
+}
 
 void KeyboardView::SetForm(KeyboardForm inForm) {
   mForm = inForm;
@@ -72,6 +126,7 @@ void KeyboardView::Refresh() {
   }
   ShowToolTip();
   UI_InvalidateAll();
+  mAccessible->Notify(ui::AccessibleChange::kItems);
 }
 
 KeyboardCode KeyboardView::GetSelectedKey() const {
@@ -145,8 +200,10 @@ void KeyboardView::Changed() {
 }
 
 void KeyboardView::Choose(Index inKey) {
+  const lumcore::utility::StKeepAlive keepAlive(*this);
   mSelected = inKey;
   Changed();
+  if (UI_HasKeyboardFocus()) mAccessible->Notify(ui::AccessibleChange::kFocus, mSelected);
 }
 
 bool KeyboardView::UI_DoMouseEvent(ui::UI_Node*, const ui::MouseEvent& inEvent) {
@@ -162,15 +219,19 @@ bool KeyboardView::UI_DoMouseEvent(ui::UI_Node*, const ui::MouseEvent& inEvent) 
   if (inEvent.GetAction() != PointerEvent::kActionPress) return false;
   UI_SetKeyboardFocus(ui::kFocusPointer);
   if (!key || !inEvent.IsButton(PointerEvent::kLeftButton)) return true;
-  const unsigned char modifier = mKeys[*key].modifier.GetBits();
+  PressKey(*key);
+  return true;
+}
+
+void KeyboardView::PressKey(std::size_t inKey) {
+  const unsigned char modifier = mKeys[inKey].modifier.GetBits();
   if (modifier != 0) {
     const bool on = mSwitched.Has(modifier);
     on ? mSwitched.Clear(modifier) : mSwitched.Set(modifier);
     Changed();
-  } else if (mKeys[*key].code != KeyboardCode()) {
-    Choose(key);
+  } else if (mKeys[inKey].code != KeyboardCode()) {
+    Choose(inKey);
   }
-  return true;
 }
 
 bool KeyboardView::UI_DoKeyboardEvent(ui::UI_Node*, const ui::KeyboardEvent& inEvent) {
@@ -256,6 +317,11 @@ void KeyboardView::UI_FocusChanged(int) {
   UI_InvalidateAll();
 }
 
+lumcore::UTF16String KeyboardView::PathOf(const Command& inCommand) {
+  if (inCommand.category.empty()) return inCommand.name;
+  return inCommand.category + lumcore::utility::ToUTF16(" > ") + inCommand.name;
+}
+
 void KeyboardView::ShowToolTip() {
   lumcore::UTF16String text;
   const int command = mHovered ? mUses[*mHovered].command : 0;
@@ -263,9 +329,7 @@ void KeyboardView::ShowToolTip() {
   if (found != mCommands.end()) {
     const Command& known = found->second;
     text = mDelegate.GetKeyText(mKeys[*mHovered].code, GetModifiers());
-    text += lumcore::utility::ToUTF16(": ");
-    if (!known.category.empty()) text += known.category + lumcore::utility::ToUTF16(" > ");
-    text += known.name;
+    text += lumcore::utility::ToUTF16(": ") + PathOf(known);
   }
   if (text != UI_GetToolTip()) UI_SetToolTip(text);
 }

@@ -5,6 +5,7 @@
 
 #include <boost/function.hpp>
 #include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -54,8 +55,10 @@ class LUMUI_API KeyboardView : public ui::UI_SubView {
   bool UI_DoMouseEvent(ui::UI_Node* inNode, const ui::MouseEvent& inEvent) override;
   bool UI_DoKeyboardEvent(ui::UI_Node* inNode, const ui::KeyboardEvent& inEvent) override;
   void UI_FocusChanged(int inReason) override;
+  ui::AccessibleItems* UI_GetAccessibleItems() override;
 
  private:
+  class Accessible;
   using Index = std::optional<std::size_t>;
 
   float GetPitch() const;  // in units: how wide a letter's key is
@@ -63,10 +66,12 @@ class LUMUI_API KeyboardView : public ui::UI_SubView {
   Index FindAt(const lumcore::geom::PointT<float>& inPoint) const;
   Index FindKey(ui::KeyboardCode inCode) const;
   void Choose(Index inKey);
+  void PressKey(std::size_t inKey);
   void Walk(float inX, float inY);
   bool HandleWalk(unsigned short inControlCode);
   bool HandleModifierKey(unsigned short inControlCode, bool inDown);
   void Changed();
+  static lumcore::UTF16String PathOf(const Command& inCommand);
   void ShowToolTip();
   void DrawKey(drawbot::Drawbot& ioDrawbot, std::size_t inKey) const;
   void DrawUse(drawbot::Drawbot& ioDrawbot, const lumcore::geom::RectT<float>& inRect,
@@ -84,6 +89,7 @@ class LUMUI_API KeyboardView : public ui::UI_SubView {
   Index mDrop;
   boost::function<void()> mChanged;
   boost::function<void(bool)> mAction;
+  std::unique_ptr<Accessible> mAccessible;
 };
 
 }  // namespace lumui::utility::ksv
