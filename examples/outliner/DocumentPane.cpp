@@ -112,8 +112,8 @@ void DocumentPane::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
   const float top = TitleStrip::kHeight + kFindBand;
   const float rows = std::max(0.0f, inRect.height - top - StatusLine::kHeight);
   mTitleStrip->UI_SetLocalRectF({0, 0, inRect.width, TitleStrip::kHeight});
-  mFind->UI_SetLocalRectF({kFindMargin, TitleStrip::kHeight + kFindMargin,
-                           std::min(kMostFindWidth, std::max(0.0f, inRect.width - 2 * kFindMargin)),
+  mFind->UI_SetLocalRectF({kFindLeft, TitleStrip::kHeight + kFindMargin,
+                           std::min(kMostFindWidth, std::max(0.0f, inRect.width - 2 * kFindLeft)),
                            kFindHeight});
   mList->UI_SetLocalRectF({0, top, inRect.width, rows});
   mStatusLine->UI_SetLocalRectF({0, top + rows, inRect.width, StatusLine::kHeight});

@@ -18,4 +18,9 @@ std::list<vek::selection::Node*> OutlineJunction::DefaultSelectables() {
   return {lines.front()};
 }
 
+// All nodes of the manager are rows, and the cast only reckons with the address.
+bool OutlineJunction::Knows(const vek::selection::Node* inNode) {
+  return mTree->Contains(static_cast<const OutlineRow*>(inNode));
+}
+
 }  // namespace outliner

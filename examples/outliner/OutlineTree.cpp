@@ -4,6 +4,7 @@
 #include "OutlineTree.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -70,6 +71,19 @@ OutlineRow* OutlineTree::FindRow(OutlineRow::Id inId) const {
   return inId < mRowsById.size() ? mRowsById[inId] : nullptr;
 }
 
+bool OutlineTree::Contains(const OutlineRow* inRow) const {
+  constexpr int kFewQuestions = 16;
+  if (mAddresses.empty() && ++mAddressQuestions <= kFewQuestions) {
+    return std::find(mRowsById.begin() + 1, mRowsById.end(), inRow) != mRowsById.end();
+  }
+  if (mAddresses.empty()) {
+    mAddresses.assign(GetLines().begin(), GetLines().end());
+    std::sort(mAddresses.begin(), mAddresses.end(), std::less<const OutlineRow*>());
+  }
+  return std::binary_search(mAddresses.begin(), mAddresses.end(), inRow,
+                            std::less<const OutlineRow*>());
+}
+
 const std::vector<OutlineRow*>& OutlineTree::GetLines() const {
   if (!mLinesKnown) {
     mLines.clear();
@@ -119,6 +133,7 @@ OutlineRow& OutlineTree::AppendRow(OutlineRow& inParent) {
   row->mIndex = static_cast<std::uint32_t>(inParent.mChildren.size());
   mRowsById.push_back(row.get());
   mLinesKnown = false;
+  mAddresses.clear();
   inParent.mChildren.push_back(std::move(row));
   return *inParent.mChildren.back();
 }
@@ -167,6 +182,8 @@ void OutlineTree::MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std:
 
 void OutlineTree::RowsChanged(const OutlineRow& inParent) {
   mLinesKnown = false;
+  mAddresses.clear();
+  mAddressQuestions = 0;
   if (mChanged) mChanged(inParent);
 }
 

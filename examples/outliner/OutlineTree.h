@@ -55,6 +55,10 @@ class OutlineTree {
   // Null for a row that is not in the tree now.
   OutlineRow* FindRow(OutlineRow::Id inId) const;
 
+  // Whether it is a row of the tree now, other than the root. One that has gone may be asked about:
+  // only the address is looked at. Asked often, it costs a search in all addresses.
+  bool Contains(const OutlineRow* inRow) const;
+
   // All rows but the root in document order. The list is made anew after rows have come, gone or
   // moved, and stays as it is until then.
   const std::vector<OutlineRow*>& GetLines() const;
@@ -141,6 +145,9 @@ class OutlineTree {
   OutlineLayout mLayout;
   mutable std::vector<OutlineRow*> mLines;
   mutable bool mLinesKnown = true;
+  // Sorted, once they are asked for often enough since rows have come or gone; else empty.
+  mutable std::vector<const OutlineRow*> mAddresses;
+  mutable int mAddressQuestions = 0;
 };
 
 }  // namespace outliner

@@ -58,9 +58,9 @@ try {
 }
 
 // Rows in two places are selected, and each place moves its rows up.
-Outliner.click(300, 188);
-Outliner.click(300, 332, "Ctrl");
-Outliner.click(300, 356, "Ctrl");
+Outliner.click(300, 216);
+Outliner.click(300, 330, "Ctrl");
+Outliner.click(300, 348, "Ctrl");
 Outliner.print("selected: " + Outliner.selection);
 Outliner.key("Alt+Up");
 Outliner.picture("build/run/outliner.png");
