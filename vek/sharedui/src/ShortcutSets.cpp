@@ -109,9 +109,6 @@ void ShortcutEditor::FillSets() {
   const lumcore::UTF8String before = mItems.empty() ? mSnapshot : LiveKeys();
   mItems.swap(items);
   LoadCurrentSet(before);
-  // What is to be undone was done to other mappings.
-  mUndoKind = kNothing;
-  mRemovedKeys.clear();
   mView.SetSetItems(mItems);
   ShowSetState(IndexOfCurrentSet());
   RefreshAllShortcuts(mCaches);
@@ -133,8 +130,6 @@ void ShortcutEditor::ShowSetState(int inIndex) {
 void ShortcutEditor::SetChosen() {
   const int chosen = mView.GetSetIndex();
   if (chosen < 0 || chosen >= static_cast<int>(mItems.size())) return;
-  // Saving fills the popup anew.
-  const UTF16String name = mItems[static_cast<std::size_t>(chosen)];
   if (mDirty || mCustom) {
     using Answer = ShortcutEditorView::Answer;
     Answer answer = mView.Ask(LocalizedText(ShortcutText::kSaveSet), true);
@@ -147,7 +142,10 @@ void ShortcutEditor::SetChosen() {
   }
   const bool custom = std::exchange(mCustom, false);
   const bool dirty = std::exchange(mDirty, false);
-  const UTF16String before = std::exchange(mCurrentSet, chosen == 0 ? UTF16String() : name);
+  // Saving under a name fills the popup anew and chooses that set, which is the one to go on with.
+  const int shown = mView.GetSetIndex();
+  const UTF16String name = shown > 0 ? mItems[static_cast<std::size_t>(shown)] : UTF16String();
+  const UTF16String before = std::exchange(mCurrentSet, name);
   mGotoCommand = -1;
   try {
     FillSets();

@@ -158,8 +158,9 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_D
   void UI_UpdateNow(lumcore::utility::Flags<unsigned int> inFlags);
 
   // Between the node's local coordinates (scrolling not counted) and those of the top-level window,
-  // which begin below its menu bar, as the positions of the pointer do. Outside a window the topmost
-  // ancestor stands for it. To the screen it is one step more: OS_Window::UI_WindowToScreen.
+  // which begin below its menu bar, as the positions of the pointer do. Outside a window the
+  // topmost ancestor stands for it. To the screen it is one step more:
+  // OS_Window::UI_WindowToScreen.
   void UI_LocalToGlobal(lumcore::geom::PointT<int>& ioPoint) const;
   void UI_GlobalToLocal(lumcore::geom::PointT<int>& ioPoint) const;
 
