@@ -3,6 +3,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QImage>
+#include <QScreen>
 #include <QWidget>
 
 #include "UITest.h"
@@ -63,6 +65,12 @@ class Controls : public UITest {
   }
   void Tap(unsigned short inCode, unsigned char inModifiers = 0) {
     input::TapKey(*mWindow, Key(inCode), ui::ModifierKeys(inModifiers));
+  }
+
+  // What stands on the screen, without painting it anew.
+  static QImage Screenshot() {
+    const QWidget* const window = QApplication::activeWindow();
+    return window->screen()->grabWindow(window->winId()).toImage();
   }
 
   boost::intrusive_ptr<ui::OS_Window> mWindow = MakeWindow();
@@ -224,6 +232,22 @@ TEST_F(Controls, KeepTheirStateWithoutAWindow) {
   Tap(KeyboardCode::kUpArrow);
   EXPECT_EQ(lumcore::utility::ToStdString(edit->GetText()), "ab-");
   EXPECT_EQ(TakeLog(), "box=up box*2 popup=1green popup*2 parent<popup:up(2c)");
+}
+
+TEST_F(Controls, ShowAnotherPlaceholderAtOnce) {
+  for (const bool area : {false, true}) {
+    const auto edit = Add<UI_TextEdit>("edit", Rect(0, 0, 190, 40), area);
+    std::vector<QImage> shown;
+    for (const char* text : {"Nothing is open", "Select a row", "Select a row", ""}) {
+      edit->SetPlaceholder(U16(text));
+      App().PumpPendingEvents();
+      shown.push_back(Screenshot());
+    }
+    EXPECT_NE(shown[0], shown[1]) << area;
+    EXPECT_EQ(shown[1], shown[2]) << area;
+    EXPECT_NE(shown[2], shown[3]) << area;
+    mParent->UI_RemoveChild(edit.get());
+  }
 }
 
 TEST_F(Controls, PopupsShowTextsThatAreNoItems) {

@@ -221,7 +221,10 @@ void UI_TextEdit::DoShowState() {
   auto* const area = static_cast<QPlainTextEdit*>(widget);
   if (TextOf(*area) != text) area->setPlainText(text);
   area->setReadOnly(mReadOnly);
-  area->setPlaceholderText(drawbot::ToQt(mPlaceholder));
+  // Qt paints a text area anew when its placeholder comes or goes, but not for another one.
+  const QString placeholder = drawbot::ToQt(mPlaceholder);
+  if (area->placeholderText() != placeholder) area->viewport()->update();
+  area->setPlaceholderText(placeholder);
   QTextCursor cursor = area->textCursor();
   if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
   cursor.setPosition(start);
