@@ -21,8 +21,6 @@ vek_test(outliner_tests
     hosts/SearchTest.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core)
-vek_embed_resources(outliner_tests
-  FILES ${PROJECT_SOURCE_DIR}/examples/outliner/resources/DefaultKeyMap.xml)
 
 add_test(NAME outliner_program COMMAND ${CMAKE_COMMAND}
   -DPROGRAM=$<TARGET_FILE:vek_outliner> -DSOURCE_DIR=${PROJECT_SOURCE_DIR}
