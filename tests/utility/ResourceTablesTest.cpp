@@ -96,7 +96,7 @@ TEST(ResourceTables, ThemesUseTheNumbersAndPositionsThatAreKnown) {
         {"Color_ToolTipText", "5000089"},
         {"Color_Gray_Darkest_01", "0.0863"},
         {"Color_Gray_Lightest_10", "0.1725"},
-        {"Theme_General", "0.0000"},
+        {"General", "0.0000"},
         {"Theme_Darkest", "0.0000"},
         {"Theme_Dark", "0.5000"},
         {"Theme_Light", "0.5001"},
@@ -117,7 +117,7 @@ TEST(ResourceTables, ThemesUseTheNumbersAndPositionsThatAreKnown) {
     }
   }
   EXPECT_EQ(QString::fromStdString(vek::test::ThemeDocument("HighContrastColorThemeV5"))
-                .count("<Theme t=\"&kTheme_General;\">"),
+                .count("<Theme t=\"&General;\">"),
             2);
 }
 
