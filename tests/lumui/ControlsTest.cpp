@@ -198,6 +198,17 @@ TEST_F(Controls, TextFieldsTellEditsAndCommits) {
   EXPECT_EQ(TakeLog(), "next=a next*1 next=a\n next*1 next=a\n next*2 parent<edit:up(3)");
 }
 
+TEST_F(Controls, LongTextsAreEditedWhole) {
+  const auto edit = Add<UI_TextEdit>("edit", Rect(0, 0, 90, 20));
+  edit->SetText(lumcore::UTF16String(50000, 'a'));
+  edit->UI_SetKeyboardFocus(ui::kFocusOther);
+  input::TypeText(*mWindow, U16("b"));
+  EXPECT_EQ(edit->GetText().size(), 50001u);
+  Tap(KeyboardCode::kHome);
+  Tap(KeyboardCode::kDelete);
+  EXPECT_EQ(edit->GetText(), lumcore::UTF16String(49999, 'a') + U16("b"));
+}
+
 TEST_F(Controls, KeepTheirStateWithoutAWindow) {
   const auto edit = Add<UI_TextEdit>("edit", Rect(0, 0, 90, 20));
   const auto popup = Add<UI_Popup>("popup", Rect(0, 20, 90, 20));

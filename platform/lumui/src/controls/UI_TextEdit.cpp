@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 #include "controls/ControlPeer.h"
@@ -68,6 +69,8 @@ class TextEditPeer : public ControlPeer {
 
   QWidget* MakeLineEdit(QWidget* inParent) {
     auto* const edit = new ControlWidgetT<LineEdit, QStyleOptionFrame>(*this, inParent);
+    // Of a longer text the rest would be lost with the first edit.
+    edit->setMaxLength(std::numeric_limits<int>::max());
     edit->mOnEnter = [this] {
       ByUser([&] { Edit().Commit(); });
       return !IsInDialog() && !Edit().LeavesLineKeys();
