@@ -3,6 +3,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QWidget>
 
 #include "UITest.h"
@@ -207,6 +209,32 @@ TEST_F(Controls, LongTextsAreEditedWhole) {
   Tap(KeyboardCode::kHome);
   Tap(KeyboardCode::kDelete);
   EXPECT_EQ(edit->GetText(), lumcore::UTF16String(49999, 'a') + U16("b"));
+}
+
+TEST_F(Controls, APlaceholderThatShowsIsDrawnAnewWhenItChanges) {
+  struct PaintCounter : QObject {
+    bool eventFilter(QObject*, QEvent* inEvent) override {
+      paints += inEvent->type() == QEvent::Paint ? 1 : 0;
+      return false;
+    }
+    int paints = 0;
+  };
+  for (const bool multiLine : {false, true}) {
+    const auto edit = Add<UI_TextEdit>("edit", Rect(0, 0, 90, 60), multiLine);
+    edit->SetPlaceholder(U16("nothing"));
+    App().PumpPendingEvents();
+    PaintCounter counter;
+    for (QWidget* const widget : QApplication::allWidgets()) {
+      auto* const area = qobject_cast<QPlainTextEdit*>(widget);
+      if (area || qobject_cast<QLineEdit*>(widget)) {
+        (area ? area->viewport() : widget)->installEventFilter(&counter);
+      }
+    }
+    edit->SetPlaceholder(U16("something"));
+    App().PumpPendingEvents();
+    EXPECT_GT(counter.paints, 0) << multiLine;
+    mParent->UI_RemoveChild(edit.get());
+  }
 }
 
 TEST_F(Controls, KeepTheirStateWithoutAWindow) {

@@ -224,7 +224,11 @@ void UI_TextEdit::DoShowState() {
   auto* const area = static_cast<QPlainTextEdit*>(widget);
   if (TextOf(*area) != text) area->setPlainText(text);
   area->setReadOnly(mReadOnly);
-  area->setPlaceholderText(drawbot::ToQt(mPlaceholder));
+  const QString placeholder = drawbot::ToQt(mPlaceholder);
+  if (area->placeholderText() != placeholder) {
+    area->setPlaceholderText(placeholder);
+    area->viewport()->update();  // it leaves one that is shown already as it was drawn
+  }
   QTextCursor cursor = area->textCursor();
   if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
   cursor.setPosition(start);
