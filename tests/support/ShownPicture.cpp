@@ -38,7 +38,9 @@ QImage WholePicture() {
 }
 
 std::string Difference(const QImage& inShown, const QImage& inWhole) {
+  if (getenv("DUMP")) { static int n = 0; ++n; QImage d(inShown.size(), QImage::Format_RGB32); for (int y = 0; y < d.height(); ++y) for (int x = 0; x < d.width(); ++x) d.setPixel(x, y, inShown.pixel(x,y) == inWhole.pixel(x,y) ? 0xff000000 : 0xffffffff); std::string p = std::string(getenv("DUMP")) + std::to_string(n); inShown.save((p + "s.png").c_str()); inWhole.save((p + "w.png").c_str()); d.save((p + "d.png").c_str()); }
   if (inShown.size() != inWhole.size()) return "other sizes";
+  if (inShown == inWhole) return "";
   int count = 0;
   QRect place;
   for (int y = 0; y < inShown.height(); ++y) {
@@ -48,7 +50,6 @@ std::string Difference(const QImage& inShown, const QImage& inWhole) {
       place |= QRect(x, y, 1, 1);
     }
   }
-  if (count == 0) return "";
   return std::to_string(count) + " pixels in " + std::to_string(place.width()) + " x " +
          std::to_string(place.height()) + " at " + std::to_string(place.x()) + ", " +
          std::to_string(place.y());
