@@ -30,6 +30,8 @@ constexpr float kCellStart = 6;
 constexpr float kCellEnd = 4;
 constexpr float kBulletX = 11;  // from the left of the row to the middle
 constexpr float kBulletRadius = 2;
+constexpr float kTwistyX = 8;  // from the left of the row to the middle
+constexpr float kTwistyGround = 8;
 constexpr float kNoteGap = 14;
 constexpr float kLeastNote = 30;
 constexpr float kNoteShare = 0.9f;  // of the size of the text
@@ -76,7 +78,11 @@ void OutlineRowLook::ImageNode(const vek::hierarchyview::HierarchyGeometry&, Dra
     ioDrawbot.FillRect(Rect(0, inRow.y, inRow.width + inRow.x, inRow.height),
                        isMarked ? palette::Selection() : palette::IdleSelection());
   }
-  if (!entry->CanExpand()) DrawBullet(ioDrawbot, isMarked);
+  if (!entry->CanExpand()) {
+    DrawBullet(ioDrawbot, isMarked);
+  } else if (isMarked) {
+    DrawTwistyGround(ioDrawbot);
+  }
   for (unsigned short column = 0; column < mList.GetNumberOfColumns(); ++column)
     DrawCell(ioDrawbot, column, *row, isMarked);
 }
@@ -87,6 +93,15 @@ void OutlineRowLook::DrawBullet(Drawbot& ioDrawbot, bool inIsMarked) const {
                      GetPosition().y + kRowHeight / 2 - kBulletRadius, 2 * kBulletRadius,
                      2 * kBulletRadius});
   ioDrawbot.FillPath(bullet, inIsMarked ? palette::SelectionInk() : palette::LeafBullet());
+}
+
+// The twisty has one colour for all rows, which would be lost on that of the selection.
+void OutlineRowLook::DrawTwistyGround(Drawbot& ioDrawbot) const {
+  Path ground;
+  ground.AddEllipse({GetPosition().x + kTwistyX - kTwistyGround,
+                     GetPosition().y + kRowHeight / 2 - kTwistyGround, 2 * kTwistyGround,
+                     2 * kTwistyGround});
+  ioDrawbot.FillPath(ground, palette::Paper());
 }
 
 void OutlineRowLook::DrawCell(Drawbot& ioDrawbot, unsigned short inColumn, const OutlineRow& inRow,
@@ -121,7 +136,7 @@ void OutlineRowLook::DrawNote(Drawbot& ioDrawbot, const OutlineRow& inRow, Rect 
   if (!note || note->empty() || inRest.width < kLeastNote) return;
   const FontP font = ioDrawbot.GetSupplier()->NewFont(
       nullptr, std::round(GetFont()->GetSize() * kNoteShare), FontStyle::kPlain);
-  DrawText(ioDrawbot, note->substr(0, note->find('\n')), font,
+  DrawText(ioDrawbot, note->substr(0, std::min(note->find('\n'), OutlineEntry::kMostShown)), font,
            inIsMarked ? palette::SelectionInk() : palette::FaintInk(), inRest);
 }
 

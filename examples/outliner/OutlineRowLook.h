@@ -28,6 +28,7 @@ class OutlineRowLook final : public vek::hierarchyview::BasicTreeListRowGeometry
   float GetIndent() const { return GetPosition().x; }
 
  private:
+  void DrawTwistyGround(lumui::drawbot::Drawbot& ioDrawbot) const;
   void DrawBullet(lumui::drawbot::Drawbot& ioDrawbot, bool inIsMarked) const;
   void DrawCell(lumui::drawbot::Drawbot& ioDrawbot, unsigned short inColumn,
                 const OutlineRow& inRow, bool inIsMarked) const;

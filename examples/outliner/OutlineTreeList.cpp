@@ -412,7 +412,7 @@ std::size_t OutlineTreeList::FindCaret(const OutlineRow& inRow, float inX) {
   };
   const float wanted = inX - rect->x;
   std::size_t low = 0;
-  std::size_t high = text.size();
+  std::size_t high = std::min(text.size(), OutlineEntry::kMostShown);
   while (low < high) {
     const std::size_t middle = (low + high) / 2;
     if (widthTo(middle) < wanted) {
