@@ -187,7 +187,7 @@ TEST_F(ViewDebugger, PicksAndOutlinesBelowAMenuBar) {
   const HMENU bar = lumui::ui::OS_Menu::Create(false);
   lumui::ui::OS_Menu::InsertItem(bar, 0, 0, 1, U16("File"));
   main->UI_SetMenu(bar);
-  main->UI_SetLocalRectF(RectT<float>(70, 80, 400, 300));
+  main->UI_SetLocalRectF(RectT<float>(70, 80, 900, 600));
   Settle();
   mTab->BeginPicking();
   lumcore::geom::PointT<int> corner;
@@ -230,8 +230,7 @@ TEST_F(ViewDebugger, OutlinesWhatIsInViewOfANode) {
 }
 
 TEST_F(ViewDebugger, SurvivesWindowsThatCloseWhileTheyAreShown) {
-  const boost::intrusive_ptr<lumui::ui::UI_Dialog> dialog(
-      new lumui::ui::UI_Dialog(U16("Box"), main));
+  boost::intrusive_ptr<lumui::ui::UI_Dialog> dialog(new lumui::ui::UI_Dialog(U16("Box"), main));
   mLamp->UI_SetLocalRectF(RectT<float>(40, 50, 60, 30));
   dialog->GetContent().UI_AddChild(mLamp);
   dialog->SetSize(300, 200);
@@ -249,9 +248,12 @@ TEST_F(ViewDebugger, SurvivesWindowsThatCloseWhileTheyAreShown) {
   lumui::testing::PressMouse(*dialog, at);
   dialog->EndDialog(1);
   Settle();
+  EXPECT_EQ(LampRow(), "40, 50, 60, 30;yes;*");
+  EXPECT_EQ(bars(), without) << "it is not to be seen any more";
+  dialog = nullptr;
+  Settle();
   EXPECT_EQ(LampRow(), "");
   EXPECT_EQ(mTab->GetChosenNode(), nullptr);
-  EXPECT_EQ(bars(), without);
   lumui::ui::UI_NodeManager::Get(true)->EndInputCapture(true);
   // The panel goes while it picks.
   mTab->BeginPicking();

@@ -20,6 +20,10 @@ class VEK_API ViewDebuggerTabCreator : public lumworkspace::workspace::TabCreato
   boost::intrusive_ptr<lumworkspace::workspace::TabPanel> CreateTabPanel(
       lumworkspace::workspace::Workspace* inWorkspace,
       lumworkspace::workspace::WorkspaceFrameBase* inFrame) override;
+  // On the right, as wide as its buttons and the first columns of its list.
+  lumworkspace::workspace::TabPlace GetDefaultPlace(
+      const lumworkspace::workspace::Workspace& inWorkspace) const override;
+  lumcore::geom::PointT<int> GetLeastSize() const override;
 };
 
 }  // namespace vek::workspace

@@ -55,6 +55,7 @@ View CategoryIn(const UTF16String& inDisplayName) {
 void SortByName(std::vector<CommandCaches::Category>& ioCategories) {
   using Entry = std::tuple<bool, UTF16String, CommandCaches::Category>;
   std::vector<Entry> entries;
+  entries.reserve(ioCategories.size());
   for (CommandCaches::Category& category : ioCategories)
     entries.emplace_back(category.name.empty(), ToLowerCase(category.name), std::move(category));
   const auto order = [](const Entry& inEntry) {

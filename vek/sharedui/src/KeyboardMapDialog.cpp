@@ -11,7 +11,7 @@ using lumui::utility::ksv::KeyboardMap;
 
 KeyboardMapDialog::KeyboardMapDialog(lumui::ui::UI_Node* inParent)
     : UI_Dialog(lumcore::config::Localizer::Get()->GetLocalizedString(
-                    "$$$/vek/sharedui/KeyboardMap/Title=Keyboard"),
+                    "$$$/vek/sharedui/KeyboardMap/Title=Keyboard Map"),
                 inParent),
       mDelegate(this),
       mMap(new KeyboardMap(mDelegate)) {

@@ -6,9 +6,9 @@
 #include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/ui/IconType.h"
 #include "lumui/ui/KeyboardEvent.h"
 #include "lumui/ui/ModifierKeys.h"
-#include "lumui/ui/Theme.h"
 #include "vek/sharedui/src/KeyCapture.h"
 #include "vek/uisupport/KeyCommandManager.h"
 #include "vek/utility/VekResources.h"
@@ -26,17 +26,15 @@ constexpr float kTextMargin = 7;
 constexpr float kFrame = 1;
 constexpr float kIcon = 16;
 constexpr float kIconMargin = 2;
-// Between the families of dark and light interfaces.
-constexpr float kLightFrom = 0.50005f;
 
 constexpr unsigned short kEllipsis = 0x2026;
 
 boost::intrusive_ptr<lumui::drawbot::ImageInterface> RemoveImage(
     const lumui::drawbot::SupplierInterface& inSupplier) {
-  const bool light = lumui::ui::Theme::GetBrightness() >= kLightFrom;
+  const bool dark = lumui::ui::GetIconType() == lumui::ui::kIconsForDarkGround;
   return utility::GetLibraryImage(
       inSupplier,
-      lumcore::utility::ToUTF8(std::string_view(light ? "SP_Delete_Xs_N" : "SP_Delete_Xs_N_D")));
+      lumcore::utility::ToUTF8(std::string_view(dark ? "SP_Delete_Xs_N_D" : "SP_Delete_Xs_N")));
 }
 
 // A button reads '&' as the mark of its mnemonic.

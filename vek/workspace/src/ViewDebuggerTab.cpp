@@ -47,6 +47,9 @@ UTF16String Localized(const char* inKey) {
 constexpr float kMargin = 6;
 constexpr float kButtonHeight = 24;
 constexpr float kButtonWidth = 110;
+constexpr int kGoodWidth = 440;
+constexpr int kLeastWidth = 2 * static_cast<int>(kButtonWidth) + 3 * static_cast<int>(kMargin);
+constexpr int kLeastHeight = 120;
 constexpr float kColumnWidths[NodeListing::kColumns] = {220, 120, 150, 60, 60, 50, 90};
 
 // The names of classes without their namespaces, of which a panel at the side would show little
@@ -286,6 +289,17 @@ boost::intrusive_ptr<lumworkspace::workspace::TabPanel> ViewDebuggerTabCreator::
     lumworkspace::workspace::WorkspaceFrameBase* inFrame) {
   return new ViewDebuggerTab(inWorkspace, inFrame,
                              Localized("$$$/vek/ViewDebugger/Title=View Debugger"), GetTabType());
+}
+
+lumworkspace::workspace::TabPlace ViewDebuggerTabCreator::GetDefaultPlace(
+    const lumworkspace::workspace::Workspace& inWorkspace) const {
+  lumworkspace::workspace::TabPlace place = TabCreator::GetDefaultPlace(inWorkspace);
+  place.size = kGoodWidth;
+  return place;
+}
+
+lumcore::geom::PointT<int> ViewDebuggerTabCreator::GetLeastSize() const {
+  return {kLeastWidth, kLeastHeight};
 }
 
 }  // namespace vek::workspace

@@ -21,6 +21,7 @@ namespace {
 constexpr qreal kRadius = 3.0;
 constexpr qreal kMarkWidth = 1.8;
 constexpr int kMargin = 3;
+constexpr int kHeaderMargin = 5;
 constexpr int kGrooveHeight = 4;
 constexpr int kUnderline = 2;
 
@@ -192,6 +193,12 @@ QColor ThemeColor(Color inColor) {
 }
 
 ThemeStyle::ThemeStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+int ThemeStyle::pixelMetric(PixelMetric inMetric, const QStyleOption* inOption,
+                            const QWidget* inWidget) const {
+  if (inMetric == PM_HeaderMargin) return kHeaderMargin;
+  return QProxyStyle::pixelMetric(inMetric, inOption, inWidget);
+}
 
 void ThemeStyle::drawPrimitive(PrimitiveElement inElement, const QStyleOption* inOption,
                                QPainter* inPainter, const QWidget* inWidget) const {

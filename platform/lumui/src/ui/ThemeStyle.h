@@ -14,8 +14,9 @@ namespace lumui::ui {
 QColor ThemeColor(themev5::Color inColor);
 
 // How the toolkit's controls look where a theme is in force. It draws what no palette reaches,
-// borders, states and marks, and leaves places, sizes and the rest to the style below it. It asks
-// the theme anew at each painting.
+// borders, states and marks, and leaves places, sizes and the rest to the style below it, but for
+// the heads of columns, whose texts would touch the border. It asks the theme anew at each
+// painting.
 class ThemeStyle final : public QProxyStyle {
  public:
   ThemeStyle();
@@ -26,6 +27,8 @@ class ThemeStyle final : public QProxyStyle {
                    const QWidget* inWidget) const override;
   void drawComplexControl(ComplexControl inControl, const QStyleOptionComplex* inOption,
                           QPainter* inPainter, const QWidget* inWidget) const override;
+  int pixelMetric(PixelMetric inMetric, const QStyleOption* inOption,
+                  const QWidget* inWidget) const override;
 
  private:
   void DrawScrollBar(const QStyleOptionComplex& inOption, QPainter& ioPainter,

@@ -8,6 +8,7 @@
 #include "lumcore/proplist/Utils.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/SupplierInterface.h"
+#include "lumui/ui/IconType.h"
 #include "lumui/utility/DrawbotImageResourceCache.h"
 #include "lumui/utility/ResourceManager.h"
 
@@ -31,6 +32,14 @@ UTF16String Resolved(const UTF16String& inText) {
   return isKey ? Localized(text.substr(1, text.size() - 2).c_str()) : inText;
 }
 
+// Pictures have a second form for a dark ground, where their first would be taken for disabled.
+UTF16String FormForGround(const utility::ResourceManager& inResources, const UTF16String& inName) {
+  if (GetIconType() != kIconsForDarkGround) return inName;
+  const UTF16String dark = inName + lumcore::utility::ToUTF16("_D");
+  const bool exists = inResources.HasBinary(dark, "png") || inResources.HasBinary(dark, "svg");
+  return exists ? dark : inName;
+}
+
 }  // namespace
 
 void NodeSource::ThrowError(const UTF16String& inCause) const {
@@ -45,7 +54,8 @@ boost::intrusive_ptr<drawbot::ImageInterface> NodeSource::LoadImage(
   // A dialog that opens again has the same pictures. Never destroyed: they may outlive all else.
   static const auto* const sImages = new utility::DrawbotImageResourceCache;
   try {
-    return sImages->GetImage(*resources, images, lumcore::utility::ToUTF8(inName));
+    return sImages->GetImage(*resources, images,
+                             lumcore::utility::ToUTF8(FormForGround(*resources, inName)));
   } catch (const lumcore::config::Error& error) {
     ThrowError(error.GetText());
   }

@@ -32,9 +32,9 @@ struct NodeSource {
 
   // Throws a config::Error that says where, and inCause.
   [[noreturn]] LUMUI_API void ThrowError(const lumcore::UTF16String& inCause) const;
-  // The image of that name, which is read once: the module of the resources stays loaded. Null for
-  // an empty name, or where there are no resources. Throws as above for one that is not there or
-  // damaged.
+  // The image of that name, which is read once: the module of the resources stays loaded. While the
+  // ground is dark, that with "_D" behind its name where there is one. Null for an empty name, or
+  // where there are no resources. Throws as above for one that is not there or damaged.
   LUMUI_API boost::intrusive_ptr<drawbot::ImageInterface> LoadImage(
       const lumcore::UTF16String& inName) const;
 };
