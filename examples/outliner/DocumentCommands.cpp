@@ -8,7 +8,7 @@
 #include "OutlineEdits.h"
 #include "OutlinerCommands.h"
 #include "RowEditor.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "vek/undo/Deed.h"
 
@@ -97,8 +97,7 @@ void DocumentCommands::AddUndo() {
 
 UTF16String DocumentCommands::UndoTitle() const {
   if (mDocument.IsTyping()) {
-    return lumcore::config::Localizer::Get()->GetLocalizedString(
-        "$$$/outliner/Command/UndoTyping=Undo Typing");
+    return Localized("$$$/outliner/Command/UndoTyping=Undo Typing");
   }
   const vek::undo::Deed* deed = mDocument.GetUndoer().CouldUndoDeed();
   return deed ? deed->GetUndoDescription() : TitleOfCommand(kCommandUndo);

@@ -8,7 +8,7 @@
 #include "NoteEditor.h"
 #include "OutlineDocument.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "vek/app/DocumentApplication.h"
@@ -24,10 +24,6 @@ constexpr float kMargin = 10;
 constexpr float kTitleHeight = 30;
 constexpr float kTitleSize = 13;
 constexpr float kNoteSize = 13;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 }  // namespace
 

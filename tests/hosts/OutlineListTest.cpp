@@ -22,10 +22,11 @@
 #include "outliner/MapPane.h"
 #include "outliner/OutlineEdits.h"
 #include "outliner/OutlineEntries.h"
-#include "outliner/OutlineFilter.h"
 #include "outliner/OutlineList.h"
 #include "outliner/OutlineTreeList.h"
 #include "outliner/RowEditor.h"
+#include "outliner/TextSearch.h"
+#include "support/Seeds.h"
 #include "vek/hierarchyview/TreeListGeometry.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
@@ -205,6 +206,90 @@ TEST(OutlineList, KeysOpenAndCloseAndWhatIsClosedStandsForWhatWasSelectedBelow) 
   EXPECT_EQ(host.Shown(), "a [b+ e] f");
 }
 
+TEST(OutlineList, KeysGoToRowsAndSelectRanges) {
+  const struct {
+    const char* keys;
+    const char* after;
+  } kCases[] = {
+      {"Shift+Down", "a* [b c [d e]] f g"},
+      {"Shift+Up", "a [b c [d e]] f g*"},
+      {"Down Shift+Down Shift+Down", "a* [b* c* [d e]] f g"},
+      {"Down Shift+Down Shift+Down Shift+Up", "a* [b* c [d e]] f g"},
+      {"Down Down Down Shift+Down Shift+Up Shift+Up", "a [b* c* [d e]] f g"},
+      {"Down Shift+Down Down", "a [b c* [d e]] f g"},
+      {"Down Down Shift+End", "a [b* c* [d* e*]] f* g*"},
+      {"Down Down Shift+End Shift+Home", "a* [b* c [d e]] f g"},
+      {"Down Down Ctrl+Shift+End Shift+Up", "a [b* c* [d* e*]] f* g"},
+      {"Ctrl+End", "a [b c [d e]] f g*"},
+      {"End Home", "a* [b c [d e]] f g"},
+      {"End Shift+PageUp", "a* [b* c* [d* e*]] f* g*"},
+      {"Home PageDown", "a [b c [d e]] f g*"},
+      // From row to row across the levels; a row that opens or closes does only that.
+      {"Down Right", "a [b* c [d e]] f g"},
+      {"Down Right Right Left", "a* [b c [d e]] f g"},
+      {"Down Left Right", "a* [b c [d e]] f g"},
+      {"Down Left Left", "a* [b c [d e]] f g"},
+      {"Down Right Down Right Left Left Left", "a* [b c [d e]] f g"},
+      {"Down Left Shift+Down", "a* [b c [d e]] f* g"},
+      {"Down Shift+Down Right", "a* [b* c [d e]] f g"},
+      // What was typed is done first, and Home and End in the field are the text's.
+      {"Down x Home y Shift+Down", "yax* [b* c [d e]] f g"},
+      {"Down x PageDown", "ax [b c [d e]] f g*"},
+  };
+  for (const auto& [keys, after] : kCases) {
+    SCOPED_TRACE(keys);
+    Host host("a [b c [d e]] f g");
+    host.Keys(keys);
+    EXPECT_EQ(host.Show(), after);
+  }
+}
+
+TEST(OutlineList, RangesOfTheKeyboardGoOnFromThoseOfThePointerAndByTheRowsThatShow) {
+  Host host("d [x] a [y] c b");
+  host.Click(4);
+  host.Click(2, "Shift");
+  EXPECT_EQ(host.Show(), "d [x] a* [y*] c* b");
+  host.Keys("Shift+Down");
+  EXPECT_EQ(host.Show(), "d [x] a [y*] c* b");
+  // What is selected apart from the row with the focus goes.
+  host.Click(0, "Ctrl");
+  host.Keys("Shift+Down");
+  EXPECT_EQ(host.Show(), "d* [x*] a [y] c b");
+  host.ClickTitle(0);
+  EXPECT_EQ(host.Shown(), "a [y] b c d [x]");
+  host.Keys("End Up Shift+Up Shift+Up");
+  EXPECT_EQ(host.Show(), "d* [x] a [y] c* b*");
+}
+
+TEST(OutlineList, APageIsWhatTheViewShowsButOneRow) {
+  std::string rows = "r0";
+  for (int row = 1; row < 300; ++row)
+    rows += " r" + std::to_string(row);
+  Host host(rows);
+  const auto selected = [&] {
+    std::string texts;
+    for (const OutlineRow* row : host.GetDocument().GetSelectedRows())
+      texts += ToStdString(row->GetText()) + " ";
+    return texts;
+  };
+  const float height = host.Rows().GetTrackView()->DataArea().height;
+  const int page = static_cast<int>(height / vek::hierarchyview::TreeListGeometry::kRowHeight) - 1;
+  host.Keys("Home PageDown");
+  EXPECT_EQ(selected(), "r" + std::to_string(page) + " ");
+  host.Keys("PageDown");
+  EXPECT_EQ(selected(), "r" + std::to_string(2 * page) + " ");
+  const auto shows = [&](int inRow) {
+    const auto rect = host.Rows().FindTextRect(
+        tests::FindRow(host.GetDocument(), "r" + std::to_string(inRow))->GetId());
+    return rect && host.Rows().GetTrackView()->DataArea().Contains({rect->x, rect->y + 1});
+  };
+  EXPECT_TRUE(shows(2 * page) && shows(page)) << "one row of the page before stays in sight";
+  host.Keys("Shift+PageUp");
+  EXPECT_EQ(host.GetDocument().GetSelectedRows().size(), static_cast<std::size_t>(page + 1));
+  host.Keys("PageUp PageUp");
+  EXPECT_EQ(selected(), "r0 ");
+}
+
 TEST(OutlineList, FindsRowsAndWhatIsAboveThem) {
   Host host("Tea [green black [Earl]] milk Sugar");
   host.Keys("Down Down");
@@ -231,23 +316,6 @@ TEST(OutlineList, FindsRowsAndWhatIsAboveThem) {
   host.Keys("Escape Escape Up");
   EXPECT_EQ(host.Shown(), "Tea [green black [Earl]] milk x Sugar");
   EXPECT_EQ(host.GetDocument().GetSelectedRows().size(), 1U);
-}
-
-TEST(OutlineList, MarksWhatItFoundAlsoWhereFoldingChangesTheLength) {
-  const auto find = [](const char* inText, const char* inIn) {
-    std::string ranges;
-    for (const auto& [start, end] : outliner::OutlineFilter(ToUTF16(inText)).FindAll(ToUTF16(inIn)))
-      ranges += std::to_string(start) + "-" + std::to_string(end) + " ";
-    return ranges;
-  };
-  EXPECT_EQ(find("an", "Ananas BANANE"), "0-2 2-4 8-10 10-12 ");
-  EXPECT_EQ(find("SS",
-                 "Stra\xC3\x9F"
-                 "e mit Masse"),
-            "4-5 13-15 ");
-  EXPECT_EQ(find("s", "\xC3\x9F"), "0-1 0-1 ");
-  EXPECT_EQ(find("\xF0\x90\x90\x80", "x\xF0\x90\x90\xA8y"), "1-3 ") << "Deseret has two cases";
-  EXPECT_EQ(find("", "abc"), "");
 }
 
 TEST(OutlineList, TakesRowsToWhereTheLineIsInOneStep) {
@@ -446,7 +514,7 @@ class Model {
 
 TEST(OutlineList, FollowsAnyEdits) {
   namespace edits = outliner::edits;
-  for (unsigned seed = 1; seed <= 4; ++seed) {
+  for (const unsigned seed : test_support::Seeds(4)) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const auto upTo = [&](std::size_t inCount) {
@@ -490,6 +558,11 @@ TEST(OutlineList, FollowsAnyEdits) {
         [&] { host.Rows().SelectedHasChildrenExpand(); },
         [&] { upTo(2) == 0 ? host.Rows().CollapseAll() : host.Rows().ExpandAll(); },
         [&] {
+          const char* const kKeys[] = {"Shift+Down", "Shift+Up", "Shift+End", "Home",
+                                       "PageDown",   "Left",     "Right",     "Up"};
+          host.Keys(kKeys[upTo(std::size(kKeys))]);
+        },
+        [&] {
           const bool sorts = upTo(2) == 0;
           sorts ? host.Rows().SetSortColumn(0) : host.Rows().UnsortRows();
           model.SetSorted(sorts);
@@ -498,7 +571,7 @@ TEST(OutlineList, FollowsAnyEdits) {
           const std::string text =
               upTo(2) == 0 ? std::string(1, static_cast<char>('a' + upTo(8))) : "";
           model.SetFilter(text);
-          host.Rows().SetFilter(outliner::OutlineFilter(ToUTF16(text)));
+          host.Rows().SetFilter(outliner::TextSearch({ToUTF16(text)}));
         },
     };
     std::string last;
