@@ -80,8 +80,8 @@ void DocumentCommands::AddTextCommands() {
   mEntries[kCommandNewChild] = {
       always, [this] { mDocument.GetEditor().Begin(edits::NewChild(mDocument)); }, nullptr};
   mEntries[kCommandEditText] = {
-      [this] { return mDocument.GetSelectedRows().size() == 1; },
-      [this] { mDocument.GetEditor().Begin(*mDocument.GetSelectedRows().front()); }, nullptr};
+      [this] { return mDocument.GetOnlySelectedRow() != nullptr; },
+      [this] { mDocument.GetEditor().Begin(*mDocument.GetOnlySelectedRow()); }, nullptr};
   mEntries[kCommandGiveUpText] = {[this] { return mDocument.GetEditor().IsActive(); },
                                   [this] { mDocument.GetEditor().Cancel(); }, nullptr};
 }

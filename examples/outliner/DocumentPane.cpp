@@ -89,7 +89,7 @@ void DocumentPane::BuildNodes() {
   mFind->UI_SetNodeID("find");
   const auto focusRows = [this] {
     FocusRows();
-    if (mDocument->GetSelectedRows().empty()) mList->GetRows().Step(true);
+    if (mDocument->CountSelectedRows() == 0) mList->GetRows().Step(true);
   };
   mFind->SetFunctions({[this](const UTF16String& inText) { Find(inText); }, focusRows, focusRows,
                        focusRows, [this] { FocusChanged(); }});

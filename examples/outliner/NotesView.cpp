@@ -74,9 +74,7 @@ void NotesView::Follow(OutlineDocument* inDocument) {
 }
 
 OutlineRow* NotesView::FindRow() const {
-  if (!mDocument) return nullptr;
-  const auto rows = mDocument->GetSelectedRows();
-  return rows.size() == 1 ? rows.front() : nullptr;
+  return mDocument ? mDocument->GetOnlySelectedRow() : nullptr;
 }
 
 void NotesView::ShowNote() {

@@ -4,8 +4,11 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -65,8 +68,10 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   // them back yet. Who drags them shares it, as the document may go meanwhile.
   const std::shared_ptr<bool>& GetRowDrag() const { return mRowDrag; }
 
-  // In document order.
-  std::vector<OutlineRow*> GetSelectedRows() const;
+  // In document order. The list of many rows is made when it is first asked for, and kept.
+  std::vector<OutlineRow*> GetSelectedRows() const { return FindSelectedRows(); }
+  std::size_t CountSelectedRows() const { return FindSelectedRows().size(); }
+  OutlineRow* GetOnlySelectedRow() const;  // null for none or several
   bool IsSelected(const OutlineRow& inRow) const { return mSelection->Selected(&inRow); }
   // These rows and no others; an empty list deselects all.
   void SelectRows(const std::vector<OutlineRow*>& inRows);
@@ -107,6 +112,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::uisupport::Alert::Response SaveBeforeCloseMessage() const override;
 
  private:
+  const std::vector<OutlineRow*>& FindSelectedRows() const;
   // Whether the data, what is being typed included, differs from what was last saved.
   bool DoIsDirty() const override;
   void Changed();
@@ -121,6 +127,9 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   std::unique_ptr<OutlineTree> mTree;
   OutlineJunction mJunction;
   boost::intrusive_ptr<vek::selection::Manager> mSelection;
+  mutable std::vector<OutlineRow*> mSelectedRows;
+  // Of the selection and of the tree when they were listed; none before the first time.
+  mutable std::optional<std::pair<std::uint64_t, std::uint64_t>> mSelectedVersions;
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
   std::unique_ptr<RowEditor> mEditor;
   std::unique_ptr<NoteEditor> mNoteEditor;

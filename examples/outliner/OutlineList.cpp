@@ -143,7 +143,7 @@ void OutlineList::BuildRows() {
   };
   functions.type = [this](unsigned short inUnit) { return Type(inUnit); };
   functions.deleteCharacter = [this] {
-    if (mDocument->GetSelectedRows().size() != 1) return false;
+    if (!mDocument->GetOnlySelectedRow()) return false;
     mDocument->GetEditor().BeginAtSelection();
     mField->DeleteBefore();
     return true;

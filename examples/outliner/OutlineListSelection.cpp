@@ -20,7 +20,7 @@ using lumui::ui::KeyboardCode;
 using vek::selection::Node;
 
 int OutlineTreeList::NumSelectedEntries() {
-  return mDocument ? static_cast<int>(mDocument->GetSelection().SelectedSelectables().size()) : 0;
+  return mDocument ? static_cast<int>(mDocument->CountSelectedRows()) : 0;
 }
 
 vek::selection::Manager* OutlineTreeList::GetSelectionManager() const {
@@ -64,10 +64,8 @@ void OutlineTreeList::DoToggleEntrySelectionState(EntryList& ioEntries) {
 
 // The keyboard goes on from the one selected row.
 void OutlineTreeList::FollowSelection() {
-  const auto selected = mDocument->GetSelection().SelectedSelectables();
   Entry* const focus = GetFocusItem();
-  if (selected.size() == 1) {
-    auto* const row = static_cast<OutlineRow*>(selected.front());
+  if (const OutlineRow* const row = mDocument->GetOnlySelectedRow()) {
     Entry* const entry = mEntries->Find(row->GetId());
     if (entry != focus) SetFocusItem(entry, true);
   } else if (focus && !focus->Selected(GetSelectionManager())) {
@@ -78,8 +76,8 @@ void OutlineTreeList::FollowSelection() {
 void OutlineTreeList::Step(bool inDown) {
   if (!mDocument) return;
   mDocument->CommitTyping();
-  Entry* const focus = GetFocusItem();
-  if (NumSelectedEntries() != 1 && !(focus && focus->Selected(GetSelectionManager()))) {
+  // Of many selected rows the tree's own step would have each drawn anew, whether it shows or not.
+  if (NumSelectedEntries() != 1) {
     GoByListKey(inDown ? KeyboardCode::kDownArrow : KeyboardCode::kUpArrow, false);
   } else {
     inDown ? SelectNext() : SelectPrevious();

@@ -101,10 +101,14 @@ void OutlineTreeList::RowsChanged() {
   ResizeHierarchy();
 }
 
+bool OutlineTreeList::LetSelectionIn() {
+  return !mEntries->GetFilter().IsEmpty() && mEntries->LetIn(mDocument->GetSelectedRows());
+}
+
 void OutlineTreeList::DocumentChanged() {
   if (!mDocument) return;
   const bool hasNewShape = mEntries->Update(true);
-  const bool letsIn = mEntries->LetIn(mDocument->GetSelectedRows());
+  const bool letsIn = LetSelectionIn();
   if (hasNewShape || letsIn) {
     RowsChanged();
   } else {
@@ -121,7 +125,7 @@ void OutlineTreeList::DocumentSelectionChanged() {
   AnnounceSelection();
   // Deeds restore the selection before the document tells that it has changed.
   const bool hasNewShape = mEntries->Update(false);
-  if (mEntries->LetIn(mDocument->GetSelectedRows()) || hasNewShape) RowsChanged();
+  if (LetSelectionIn() || hasNewShape) RowsChanged();
   FollowSelection();
 }
 
@@ -174,8 +178,7 @@ void OutlineTreeList::SetFilter(const TextSearch& inFilter) {
 void OutlineTreeList::ExpandAll() {
   TreeListControlBase::ExpandAll();
   if (!mDocument) return;
-  const auto selected = mDocument->GetSelectedRows();
-  if (selected.size() == 1) ShowRow(*selected.front());
+  if (const OutlineRow* const row = mDocument->GetOnlySelectedRow()) ShowRow(*row);
 }
 
 void OutlineTreeList::CollapseAll() {

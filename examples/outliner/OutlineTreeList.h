@@ -127,6 +127,7 @@ class OutlineTreeList final : public vek::hierarchyview::TreeListControlBase {
  private:
   OutlineEntry* FindEntryAt(const Point& inDataPoint);
   void RowsChanged();
+  bool LetSelectionIn();
   void FollowSelection();
   bool OpenAbove(const Entry& inEntry);
   void TakePlaceOfSelection(const std::vector<Entry*>& inClosed);

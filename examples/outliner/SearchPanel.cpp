@@ -162,11 +162,10 @@ void SearchController::Replace() {
   if (!document) return;
   mNews.clear();
   document->CommitTyping();
-  const auto selected = document->GetSelectedRows();
+  const OutlineRow* const row = document->GetOnlySelectedRow();
   const TextSearch search(mApp.GetSearchWish().term);
-  if (selected.size() == 1 && search::IsInRow(*document, *selected.front(), search)) {
-    search::Replace(*document, {selected.front()->GetId()}, search,
-                    mApp.GetSearchWish().replacement);
+  if (row && search::IsInRow(*document, *row, search)) {
+    search::Replace(*document, {row->GetId()}, search, mApp.GetSearchWish().replacement);
   }
   Step(true);
 }

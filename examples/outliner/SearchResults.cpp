@@ -63,9 +63,8 @@ void SearchResults::Show(const OutlineDocument* inDocument, const SearchTerm& in
 
 void SearchResults::ShowSelection() {
   mPresent = kNoLine;
-  const auto selected = mDocument ? mDocument->GetSelectedRows() : std::vector<OutlineRow*>();
-  if (selected.size() == 1) {
-    const auto found = std::find(mRows.begin(), mRows.end(), selected.front()->GetId());
+  if (const OutlineRow* const row = mDocument ? mDocument->GetOnlySelectedRow() : nullptr) {
+    const auto found = std::find(mRows.begin(), mRows.end(), row->GetId());
     if (found != mRows.end()) mPresent = static_cast<std::size_t>(found - mRows.begin());
   }
   LinesChanged();
