@@ -10,7 +10,6 @@
 #include "AttributeEditor.h"
 #include "DocumentCommands.h"
 #include "FileQuestions.h"
-#include "NoteEditor.h"
 #include "OpmlReader.h"
 #include "OpmlWriter.h"
 #include "RowEditor.h"
@@ -38,7 +37,7 @@ OutlineDocument::OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File
       mSelection(new vek::selection::Manager(&mJunction)),
       mUndoer(new vek::undo::MultiUndoer(kUndoLevels)),
       mEditor(std::make_unique<RowEditor>(*this)),
-      mNoteEditor(std::make_unique<NoteEditor>(*this)),
+      mNoteEditor(std::make_unique<AttributeEditor>(*this)),
       mAttributeEditor(std::make_unique<AttributeEditor>(*this)),
       mCommands(std::make_unique<DocumentCommands>(*this)),
       mSavedSerial(mUndoer->GetCurSerialNumber()) {

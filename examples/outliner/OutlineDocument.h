@@ -24,7 +24,6 @@ namespace outliner {
 
 class AttributeEditor;
 class DocumentCommands;
-class NoteEditor;
 class RowEditor;
 
 // An open outline: its tree, what is selected in it, its edits, the text that is being typed, its
@@ -57,7 +56,8 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::selection::Manager& GetSelection() { return *mSelection; }
   const OutlineTree& GetTree() const { return *mTree; }
   RowEditor& GetEditor() { return *mEditor; }
-  NoteEditor& GetNoteEditor() { return *mNoteEditor; }
+  // Of one row's note, by itself: it may be typed while another attribute is.
+  AttributeEditor& GetNoteEditor() { return *mNoteEditor; }
   AttributeEditor& GetAttributeEditor() { return *mAttributeEditor; }
   // Makes deeds of what is being typed, in a row, in a note or for an attribute: before anything
   // else happens to the outline. What one of them throws leaves those before it done.
@@ -132,7 +132,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   mutable std::optional<std::pair<std::uint64_t, std::uint64_t>> mSelectedVersions;
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
   std::unique_ptr<RowEditor> mEditor;
-  std::unique_ptr<NoteEditor> mNoteEditor;
+  std::unique_ptr<AttributeEditor> mNoteEditor;
   std::unique_ptr<AttributeEditor> mAttributeEditor;
   std::unique_ptr<DocumentCommands> mCommands;
   const std::shared_ptr<bool> mRowDrag = std::make_shared<bool>(false);
