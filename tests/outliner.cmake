@@ -10,6 +10,8 @@ vek_test(outliner_tests
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
+    hosts/OutlineListFuzzTest.cpp
+    hosts/OutlineListKeysTest.cpp
     hosts/OutlineListTest.cpp
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp

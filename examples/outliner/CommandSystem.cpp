@@ -9,7 +9,7 @@
 #include <string>
 
 #include "OutlinerCommands.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
@@ -40,8 +40,7 @@ constexpr const char* kKeyMapName = "DefaultKeyMap";
 constexpr int kFirstSyntheticId = 32768;
 
 UTF16String Text(const char* inKey, std::initializer_list<UTF16String> inArguments) {
-  return lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), inArguments);
+  return lumcore::utility::ReplaceInString(Localized(inKey), inArguments);
 }
 
 void ThrowUnlessKnown(const File& inFile, int inCommand) {

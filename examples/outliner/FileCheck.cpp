@@ -8,8 +8,8 @@
 #include <ostream>
 
 #include "FileRecords.h"
+#include "Texts.h"
 #include "lumcore/config/ClientInfo.h"
-#include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 
@@ -22,8 +22,7 @@ using lumcore::utility::ToUTF16;
 namespace {
 
 UTF16String Text(const char* inKey, std::initializer_list<UTF16String> inArguments) {
-  return lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), inArguments);
+  return lumcore::utility::ReplaceInString(Localized(inKey), inArguments);
 }
 
 // What keeps a file from being read to its end is a finding as well. False for that.

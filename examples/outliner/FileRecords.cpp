@@ -7,7 +7,7 @@
 #include <memory>
 #include <utility>
 
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumcore/xml/Parser.h"
 
@@ -87,8 +87,8 @@ std::vector<FileRecord> ReadRecords(const lumcore::UTF8String& inBytes, const UT
 
 void Findings::Add(std::size_t inLine, const char* inKey, const UTF16String& inFirst,
                    const UTF16String& inSecond) {
-  const UTF16String cause = lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {inFirst, inSecond});
+  const UTF16String cause =
+      lumcore::utility::ReplaceInString(Localized(inKey), {inFirst, inSecond});
   mTexts.push_back(mPath + ":" + std::to_string(inLine) + ": " + ToStdString(cause));
 }
 
