@@ -49,7 +49,7 @@ void NeedLower(CommandCache& ioCache) {
 
 View CategoryIn(const UTF16String& inDisplayName) {
   const std::size_t dot = inDisplayName.find('.');
-  return dot == UTF16String::npos ? View() : View(inDisplayName.data(), dot);
+  return View(inDisplayName.data(), dot == UTF16String::npos ? 0 : dot);
 }
 
 void SortByName(std::vector<CommandCaches::Category>& ioCategories) {
