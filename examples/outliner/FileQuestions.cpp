@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "OwnFileDialog.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/FileDialog.h"
 #include "lumui/dialogs/MessageDialog.h"
@@ -30,10 +30,6 @@ constexpr ChangedFileAnswer kChangedFileAnswers[] = {
 constexpr Response kAnswers[] = {vek::uisupport::Alert::eResponseYes,
                                  vek::uisupport::Alert::eResponseNo,
                                  vek::uisupport::Alert::eResponseCancel};
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 // Whoever answers in the place of the user answers the system's dialog.
 bool HasAnswerer() {

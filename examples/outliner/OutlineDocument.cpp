@@ -10,7 +10,6 @@
 #include "AttributeEditor.h"
 #include "DocumentCommands.h"
 #include "FileQuestions.h"
-#include "NoteEditor.h"
 #include "OpmlReader.h"
 #include "OpmlWriter.h"
 #include "RowEditor.h"
@@ -41,7 +40,7 @@ OutlineDocument::OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File
       mSelection(new vek::selection::Manager(&mJunction)),
       mUndoer(new vek::undo::MultiUndoer(kUndoLevels)),
       mEditor(std::make_unique<RowEditor>(*this)),
-      mNoteEditor(std::make_unique<NoteEditor>(*this)),
+      mNoteEditor(std::make_unique<AttributeEditor>(*this)),
       mAttributeEditor(std::make_unique<AttributeEditor>(*this)),
       mCommands(std::make_unique<DocumentCommands>(*this)),
       mSavedSerial(mUndoer->GetCurSerialNumber()) {
@@ -62,14 +61,37 @@ void OutlineDocument::SetFileFunctions(std::function<void(const File&)> inCheck,
   mFileTaken = std::move(inTaken);
 }
 
-std::vector<OutlineRow*> OutlineDocument::GetSelectedRows() const {
-  std::vector<OutlineRow*> rows;
-  for (Node* node : mSelection->SelectedSelectables())
-    rows.push_back(static_cast<OutlineRow*>(node));
-  std::sort(rows.begin(), rows.end(), [this](const OutlineRow* inA, const OutlineRow* inB) {
-    return mTree->GetLine(*inA) < mTree->GetLine(*inB);
-  });
-  return rows;
+// A row that leaves the tree changes the tree's shape, and then the selection is asked again.
+const std::vector<OutlineRow*>& OutlineDocument::FindSelectedRows() const {
+  const auto versions = [this] {
+    return std::make_pair(mSelection->GetVersion(), mTree->GetShapeVersion());
+  };
+  if (mSelectedVersions == versions()) return mSelectedRows;
+  const std::list<Node*> nodes = mSelection->SelectedSelectables();
+  const auto& lines = mTree->GetLines();
+  mSelectedRows.clear();
+  for (Node* const node : nodes)
+    mSelectedRows.push_back(static_cast<OutlineRow*>(node));
+  const auto lineOf = [this](const OutlineRow* inRow) { return mTree->GetLine(*inRow); };
+  constexpr std::size_t kFew = 16;  // of as many rows sorting is quicker than marking
+  if (nodes.size() < lines.size() / kFew) {
+    std::sort(mSelectedRows.begin(), mSelectedRows.end(),
+              [&](const auto* inA, const auto* inB) { return lineOf(inA) < lineOf(inB); });
+  } else {
+    std::vector<bool> isSelected(lines.size());
+    for (const OutlineRow* const row : mSelectedRows)
+      isSelected[lineOf(row)] = true;
+    mSelectedRows.clear();
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+      if (isSelected[line]) mSelectedRows.push_back(lines[line]);
+    }
+  }
+  mSelectedVersions = versions();  // looking may have cleaned the selection
+  return mSelectedRows;
+}
+
+OutlineRow* OutlineDocument::GetOnlySelectedRow() const {
+  return CountSelectedRows() == 1 ? FindSelectedRows().front() : nullptr;
 }
 
 void OutlineDocument::SelectRows(const std::vector<OutlineRow*>& inRows) {
@@ -143,6 +165,7 @@ void OutlineDocument::LoadFromFile(const File& inFile) {
   mSelection->DeselectAll();
   mUndoer->PostDeed(std::auto_ptr<vek::undo::Deed>(new vek::undo::ClearUndoStackDeed));
   mTree = std::move(tree);
+  mSelectedVersions.reset();
   SetFile(inFile);
   mOnDisk = DiskContent(bytes);
   SetDirty(false);

@@ -4,8 +4,11 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -22,7 +25,6 @@ namespace outliner {
 
 class AttributeEditor;
 class DocumentCommands;
-class NoteEditor;
 class RowEditor;
 
 // An open outline: its tree, what is selected in it, its edits, the text that is being typed, its
@@ -55,7 +57,8 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::selection::Manager& GetSelection() { return *mSelection; }
   const OutlineTree& GetTree() const { return *mTree; }
   RowEditor& GetEditor() { return *mEditor; }
-  NoteEditor& GetNoteEditor() { return *mNoteEditor; }
+  // Of one row's note, by itself: it may be typed while another attribute is.
+  AttributeEditor& GetNoteEditor() { return *mNoteEditor; }
   AttributeEditor& GetAttributeEditor() { return *mAttributeEditor; }
   // Makes deeds of what is being typed, in a row, in a note or for an attribute: before anything
   // else happens to the outline. What one of them throws leaves those before it done.
@@ -66,8 +69,10 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   // them back yet. Who drags them shares it, as the document may go meanwhile.
   const std::shared_ptr<bool>& GetRowDrag() const { return mRowDrag; }
 
-  // In document order.
-  std::vector<OutlineRow*> GetSelectedRows() const;
+  // In document order. The list of many rows is made when it is first asked for, and kept.
+  std::vector<OutlineRow*> GetSelectedRows() const { return FindSelectedRows(); }
+  std::size_t CountSelectedRows() const { return FindSelectedRows().size(); }
+  OutlineRow* GetOnlySelectedRow() const;  // null for none or several
   bool IsSelected(const OutlineRow& inRow) const { return mSelection->Selected(&inRow); }
   // These rows and no others; an empty list deselects all.
   void SelectRows(const std::vector<OutlineRow*>& inRows);
@@ -109,6 +114,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::uisupport::Alert::Response SaveBeforeCloseMessage() const override;
 
  private:
+  const std::vector<OutlineRow*>& FindSelectedRows() const;
   // Whether the data, what is being typed included, differs from what was last saved.
   bool DoIsDirty() const override;
   void Changed();
@@ -124,9 +130,12 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   std::unique_ptr<OutlineTree> mTree;
   OutlineJunction mJunction;
   boost::intrusive_ptr<vek::selection::Manager> mSelection;
+  mutable std::vector<OutlineRow*> mSelectedRows;
+  // Of the selection and of the tree when they were listed; none before the first time.
+  mutable std::optional<std::pair<std::uint64_t, std::uint64_t>> mSelectedVersions;
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
   std::unique_ptr<RowEditor> mEditor;
-  std::unique_ptr<NoteEditor> mNoteEditor;
+  std::unique_ptr<AttributeEditor> mNoteEditor;
   std::unique_ptr<AttributeEditor> mAttributeEditor;
   std::unique_ptr<DocumentCommands> mCommands;
   const std::shared_ptr<bool> mRowDrag = std::make_shared<bool>(false);

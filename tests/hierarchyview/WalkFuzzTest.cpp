@@ -8,6 +8,7 @@
 #include <random>
 #include <vector>
 
+#include "support/Seeds.h"
 #include "support/TestTree.h"
 #include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/PlainWalk.h"
@@ -292,7 +293,7 @@ bool ExpectIndexed(HierarchyGeometry& ioGeometry) {
 
 TEST(RowIndex, KnowsEveryRowOfARegularTree) {
   int asked = 0, answered = 0;
-  for (unsigned int seed = 1; seed <= 60; ++seed) {
+  for (const unsigned seed : test_support::Seeds(60)) {
     RandomTree tree(seed, true);
     TreeGeometry shown(&tree.GetControl(), 8, false, 19), hiding(&tree.GetControl(), 8, true, 7);
     TreeListGeometry list(&tree.GetControl(), 8, seed % 2 == 0);
@@ -345,7 +346,7 @@ TEST(RowIndex, KnowsRowsThatAreDeeperThanLevelsCanTell) {
 }
 
 TEST(Walks, AnswerAsThePlainOneInAnyTree) {
-  for (unsigned int seed = 1; seed <= 60; ++seed) {
+  for (const unsigned seed : test_support::Seeds(60)) {
     RandomTree tree(seed, false);
     for (int change = 0; change < 120; ++change) {
       tree.ChangeSomething();
