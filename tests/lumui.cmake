@@ -29,11 +29,11 @@ foreach(tool Xvfb openbox xdotool xprop setxkbmap)
   endif()
 endforeach()
 # The other program of drags that go from one to another.
-add_executable(lumui_drag_partner lumui/DragPartner.cpp)
+add_executable(lumui_drag_partner support/DragPartnerProgram.cpp)
 target_link_libraries(lumui_drag_partner PRIVATE Qt6::Widgets vek_build_options)
 add_executable(lumui_display_tests
   lumui/DragDisplayTest.cpp lumui/RealDisplayTest.cpp lumui/UITest.cpp
-  support/RealInput.cpp support/UIApplication.cpp)
+  support/DragPartner.cpp support/RealInput.cpp support/UIApplication.cpp)
 target_link_libraries(lumui_display_tests PRIVATE vek_test_support lumui vek_build_options)
 target_compile_definitions(lumui_display_tests PRIVATE
   LUMUI_DRAG_PARTNER="$<TARGET_FILE:lumui_drag_partner>")

@@ -8,6 +8,7 @@ vek_test(vek_trackview_tests
     trackview/PlatformViewTest.cpp
     trackview/RepaintTest.cpp
     lumui/UITest.cpp
+    support/ShownPicture.cpp
     support/UIApplication.cpp
   LIBRARIES vek Qt6::Widgets Qt6::GuiPrivate)
 set_tests_properties(vek_trackview_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
@@ -23,8 +24,11 @@ endforeach()
 if(VEK_Xvfb AND VEK_openbox AND VEK_xdotool AND VEK_setxkbmap)
   add_executable(vek_trackview_display_tests
     trackview/RealDisplayTest.cpp lumui/UITest.cpp
-    support/RealInput.cpp support/UIApplication.cpp)
+    support/DragPartner.cpp support/RealInput.cpp support/UIApplication.cpp)
   target_link_libraries(vek_trackview_display_tests PRIVATE vek_test_support vek vek_build_options)
+  target_compile_definitions(vek_trackview_display_tests PRIVATE
+    LUMUI_DRAG_PARTNER="$<TARGET_FILE:lumui_drag_partner>")
+  add_dependencies(vek_trackview_display_tests lumui_drag_partner)
   add_test(NAME vek_trackview_display_tests
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh
       $<TARGET_FILE:vek_trackview_display_tests> --gtest_brief=1

@@ -14,6 +14,7 @@
 #include "OpmlWriter.h"
 #include "RowEditor.h"
 #include "lumcore/utility/ScopedValue.h"
+#include "lumcore/utility/StringUtils.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/uisupport/MainWindowLookup.h"
 #include "vek/undo/ClearUndoStackDeed.h"
@@ -26,7 +27,9 @@ using vek::selection::Node;
 using vek::uisupport::Alert::Response;
 
 std::unique_ptr<OutlineDocument> OutlineDocument::Open(const File& inFile) {
-  return std::make_unique<OutlineDocument>(ReadOpml(inFile), inFile);
+  auto document = std::make_unique<OutlineDocument>();
+  document->LoadFromFile(inFile);
+  return document;
 }
 
 OutlineDocument::OutlineDocument() : OutlineDocument(std::make_unique<OutlineTree>(), File()) {}
@@ -154,7 +157,8 @@ void OutlineDocument::Changed() {
 }
 
 void OutlineDocument::LoadFromFile(const File& inFile) {
-  std::unique_ptr<OutlineTree> tree = ReadOpml(inFile);
+  const lumcore::UTF8String bytes = inFile.ReadAll();
+  std::unique_ptr<OutlineTree> tree = ReadOpml(bytes, lumcore::utility::ToUTF16(inFile.GetPath()));
   mEditor->Cancel();
   mNoteEditor->Cancel();
   mAttributeEditor->Cancel();
@@ -163,20 +167,40 @@ void OutlineDocument::LoadFromFile(const File& inFile) {
   mTree = std::move(tree);
   mSelectedVersions.reset();
   SetFile(inFile);
+  mOnDisk = DiskContent(bytes);
   SetDirty(false);
 }
 
 void OutlineDocument::SaveToFile(const File& inFile) {
-  inFile.ReplaceContents(WriteOpml(*mTree));
+  const std::string bytes = WriteOpml(*mTree);
+  inFile.ReplaceContents(bytes);
+  mOnDisk = DiskContent(bytes);
   SetDirty(false);
 }
 
 void OutlineDocument::Save() {
   CommitTyping();
   const File file = GetProjectFile();
+  if (SaveElsewhere(file)) return;
   FileBasedDocument::Save();
   // SaveAs has told of a new one.
   if (!file.GetPath().empty() && mFileTaken) mFileTaken(file);
+}
+
+// Whether the file has changed under the document, and the user does not want it overwritten. A
+// request to close is refused while the question stands.
+bool OutlineDocument::SaveElsewhere(const File& inFile) {
+  if (inFile.GetPath().empty() || !mOnDisk.DiffersFrom(inFile)) return false;
+  const lumcore::utility::StScopedValue<bool> asking(mIsAsking, true);
+  switch (AskAboutChangedFile(GetTitle())) {
+    case ChangedFileAnswer::kOverwrite:
+      return false;
+    case ChangedFileAnswer::kSaveAs:
+      SaveAs();
+      return true;
+    default:
+      return true;
+  }
 }
 
 // A second request while the question stands is answered by the first.

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "DiskContent.h"
 #include "OutlineJunction.h"
 #include "OutlineTree.h"
 #include "lumcore/filesupport/File.h"
@@ -98,7 +99,8 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   // Replaces the file in one step. After a throw of FileError the old file is as it was, and the
   // document as dirty as it was.
   void SaveToFile(const File& inFile) override;
-  // Both commit what is being typed.
+  // Both commit what is being typed. A file that another program has changed since it was read or
+  // written here is overwritten only when the user says so.
   void Save() override;
   bool CanClose() override;
   void SaveAs() override;
@@ -116,6 +118,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   // Whether the data, what is being typed included, differs from what was last saved.
   bool DoIsDirty() const override;
   void Changed();
+  bool SaveElsewhere(const File& inFile);
 
   void WillPostDeed(vek::undo::Deed* inDeed) override;
   void DidPostDeed(vek::undo::Deed*) override {}
@@ -139,6 +142,7 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   std::function<void()> mChanged;
   std::function<void(const File&)> mCheckFile;
   std::function<void(const File&)> mFileTaken;
+  DiskContent mOnDisk;  // of the document's file, as far as it is known here
   int mSavedSerial;
   bool mSerialIsStale = false;  // until the next save: the number no longer names the data's state
   bool mIsAsking = false;

@@ -3,6 +3,8 @@
 
 // The part of the outline's list that the pointer and the keyboard drive.
 
+#include <algorithm>
+
 #include "MapTools.h"
 #include "OutlineDocument.h"
 #include "OutlineDrag.h"
@@ -76,7 +78,7 @@ std::size_t OutlineTreeList::FindCaret(const OutlineRow& inRow, float inX) {
   };
   const float wanted = inX - rect->x;
   std::size_t low = 0;
-  std::size_t high = text.size();
+  std::size_t high = std::min(text.size(), OutlineEntry::kMostShown);
   while (low < high) {
     const std::size_t middle = (low + high) / 2;
     if (widthTo(middle) < wanted) {

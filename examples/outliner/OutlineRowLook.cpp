@@ -120,7 +120,7 @@ void OutlineRowLook::DrawNote(Drawbot& ioDrawbot, const OutlineRow& inRow, Rect 
   if (!note || note->empty() || inRest.width < kLeastNote) return;
   const FontP font = ioDrawbot.GetSupplier()->NewFont(
       nullptr, std::round(GetFont()->GetSize() * kNoteShare), FontStyle::kPlain);
-  DrawText(ioDrawbot, note->substr(0, note->find('\n')), font,
+  DrawText(ioDrawbot, note->substr(0, std::min(note->find('\n'), OutlineEntry::kMostShown)), font,
            inIsMarked ? palette::SelectionInk() : palette::FaintInk(), inRest);
 }
 

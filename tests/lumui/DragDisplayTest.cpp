@@ -1,21 +1,13 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
-#include <cstdio>
-#include <deque>
-#include <mutex>
 #include <optional>
 #include <string>
-#include <thread>
 
 #include "DragNode.h"
 #include "lumui/datatransfer/OS_DropTarget.h"
 #include "lumui/datatransfer/OS_SendData.h"
-#include "lumui/ui/Executor.h"
+#include "support/DragPartner.h"
 #include "support/RealInput.h"
 
 // Drags between two programs, by the window system's own road.
@@ -23,6 +15,7 @@ namespace lumui::test {
 
 namespace {
 
+using test_support::DragPartner;
 using test_support::RealInput;
 
 class DragsAcrossPrograms : public UITest {
@@ -37,75 +30,13 @@ class DragsAcrossPrograms : public UITest {
     mWindow->UI_Activate();
     mInput.emplace(*mWindow, 29, 30);
     mTarget.Attach(*mWindow);
-    StartPartner();
+    mPartner.emplace();
   }
-  ~DragsAcrossPrograms() override { EndPartner(); }
 
-  void StartPartner() {
-    int ends[2];
-    ASSERT_EQ(pipe(ends), 0);
-    mPartner = fork();
-    ASSERT_NE(mPartner, -1);
-    if (mPartner == 0) {
-      dup2(ends[1], STDOUT_FILENO);
-      execl(LUMUI_DRAG_PARTNER, LUMUI_DRAG_PARTNER, static_cast<char*>(nullptr));
-      _exit(1);
-    }
-    close(ends[1]);
-    mReader = std::thread([this, input = ends[0]] { ReadLines(input); });
-    EXPECT_EQ(WaitForLine(), "ready");
-  }
-  void EndPartner() {
-    kill(mPartner, SIGKILL);
-    waitpid(mPartner, nullptr, 0);
-    mReader.join();
-  }
-  void ReadLines(int inInput) {
-    std::FILE* const file = fdopen(inInput, "r");
-    char line[200];
-    while (std::fgets(line, sizeof line, file)) {
-      const std::lock_guard<std::mutex> lock(mMutex);
-      mLines.emplace_back(line);
-      mLines.back().pop_back();
-      Manager().GetExecutor()->Post([] {});
-    }
-    std::fclose(file);
-  }
-  // The next thing that the partner said, empty if it has said nothing more.
-  std::string TakeLine() {
-    const std::lock_guard<std::mutex> lock(mMutex);
-    if (mLines.empty()) return "";
-    std::string line = std::move(mLines.front());
-    mLines.pop_front();
-    return line;
-  }
-  // Without what it says of the pointer.
-  std::string WaitForLine() {
-    std::string line;
-    RealInput::RunUntil([&] {
-      do
-        line = TakeLine();
-      while (line == "pointer" || line == "over");
-      return !line.empty();
-    });
-    return line;
-  }
-  int CountSaid(const std::string& inLine) {
-    int count = 0;
-    for (std::string line = TakeLine(); !line.empty(); line = TakeLine())
-      if (line == inLine) ++count;
-    return count;
-  }
-  // A source lets a drag go if the button comes up before its target has answered. It tells the
-  // target of another move only when it has had the answer to the one before.
   void DragFromPartnerToNode() {
-    RealInput::SendUntil("mousemove 61 60 mousemove 60 60",
-                         [&] { return CountSaid("pointer") != 0; });
-    RealInput::RunTool("mousedown 1");
-    EXPECT_EQ(WaitForLine(), "pressed");
     mMoves = 0;
-    RealInput::SendUntil(mInput->At(30, 30) + " " + mInput->At(31, 30),
-                         [&] { return mMoves > kAnswered; });
+    mPartner->DragTo(mInput->At(30, 30) + " " + mInput->At(31, 30),
+                     [&] { return mMoves > DragPartner::kAnswered; });
   }
   // What the partner says of the drop.
   std::string DragOut(bool inWithFiles) {
@@ -118,35 +49,20 @@ class DragsAcrossPrograms : public UITest {
       data.AddBytesOnDemand("application/x-row", [] { return std::string("row"); });
       mEffect = data.SendByDrag(kDropCopy | kDropMove, kDropMove);
     };
-    std::thread tool([&] {
-      RealInput::RunTool(mInput->At(30, 30) + " mousedown 1");
-      for (int overs = 0; overs <= kAnswered; overs += CountSaid("over"))
-        RealInput::RunTool("mousemove 60 60 mousemove 61 60");
-      RealInput::RunTool("mouseup 1");
-    });
-    RealInput::RunUntil([&] { return mEffect != -1; });
-    tool.join();
-    return WaitForLine();
+    return mPartner->TakeFrom(mInput->At(30, 30), [&] { return mEffect != -1; });
   }
   void Log(const std::string& inWord) {
     if (inWord.find("node:over") == 0) ++mMoves;
     UITest::Log(inWord);
   }
 
-  static constexpr int kAnswered = 2;
-
   boost::intrusive_ptr<ui::OS_Window> mWindow;
   datatransfer::OS_DropTarget mTarget;
   DragNode* mNode = nullptr;
   std::optional<RealInput> mInput;
+  std::optional<DragPartner> mPartner;
   int mMoves = 0;
   int mEffect = -1;
-
- private:
-  pid_t mPartner = -1;
-  std::thread mReader;
-  std::mutex mMutex;
-  std::deque<std::string> mLines;
 };
 
 }  // namespace
@@ -172,7 +88,7 @@ TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
   RealInput::RunTool("mouseup 1");
   // The other program may be through with its drag before we get the drop.
   RealInput::RunUntil([&] { return isDropped; });
-  EXPECT_EQ(WaitForLine(), "sent 2");
+  EXPECT_EQ(mPartner->WaitForLine(), "sent 2");
   const std::string log = TakeLog();
   EXPECT_EQ(log.find("node:enter@2"), 0u) << log;
   EXPECT_EQ(log.substr(log.rfind(' '), 12), " node:drop@2") << log;
@@ -180,20 +96,23 @@ TEST_F(DragsAcrossPrograms, ComeWithTheirDataAndTellTheSource) {
 
 TEST_F(DragsAcrossPrograms, DoNoHarmWhenTheSourceVanishes) {
   DragFromPartnerToNode();
-  EndPartner();
+  mPartner->Kill();
+  std::string log;
+  // A last move may still come before, and nothing behind it.
+  RealInput::RunUntil([&] {
+    log += TakeLog() + " ";
+    return log.find("node:leave") != std::string::npos;
+  });
   RealInput::RunTool("mouseup 1");
-  TakeLog();
-  StartPartner();
+  mPartner.emplace();
   DragFromPartnerToNode();
-  const std::string log = TakeLog();
-  // A last move of the first source may still come before.
-  const auto left = log.find("node:leave node:enter@");
-  EXPECT_NE(left, std::string::npos) << log;
-  EXPECT_EQ(log.find("node:leave"), left) << log;
+  log += TakeLog();
+  const auto left = log.find("node:leave");
   EXPECT_EQ(log.rfind("node:leave"), left) << log;
-  EXPECT_EQ(log.rfind("node:enter"), log.find("node:enter")) << log;
+  EXPECT_EQ(log.find("node:enter@", left), log.rfind("node:enter@")) << log;
+  EXPECT_EQ(log.find("node:enter@"), 0u) << log;
   RealInput::RunTool("mouseup 1");
-  EXPECT_EQ(WaitForLine(), "sent 1");
+  EXPECT_EQ(mPartner->WaitForLine(), "sent 1");
 }
 
 TEST_F(DragsAcrossPrograms, GoOutAndHearWhatBecameOfThem) {

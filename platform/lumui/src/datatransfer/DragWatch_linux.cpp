@@ -6,6 +6,8 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QTimer>
+#include <cstdlib>
+#include <memory>
 #include <utility>
 
 #include "lumcore/utility/ScopedValue.h"
@@ -21,9 +23,31 @@ namespace {
 constexpr int kSilence = 10000;  // milliseconds
 constexpr unsigned kAccepted = 1;
 
+struct Freed {
+  void operator()(void* inReply) const { std::free(inReply); }
+};
+
+QNativeInterface::QX11Application* QtX11() {
+  return qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+}
+
 Display* QtDisplay() {
-  auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  auto* const x11 = QtX11();
   return x11 ? x11->display() : nullptr;
+}
+
+// False if the window is no more. Its end comes behind all that its program has sent.
+bool AskForEndOf(xcb_window_t inWindow) {
+  xcb_connection_t* const server = QtX11()->connection();
+  const std::unique_ptr<xcb_get_window_attributes_reply_t, Freed> attributes(
+      xcb_get_window_attributes_reply(server, xcb_get_window_attributes(server, inWindow),
+                                      nullptr));
+  if (!attributes) return false;
+  // What Qt has asked for stays.
+  const std::uint32_t events = attributes->your_event_mask | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+  const std::unique_ptr<xcb_generic_error_t, Freed> error(xcb_request_check(
+      server, xcb_change_window_attributes_checked(server, inWindow, XCB_CW_EVENT_MASK, &events)));
+  return !error;
 }
 
 bool IsAtom(unsigned inAtom, const char* inName) {
@@ -46,21 +70,57 @@ DragWatch::~DragWatch() {
   qGuiApp->removeNativeEventFilter(this);
 }
 
+void DragWatch::Forget() {
+  mFinished = false;
+  mEnds = Ends();
+}
+
 bool DragWatch::nativeEventFilter(const QByteArray& inType, void* inMessage, qintptr*) {
-  if (inType != "xcb_generic_event_t") return false;
+  if (inType != "xcb_generic_event_t" || !QtDisplay()) return false;
   const auto& event = *static_cast<const xcb_generic_event_t*>(inMessage);
   constexpr unsigned kTypeBits = 0x7F;  // without the one for events that others send
-  if ((event.response_type & kTypeBits) != XCB_CLIENT_MESSAGE || !QtDisplay()) return false;
+  const unsigned type = event.response_type & kTypeBits;
+  if (type == XCB_DESTROY_NOTIFY) {
+    const auto& end = *static_cast<const xcb_destroy_notify_event_t*>(inMessage);
+    if (end.window == mEnds.source) SayThatItLeft();
+  }
+  if (type != XCB_CLIENT_MESSAGE) return false;
   const auto& message = *static_cast<const xcb_client_message_event_t*>(inMessage);
   if (IsAtom(message.type, "XdndEnter")) {
     mEntered();
+    mEnds = {message.data.data32[0], message.window, false};
+  } else if (IsAtom(message.type, "XdndPosition") && mEnds.source != 0 && !mEnds.isWatched) {
+    // Not at the enter: what Qt asks for there would take the place of it.
+    mEnds.isWatched = true;
+    if (!AskForEndOf(mEnds.source)) SayThatItLeft();
+  } else if (IsAtom(message.type, "XdndLeave") || IsAtom(message.type, "XdndDrop")) {
+    mEnds = Ends();
   } else if (IsAtom(message.type, "XdndFinished")) {
-    mFinished = true;
-    const bool accepted = (message.data.data32[1] & kAccepted) != 0;
-    mEffect = accepted ? EffectOfAtom(message.data.data32[2]) : static_cast<int>(ui::kDropNone);
-    if (mOnFinished) mOnFinished();
+    Finish(message.data.data32);
   }
   return false;
+}
+
+void DragWatch::Finish(const std::uint32_t* inData) {
+  mFinished = true;
+  const bool accepted = (inData[1] & kAccepted) != 0;
+  mEffect = accepted ? EffectOfAtom(inData[2]) : static_cast<int>(ui::kDropNone);
+  if (mOnFinished) mOnFinished();
+}
+
+// In the place of the source and by its road, so that Qt as well is through with the drag.
+void DragWatch::SayThatItLeft() {
+  xcb_client_message_event_t leave = {};
+  leave.response_type = XCB_CLIENT_MESSAGE;
+  leave.format = 32;
+  leave.window = mEnds.target;
+  leave.type = static_cast<xcb_atom_t>(XInternAtom(QtDisplay(), "XdndLeave", False));
+  leave.data.data32[0] = mEnds.source;
+  mEnds = Ends();
+  xcb_connection_t* const server = QtX11()->connection();
+  xcb_send_event(server, 0, leave.window, XCB_EVENT_MASK_NO_EVENT,
+                 reinterpret_cast<const char*>(&leave));
+  xcb_flush(server);
 }
 
 int DragWatch::AwaitFinish(int inEffect) {

@@ -157,7 +157,8 @@ int OS_SendData::SendByDrag(int inAllowedEffects, int inPreferredEffect) {
   });
   if (ui::Application::Get()->IsHeadless()) delete drag.data();
   if (sent) sent->mOnDemand.clear();
-  return effect;
+  // Where another program has done what it may not, that counts as the least of what it may.
+  return effect == ui::kDropNone ? effect : PickEffect(inAllowedEffects, effect);
 }
 
 }  // namespace lumui::datatransfer

@@ -52,6 +52,12 @@ bool IsVisible(const Pen& inPen) {
   return inPen.width > 0 && inPen.color.alpha > 0;
 }
 
+bool HasWholeUnits(const QPainter& inPainter) {
+  const QTransform& toDevice = inPainter.deviceTransform();
+  return toDevice.m11() == std::floor(toDevice.m11()) &&
+         toDevice.m22() == std::floor(toDevice.m22());
+}
+
 bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
   return std::abs(inDevice.width() - inPixels.width()) < kPixelTolerance &&
          std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
@@ -60,7 +66,7 @@ bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
 }  // namespace
 
 QtDrawbot::QtDrawbot(QPainter& inPainter, const lumcore::geom::RectT<float>& inClipBounds)
-    : mPainter(inPainter) {
+    : mPainter(inPainter), mHasWholeUnits(HasWholeUnits(inPainter)) {
   mPainter.save();
   mPainter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                           QPainter::SmoothPixmapTransform);
@@ -127,9 +133,26 @@ Drawbot::Rect QtDrawbot::GetClipBounds() const {
 
 void QtDrawbot::FillRect(const Rect& inRect, const Brush& inBrush) {
   if (inRect.IsEmpty()) return;
+  const QRectF rect = OnPixels(inRect);
   // A colour alone is filled with faster than a brush of it.
-  if (!inBrush.IsGradient()) return mPainter.fillRect(ToQt(inRect), ToQt(inBrush.GetStartColor()));
-  mPainter.fillRect(ToQt(inRect), MakeBrush(inBrush));
+  if (!inBrush.IsGradient()) return mPainter.fillRect(rect, ToQt(inBrush.GetStartColor()));
+  mPainter.fillRect(rect, MakeBrush(inBrush));
+}
+
+// With parts of pixels in a unit a float misses whole pixels by a little, which would be blended.
+QRectF QtDrawbot::OnPixels(const Rect& inRect) const {
+  const QRectF rect = ToQt(inRect);
+  if (mHasWholeUnits) return rect;
+  const QTransform& toDevice = mPainter.deviceTransform();
+  const auto snapped = [](double inEdge, double inScale, double inOrigin) {
+    const double device = inEdge * inScale + inOrigin;
+    const double pixel = std::round(device);
+    return std::abs(device - pixel) < kPixelTolerance ? (pixel - inOrigin) / inScale : inEdge;
+  };
+  return QRectF(QPointF(snapped(rect.left(), toDevice.m11(), toDevice.dx()),
+                        snapped(rect.top(), toDevice.m22(), toDevice.dy())),
+                QPointF(snapped(rect.right(), toDevice.m11(), toDevice.dx()),
+                        snapped(rect.bottom(), toDevice.m22(), toDevice.dy())));
 }
 
 void QtDrawbot::StrokeRect(const Rect& inRect, const Pen& inPen) {

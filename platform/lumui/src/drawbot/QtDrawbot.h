@@ -63,6 +63,7 @@ class QtDrawbot : public Drawbot {
     Rect clip;
   };
 
+  QRectF OnPixels(const Rect& inRect) const;
   void NarrowClip(const Rect& inLocalBounds);
   // inTint may be null.
   void DrawRaster(const ImageInterface& inImage, const Rect& inRect, const ColorRGBA* inTint,
@@ -70,6 +71,7 @@ class QtDrawbot : public Drawbot {
   void DrawPixels(const QImage& inRaster, const QRectF& inDevice, const QTransform& inToDevice);
 
   QPainter& mPainter;
+  const bool mHasWholeUnits;   // a unit at construction is a number of whole pixels
   std::vector<State> mStates;  // the current one is the last
 };
 

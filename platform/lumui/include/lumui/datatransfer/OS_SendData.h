@@ -48,7 +48,7 @@ class LUMUI_API OS_SendDataBase {
   // effects are those of ui::DropEffect; the result is what the receiver has done, kDropNone if
   // nobody has taken it, or at once if no button is held or another drag runs. After a kDropMove
   // the sender removes its own; a program that never says that it has got the data has moved
-  // nothing.
+  // nothing, and one that moves where it may not has done the least of what it may.
   virtual int SendByDrag(int inAllowedEffects, int inPreferredEffect) = 0;
 
  protected:

@@ -13,13 +13,18 @@
 #include <utility>
 
 // Another program, at the other end of a drag: a window in the corner of the screen from which a
-// press drags, and which takes what is dropped if there are files in it. It tells on its output
-// when it is ready, what the pointer does, and what has come of each drag.
+// press drags, and which takes what is dropped if there are files in it, with the effect that its
+// argument names. It tells on its output when it is ready, what the pointer does, and what has come
+// of each drag.
 namespace {
 
 class Partner : public QWidget {
  public:
-  Partner() {
+  explicit Partner(const QByteArray& inTakes)
+      : mTakes(inTakes == "copy"   ? Qt::CopyAction
+               : inTakes == "move" ? Qt::MoveAction
+               : inTakes == "link" ? Qt::LinkAction
+                                   : Qt::IgnoreAction) {
     setAcceptDrops(true);
     setMouseTracking(true);
     setWindowFlag(Qt::FramelessWindowHint);
@@ -38,9 +43,9 @@ class Partner : public QWidget {
     drag->setMimeData(sent);
     Say("sent " + QByteArray::number(drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction)));
   }
-  void dragEnterEvent(QDragEnterEvent* inEvent) override { inEvent->acceptProposedAction(); }
+  void dragEnterEvent(QDragEnterEvent* inEvent) override { Accept(*inEvent); }
   void dragMoveEvent(QDragMoveEvent* inEvent) override {
-    inEvent->acceptProposedAction();
+    Accept(*inEvent);
     if (!inEvent->source()) Say("over");
   }
   void dropEvent(QDropEvent* inEvent) override {
@@ -49,7 +54,7 @@ class Partner : public QWidget {
       inEvent->ignore();
       return Say("got refused");
     }
-    inEvent->acceptProposedAction();
+    Accept(*inEvent);
     Say("got " + got.text().toUtf8() + "|" + got.urls().value(0).toString().toUtf8() + "|" +
         got.data("application/x-row") + "|" + QByteArray::number(inEvent->dropAction()));
   }
@@ -58,11 +63,16 @@ class Partner : public QWidget {
   }
 
  private:
+  void Accept(QDropEvent& ioEvent) const {
+    ioEvent.acceptProposedAction();
+    if (mTakes != Qt::IgnoreAction) ioEvent.setDropAction(mTakes);
+  }
   static void Say(const QByteArray& inLine) {
     std::puts(inLine.constData());
     std::fflush(stdout);
   }
 
+  const Qt::DropAction mTakes;
   bool mReady = false;
 };
 
@@ -70,7 +80,7 @@ class Partner : public QWidget {
 
 int main(int inCount, char** inArguments) {
   QApplication application(inCount, inArguments);
-  Partner partner;
+  Partner partner(application.arguments().value(1).toUtf8());
   partner.show();
   return application.exec();
 }
