@@ -50,6 +50,12 @@ std::vector<std::string> CheckIdentity() {
   return findings;
 }
 
+std::vector<FileRecord> ReadKeys(const CommandFiles& inFiles) {
+  constexpr const char* kRecord = "keycmd";
+  return inFiles.keys ? ReadRecords(*inFiles.keys, kRecord)
+                      : ReadRecords(BuiltInKeys(), NameOfBuiltInKeys(), kRecord);
+}
+
 }  // namespace
 
 bool HasReservedCharacter(const UTF16String& inText) {
@@ -60,11 +66,13 @@ bool HasReservedCharacter(const UTF16String& inText) {
 bool CheckFiles(const CommandFiles& inFiles, std::ostream& outStream) {
   std::vector<CheckedCommand> commands;
   std::size_t keys = 0;
-  Findings ofCommands(inFiles.commands);
-  Findings ofKeys(inFiles.keys);
+  const std::string nameOfKeys =
+      inFiles.keys ? inFiles.keys->GetPath() : ToStdString(NameOfBuiltInKeys());
+  Findings ofCommands(inFiles.commands.GetPath());
+  Findings ofKeys(nameOfKeys);
   // Without all the commands, the keys could only be said to have none.
   if (Try(ofCommands, [&] { commands = CheckCommandFile(inFiles.commands, ofCommands); }))
-    Try(ofKeys, [&] { keys = CheckKeyMap(inFiles.keys, commands, ofKeys); });
+    Try(ofKeys, [&] { keys = CheckKeyMap(ReadKeys(inFiles), commands, ofKeys); });
   std::vector<std::string> all = CheckIdentity();
   for (const Findings* findings : {&ofCommands, &ofKeys})
     all.insert(all.end(), findings->GetTexts().begin(), findings->GetTexts().end());
@@ -74,7 +82,7 @@ bool CheckFiles(const CommandFiles& inFiles, std::ostream& outStream) {
   const UTF16String done =
       Text("$$$/outliner/Check/Done=@0: @1 commands, @2: @3 keys, nothing found",
            {ToUTF16(inFiles.commands.GetPath()), ToUTF16(std::to_string(commands.size())),
-            ToUTF16(inFiles.keys.GetPath()), ToUTF16(std::to_string(keys))});
+            ToUTF16(nameOfKeys), ToUTF16(std::to_string(keys))});
   outStream << ToStdString(done) << "\n";
   return true;
 }

@@ -9,6 +9,7 @@
 #include "OutlineDocument.h"
 #include "OutlineDrag.h"
 #include "OutlineEntries.h"
+#include "OutlineEntry.h"
 #include "OutlineListTrackers.h"
 #include "OutlineTreeList.h"
 #include "lumui/ui/KeyboardEvent.h"
