@@ -8,7 +8,7 @@
 
 #include "OutlineDocument.h"
 #include "OutlineEdits.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 
@@ -23,7 +23,7 @@ void RefuseIfTooLong(const lumcore::UTF16String& inText) {
   if (inText.size() <= kMostEdited) return;
   using lumcore::utility::ToUTF16;
   throw lumcore::config::Error(lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(
+      Localized(
           "$$$/outliner/Rows/TooLong=the text of this row is too long to be edited: it has @0 "
           "characters, and a field takes up to @1"),
       {ToUTF16(std::to_string(inText.size())), ToUTF16(std::to_string(kMostEdited))}));

@@ -88,9 +88,9 @@ TEST(OutlineListFuzz, FollowsAnyEdits) {
     Host host("a [b c [d e]] f [g] h");
     Model model(host);
     auto& document = host.GetDocument();
-    const auto any = [&] {
+    const auto any = [&]() -> OutlineRow* {
       const auto& lines = document.GetTree().GetLines();
-      return lines[upTo(lines.size())];
+      return lines.empty() ? &edits::NewSibling(document) : lines[upTo(lines.size())];
     };
     const std::function<void()> steps[] = {
         [&] {

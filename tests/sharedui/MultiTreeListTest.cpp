@@ -239,6 +239,19 @@ TEST_F(MultiTreeLists, SelectRangesByTheKeyboard) {
   Click(60, 10);  // sorts, and leaves the keyboard to the rows
   EXPECT_FALSE(mList->GetSortIsAscending());
   EXPECT_EQ(key(Code::kEnd, 0), "1 2 3 4 5*");
+  // What does not show leaves the selection as well.
+  const NodeP top = Row(6), below = Row(7);
+  mList->InsertItem(top);
+  mList->InsertItem(below, top.get());
+  mList->SelectEntry(below.get(), false);
+  mList->SelectEntry(top.get(), true);
+  mList->CollapseNode(top.get(), true);
+  EXPECT_EQ(key(Code::kUpArrow, ui::kModShift), "1 2 3 4 5* 6*");
+  EXPECT_FALSE(below->Selected(mList->GetSelectionManager()));
+  EXPECT_EQ(key(Code::kEnd, 0), "1 2 3 4 5 6*");
+  EXPECT_EQ(key(Code::kLeftArrow, 0), "1 2 3 4 5 6*") << "above it is the root, which is no row";
+  mList->RemoveItem(top.get());
+  key(Code::kEnd, 0);
   mList->SetIsSingleSelect(true);
   EXPECT_EQ(key(Code::kUpArrow, ui::kModShift), "1 2 3 4* 5");
   EXPECT_EQ(key(Code::kPageUp, ui::kModShift), "1 2* 3 4 5") << "of three that show";

@@ -38,7 +38,18 @@ QImage WholePicture() {
 }
 
 std::string Difference(const QImage& inShown, const QImage& inWhole) {
-  if (getenv("DUMP")) { static int n = 0; ++n; QImage d(inShown.size(), QImage::Format_RGB32); for (int y = 0; y < d.height(); ++y) for (int x = 0; x < d.width(); ++x) d.setPixel(x, y, inShown.pixel(x,y) == inWhole.pixel(x,y) ? 0xff000000 : 0xffffffff); std::string p = std::string(getenv("DUMP")) + std::to_string(n); inShown.save((p + "s.png").c_str()); inWhole.save((p + "w.png").c_str()); d.save((p + "d.png").c_str()); }
+  if (getenv("DUMP")) {
+    static int n = 0;
+    ++n;
+    QImage d(inShown.size(), QImage::Format_RGB32);
+    for (int y = 0; y < d.height(); ++y)
+      for (int x = 0; x < d.width(); ++x)
+        d.setPixel(x, y, inShown.pixel(x, y) == inWhole.pixel(x, y) ? 0xff000000 : 0xffffffff);
+    std::string p = std::string(getenv("DUMP")) + std::to_string(n);
+    inShown.save((p + "s.png").c_str());
+    inWhole.save((p + "w.png").c_str());
+    d.save((p + "d.png").c_str());
+  }
   if (inShown.size() != inWhole.size()) return "other sizes";
   if (inShown == inWhole) return "";
   int count = 0;
