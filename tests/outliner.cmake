@@ -6,6 +6,7 @@ vek_test(outliner_tests
     hosts/HistoryTest.cpp
     hosts/MapGesturesTest.cpp
     hosts/MapLayoutTest.cpp
+    hosts/MapRepaintTest.cpp
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
@@ -19,10 +20,19 @@ vek_test(outliner_tests
     hosts/ShortcutsTest.cpp
     hosts/ToolPanelsTest.cpp
     hosts/SearchTest.cpp
+    support/ShownPicture.cpp
     support/UIApplication.cpp
-  LIBRARIES outliner_core)
+  LIBRARIES outliner_core Qt6::Widgets)
 vek_embed_resources(outliner_tests
   FILES ${PROJECT_SOURCE_DIR}/examples/outliner/resources/DefaultKeyMap.xml)
+
+# Pictures where a unit is no whole number of pixels.
+foreach(scale 1.25 1.5 2)
+  add_test(NAME outliner_pictures_at_${scale}
+    COMMAND outliner_tests --gtest_brief=1 --gtest_filter=MapRepaints.*)
+  set_tests_properties(outliner_pictures_at_${scale} PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale}" TIMEOUT 300)
+endforeach()
 
 add_test(NAME outliner_program COMMAND ${CMAKE_COMMAND}
   -DPROGRAM=$<TARGET_FILE:vek_outliner> -DSOURCE_DIR=${PROJECT_SOURCE_DIR}

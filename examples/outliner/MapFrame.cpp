@@ -19,13 +19,20 @@ constexpr float kLeastRoundBox = 6;
 constexpr float kLeastBranchPixels = 1;
 constexpr float kLeastLinePixels = 0.75f;
 
+// What ends beside the damage may be drawn on pixels in it, as all ends are on whole pixels.
+MapFrame::Rect GrownByAPixel(const MapFrame::Rect& inRect, float inPixelsX, float inPixelsY) {
+  if (inRect.IsEmpty()) return inRect;
+  return MapFrame::Rect(inRect.x - 1 / inPixelsX, inRect.y - 1 / inPixelsY,
+                        inRect.width + 2 / inPixelsX, inRect.height + 2 / inPixelsY);
+}
+
 }  // namespace
 
 MapFrame::MapFrame(const MapLayout& inLayout, const Source* inSource, const Rect& inDamage,
                    const Point& inScale, const Point& inOrigin, float inRatio)
     : layout(inLayout),
       source(inSource),
-      damage(inDamage),
+      damage(GrownByAPixel(inDamage, inScale.x * inRatio, inScale.y * inRatio)),
       scale(inScale),
       origin(inOrigin),
       ratio(inRatio),
@@ -119,14 +126,15 @@ void MapFrame::VisitChildren(Index inIndex) {
   const float reach = showsLines ? 2 * kBend : kRing;
   const float leastBand = kLeastBranchPixels / (scale.y * ratio);
   const Index end = MapLayout::EndOfChildren(parent);
-  Index index = layout.FirstChildBelow(parent, damage.y - reach);
+  // From the start of a line of pixels, so that each paint finds the same child first in it.
+  Index index = layout.FirstChildBelow(parent, StartOfLine(PixelY(damage.y - reach)));
   while (index < end && layout.GetNode(index).top < damage.Bottom() + reach) {
     const Node& child = layout.GetNode(index);
     if (child.bottom - child.top < leastBand) {
-      // All that ends in this line of pixels.
+      // All that begins in this line.
       AddSpeck(maplook::LevelOf(child.depth),
                Rect(child.left, child.top, child.right - child.left, leastBand));
-      index = layout.NextChildBelow(parent, index, child.top + leastBand);
+      index = NextLine(parent, index, leastBand);
       continue;
     }
     if (showsLines) AddTwig(parent, child);
@@ -138,6 +146,22 @@ void MapFrame::VisitChildren(Index inIndex) {
 }
 
 // What all children have in common: the way out of the parent, and up and down beside it.
+// In units of the map: what is below it is drawn on the line of pixels, or on a later one.
+float MapFrame::StartOfLine(float inPixelY) const {
+  return ((inPixelY - 0.5f) / ratio - origin.y) / scale.y;
+}
+
+// The first child that begins below the line of pixels on which the given one is drawn, or that is
+// too high to be a part of a speck.
+MapFrame::Index MapFrame::NextLine(const Node& inParent, Index inChild, float inLeastBand) const {
+  const float y = StartOfLine(PixelY(layout.GetNode(inChild).top) + 1);
+  const Index next = std::max(layout.NextChildBelow(inParent, inChild, y), inChild);
+  if (next == inChild) return inChild + 1;
+  if (next == MapLayout::EndOfChildren(inParent)) return next;
+  const Node& node = layout.GetNode(next);
+  return node.top < y && node.bottom - node.top < inLeastBand ? next + 1 : next;
+}
+
 void MapFrame::AddTrunk(const Node& inNode) {
   const std::size_t level = maplook::LevelOf(inNode.depth);
   const float start = inNode.left + inNode.width;

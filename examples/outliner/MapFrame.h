@@ -55,7 +55,7 @@ struct MapFrame {
 
   const MapLayout& layout;
   const Source* const source;
-  const Rect damage;
+  const Rect damage;  // and a pixel around it
   const Point scale;
   const Point origin;
   const float ratio;
@@ -72,6 +72,8 @@ struct MapFrame {
  private:
   void Visit(Index inIndex);
   void VisitChildren(Index inIndex);
+  float StartOfLine(float inPixelY) const;
+  Index NextLine(const Node& inParent, Index inChild, float inLeastBand) const;
   void AddTrunk(const Node& inNode);
   void AddTwig(const Node& inParent, const Node& inChild);
   void AddSpeck(std::size_t inLevel, const Rect& inRect);

@@ -18,6 +18,12 @@ namespace outliner {
 using lumui::ui::KeyboardCode;
 using lumui::ui::KeyboardEvent;
 
+namespace {
+
+constexpr float kBandReach = 2;  // local units
+
+}  // namespace
+
 MapOverlay::MapOverlay(vek::trackview::TrackView& inTrackView, vek::sharedui::MarqeeOverlay& inBand,
                        Functions inFunctions)
     : Overlay(maplayers::kMap, kStateActive),
@@ -112,7 +118,23 @@ void MapOverlay::GiveUpGesture() {
   mScene.SetDropTarget(MapLayout::kNone);
   mScene.HideGhost();
   mScene.SetBand({});
-  mBand.SetMarqueeRect(vek::trackview::Rect());
+  ShowBand(vek::trackview::Rect());
+}
+
+void MapOverlay::ShowBand(const vek::trackview::Rect& inDataRect) {
+  InvalidateBand();
+  mBand.SetMarqueeRect(inDataRect);
+  mBandRect = inDataRect;
+  InvalidateBand();
+}
+
+// With the outer half of its line, which the band itself leaves out where it is new.
+void MapOverlay::InvalidateBand() {
+  if (mBandRect.IsEmpty()) return;
+  const float reach = kBandReach / mTrackView.GetCoordScale();
+  mTrackView.GetPlatformView().InvalidateDataRect(
+      vek::trackview::Rect(mBandRect.x - reach, mBandRect.y - reach, mBandRect.width + 2 * reach,
+                           mBandRect.height + 2 * reach));
 }
 
 bool MapOverlay::DoWantsDragDropEvents() const {

@@ -64,14 +64,16 @@ class MapOverlay final : public vek::trackview::Overlay {
   void BeginGesture() { mIsGivenUp = false; }
   void GiveUpGesture();
   bool IsGivenUp() const { return mIsGivenUp; }
-  vek::sharedui::MarqeeOverlay& GetBand() { return mBand; }
+  void ShowBand(const vek::trackview::Rect& inDataRect);  // empty for none
   vek::trackview::TrackView& GetTrackView() { return mTrackView; }
 
  private:
   bool StepSideways(bool inToChild);
+  void InvalidateBand();
 
   vek::trackview::TrackView& mTrackView;
   vek::sharedui::MarqeeOverlay& mBand;
+  vek::trackview::Rect mBandRect;
   Functions mFunctions;
   MapScene mScene;
   OutlineRow::Id mAnchor = 0;

@@ -84,7 +84,7 @@ class MapOverviewOverlay final : public vek::trackview::Overlay {
     Rect area(0, 0, size.x, size.y);
     mOverview.DataToLocal(area);
     area.x = area.y = 0;
-    inDrawbot.FillRect(area, palette::Strip());
+    inDrawbot.FillRect(inDrawbot.GetClipBounds(), palette::Strip());
     if (mScene) {
       NeedPicture(inDrawbot.GetScale(), end);
       inDrawbot.DrawImage(*mPicture, Point());

@@ -102,10 +102,11 @@ MapMark MapScene::MarkOf(const MapPainter::Node& inNode) const {
   return mIsFocused ? MapMark::kSelected : MapMark::kIdleSelected;
 }
 
-void MapScene::Invalidate(Rect inRect) {
-  inRect =
-      Rect(inRect.x - kRing, inRect.y - kRing, inRect.width + 2 * kRing, inRect.height + 2 * kRing);
-  mTrackView.GetPlatformView().InvalidateDataRect(inRect);
+// Boxes lie on whole pixels, which may be one beside where they are.
+void MapScene::Invalidate(const Rect& inRect) {
+  const float reach = kRing + 1 / mTrackView.GetCoordScale();
+  mTrackView.GetPlatformView().InvalidateDataRect(Rect(
+      inRect.x - reach, inRect.y - reach, inRect.width + 2 * reach, inRect.height + 2 * reach));
 }
 
 void MapScene::InvalidateAll() {

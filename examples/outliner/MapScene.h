@@ -63,7 +63,7 @@ class MapScene {
  private:
   MapMark MarkOf(const MapPainter::Node& inNode) const;
   Rect GetGhostBox() const;
-  void Invalidate(Rect inRect);
+  void Invalidate(const Rect& inRect);
   // A row of which something is to be seen, the first selected one before others; kNone for none.
   Index FindLandmark() const;
 

@@ -190,14 +190,14 @@ std::vector<MapLayout::Index> MapBandTracker::FindBoxes(const Point& inDataPoint
 void MapBandTracker::ContinueTracking(Modifiers inModifiers, const Point& inDataPoint) {
   if (mOverlay.IsGivenUp() || !mOverlay.GetScene().GetDocument()) return;
   Tracker::ContinueTracking(inModifiers, inDataPoint);
-  mOverlay.GetBand().SetMarqueeRect(RectBetween(mStart, inDataPoint));
+  mOverlay.ShowBand(RectBetween(mStart, inDataPoint));
   mOverlay.GetScene().SetBand(FindBoxes(inDataPoint));
 }
 
 void MapBandTracker::EndTracking(Modifiers inModifiers, const Point& inDataPoint,
                                  bool inCompleted) {
   MapScene& scene = mOverlay.GetScene();
-  mOverlay.GetBand().SetMarqueeRect(Rect());
+  mOverlay.ShowBand(Rect());
   scene.SetBand({});
   if (mOverlay.IsGivenUp() || !inCompleted || !scene.GetDocument()) return;
   std::vector<OutlineRow*> rows;

@@ -97,8 +97,9 @@ void NotesView::ShowNote() {
                 : mDocument ? "$$$/outliner/Notes/NoRow=Select one row to read or write its note"
                             : "$$$/outliner/Notes/NoDocument=No outline is open"));
   const UTF16String title = row ? row->GetText() : UTF16String();
-  if (title == mTitle) return;
+  if (title == mTitle && id == mTitledRow) return;
   mTitle = title;
+  mTitledRow = id;
   UI_InvalidateAll();
 }
 

@@ -5,13 +5,10 @@
 
 #include <string>
 
-#include "hosts/OutlineText.h"
-#include "hosts/RunningOutliner.h"
+#include "hosts/MapHost.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/testing/SyntheticInput.h"
-#include "outliner/MapPane.h"
 #include "outliner/OutlineEdits.h"
-#include "vek/trackview/TrackView.h"
 
 namespace {
 
@@ -20,60 +17,12 @@ using lumui::testing::ForeignDrag;
 using lumui::testing::Position;
 using lumui::ui::ModifierKeys;
 using outliner::MapLayout;
-using tests::RunningOutliner;
+using Host = tests::MapHost;
 using vek::trackview::Point;
 using vek::trackview::Rect;
 
 constexpr unsigned char kShift = lumui::ui::kModShift;
 constexpr unsigned char kCtrl = lumui::ui::kModCommand;
-
-// The outliner with the map in front and the keyboard in it.
-class Host : public RunningOutliner {
- public:
-  explicit Host(const std::string& inOutline) : RunningOutliner(inOutline) {
-    GetWindow().UI_SetSize(1800, 1100);
-    Keys("Ctrl+4");
-  }
-
-  outliner::MapPane& Map() { return *GetApp().FindMap(); }
-  vek::trackview::TrackView& Track() { return Map().GetTrackView(); }
-  const MapLayout& Layout() { return Map().GetScene().GetLayout(); }
-  Rect Box(const std::string& inText) {
-    const auto* const row = tests::FindRow(GetDocument(), inText);
-    return Layout().GetBox(row ? Layout().FindRow(row->GetId()) : MapLayout::kRoot);
-  }
-  // A point of the map, in the window.
-  Position Place(Point inDataPoint) {
-    Track().DataToLocal(inDataPoint);
-    const Point origin = Track().LocalArea().Origin();
-    return PlaceIn("map", inDataPoint.x - origin.x, inDataPoint.y - origin.y);
-  }
-  Position Of(const std::string& inText) {
-    const Rect box = Box(inText);
-    return Place(Point(box.x + box.width / 2, box.y + box.height / 2));
-  }
-  void ClickOn(const std::string& inText, unsigned char inModifiers = 0) {
-    lumui::testing::ClickMouse(GetWindow(), Of(inText), lumui::ui::PointerEvent::kLeftButton,
-                               ModifierKeys(inModifiers));
-    lumui::testing::ProcessEvents();
-  }
-  void Drag(const Position& inFrom, const Position& inTo, unsigned char inModifiers = 0,
-            const std::string& inKeysBefore = "") {
-    using lumui::ui::PointerEvent;
-    const ModifierKeys keys(inModifiers);
-    const Position between((inFrom.x + inTo.x) / 2, (inFrom.y + inTo.y) / 2);
-    lumui::testing::PressMouse(GetWindow(), inFrom, PointerEvent::kLeftButton, keys);
-    lumui::testing::MoveMouse(GetWindow(), between, keys);
-    lumui::testing::MoveMouse(GetWindow(), inTo, keys);
-    Keys(inKeysBefore);
-    lumui::testing::ReleaseMouse(GetWindow(), inTo, PointerEvent::kLeftButton, keys);
-    lumui::testing::ProcessEvents();
-  }
-  bool IsInView(const std::string& inText) {
-    const Rect box = Box(inText);
-    return Track().DataArea().Intersection(box) == box;
-  }
-};
 
 // Taller than the view, so that it has to scroll.
 std::string Tall() {

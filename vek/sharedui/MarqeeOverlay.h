@@ -18,7 +18,8 @@ class VEK_API MarqeeOverlay : public trackview::Overlay {
   void DoImageRect(const trackview::Rect& inDataRect, lumui::drawbot::Drawbot& inDrawbot,
                    boost::intrusive_ptr<lumui::ui::Theme> inTheme) const override;
 
-  // In data units; an empty one draws nothing. Asks for drawing, of where the old one was as well.
+  // In data units; an empty one draws nothing. Asks for drawing, of where the old one was as well,
+  // but not of the outer half of the new one's line, 1.5 local units.
   void SetMarqueeRect(const trackview::Rect& inDataRect);
 
  private:

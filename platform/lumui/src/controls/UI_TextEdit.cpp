@@ -221,7 +221,11 @@ void UI_TextEdit::DoShowState() {
   auto* const area = static_cast<QPlainTextEdit*>(widget);
   if (TextOf(*area) != text) area->setPlainText(text);
   area->setReadOnly(mReadOnly);
-  area->setPlaceholderText(drawbot::ToQt(mPlaceholder));
+  if (const QString shown = drawbot::ToQt(mPlaceholder); area->placeholderText() != shown) {
+    area->setPlaceholderText(shown);
+    // Which draws nothing anew where one text takes the place of another.
+    area->viewport()->update();
+  }
   QTextCursor cursor = area->textCursor();
   if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
   cursor.setPosition(start);

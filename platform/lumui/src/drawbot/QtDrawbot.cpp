@@ -52,6 +52,20 @@ bool IsVisible(const Pen& inPen) {
   return inPen.width > 0 && inPen.color.alpha > 0;
 }
 
+bool IsOnPixels(const QRectF& inDevice) {
+  const auto isWhole = [](double inEdge) {
+    return std::abs(inEdge - std::round(inEdge)) < kPixelTolerance;
+  };
+  return isWhole(inDevice.left()) && isWhole(inDevice.top()) && isWhole(inDevice.right()) &&
+         isWhole(inDevice.bottom());
+}
+
+bool HasWholeUnits(const QPainter& inPainter) {
+  const QTransform& toDevice = inPainter.deviceTransform();
+  return toDevice.m11() == std::floor(toDevice.m11()) &&
+         toDevice.m22() == std::floor(toDevice.m22());
+}
+
 bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
   return std::abs(inDevice.width() - inPixels.width()) < kPixelTolerance &&
          std::abs(inDevice.height() - inPixels.height()) < kPixelTolerance;
@@ -60,7 +74,7 @@ bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
 }  // namespace
 
 QtDrawbot::QtDrawbot(QPainter& inPainter, const lumcore::geom::RectT<float>& inClipBounds)
-    : mPainter(inPainter) {
+    : mPainter(inPainter), mHasWholeUnits(HasWholeUnits(inPainter)) {
   mPainter.save();
   mPainter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                           QPainter::SmoothPixmapTransform);
@@ -127,9 +141,18 @@ Drawbot::Rect QtDrawbot::GetClipBounds() const {
 
 void QtDrawbot::FillRect(const Rect& inRect, const Brush& inBrush) {
   if (inRect.IsEmpty()) return;
+  const QRectF rect = ToQt(inRect);
+  // Where a unit has parts of pixels a float misses whole pixels by a little, which the painter
+  // would blend.
+  const bool snaps = !mHasWholeUnits && IsOnPixels(mPainter.deviceTransform().mapRect(rect));
+  if (snaps) mPainter.setRenderHint(QPainter::Antialiasing, false);
   // A colour alone is filled with faster than a brush of it.
-  if (!inBrush.IsGradient()) return mPainter.fillRect(ToQt(inRect), ToQt(inBrush.GetStartColor()));
-  mPainter.fillRect(ToQt(inRect), MakeBrush(inBrush));
+  if (inBrush.IsGradient()) {
+    mPainter.fillRect(rect, MakeBrush(inBrush));
+  } else {
+    mPainter.fillRect(rect, ToQt(inBrush.GetStartColor()));
+  }
+  if (snaps) mPainter.setRenderHint(QPainter::Antialiasing);
 }
 
 void QtDrawbot::StrokeRect(const Rect& inRect, const Pen& inPen) {

@@ -70,6 +70,7 @@ class QtDrawbot : public Drawbot {
   void DrawPixels(const QImage& inRaster, const QRectF& inDevice, const QTransform& inToDevice);
 
   QPainter& mPainter;
+  const bool mHasWholeUnits;   // a unit at construction is a number of whole pixels
   std::vector<State> mStates;  // the current one is the last
 };
 

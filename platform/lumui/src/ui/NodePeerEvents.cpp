@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <cmath>
 #include <functional>
 #include <vector>
 
@@ -55,6 +56,15 @@ WheelEvent::Touch TouchOf(Qt::ScrollPhase inPhase) {
     default:
       return WheelEvent::Touch::kNone;
   }
+}
+
+// The pixels that the painter's clip has of a part of the widget. An edge between two pixels would
+// be blended with what was there before, at each paint a little more.
+QRectF WholePixels(const QTransform& inToDevice, const QRect& inRect) {
+  const QRectF device = inToDevice.mapRect(QRectF(inRect));
+  const QRectF pixels(QPointF(std::floor(device.left() + 0.5), std::floor(device.top() + 0.5)),
+                      QPointF(std::floor(device.right() + 0.5), std::floor(device.bottom() + 0.5)));
+  return inToDevice.inverted().mapRect(pixels);
 }
 
 bool IsTabPress(const KeyboardEvent* inKey) {
@@ -241,11 +251,13 @@ void NodePeer::Paint(const QRegion& inDamage) {
   NotePlaces();
   const QRect drawn = widget->rect().adjusted(0, mChromeHeight, 0, 0);
   QPainter painter(widget);
+  const QTransform toDevice = painter.deviceTransform();
   painter.translate(-mContentOrigin.x, -mContentOrigin.y);
   const lumcore::utility::StScopedValue<bool> painting(EventGate::Get()->mPainting, true);
   EventGate::Get()->RunGuarded([&] {
     for (const QRect& rect : SplitDamage(inDamage & drawn)) {
-      const QRectF bounds = QRectF(rect).translated(mContentOrigin.x, mContentOrigin.y);
+      const QRectF bounds =
+          WholePixels(toDevice, rect).translated(mContentOrigin.x, mContentOrigin.y);
       drawbot::QtDrawbot drawbot(painter, drawbot::FromQt(bounds));
       mNode->UI_Draw(&drawbot);
     }

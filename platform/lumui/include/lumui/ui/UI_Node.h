@@ -84,6 +84,8 @@ class LUMUI_API UI_Node : public lumcore::utility::RefCountedObject, public UI_D
   void UI_SetDisabled(bool inDisabled);
   bool UI_IsDisabled() const { return mDisabled; }
   // Whether the node fills all of its rectangle at each paint, so that nothing behind it is drawn.
+  // It fills the drawbot's clip bounds first, which are whole pixels: with parts of pixels in a
+  // unit the edges of other rectangles are blended with what was there before.
   void UI_SetOpaque(bool inOpaque);
   void UI_SetToolTip(const lumcore::UTF16String& inText);
   const lumcore::UTF16String& UI_GetToolTip() const { return mToolTip; }
