@@ -10,6 +10,8 @@ vek_test(outliner_tests
     hosts/OpmlRoundTripTest.cpp
     hosts/OutlineDocumentTest.cpp
     hosts/OutlineEditsTest.cpp
+    hosts/OutlineListFuzzTest.cpp
+    hosts/OutlineListKeysTest.cpp
     hosts/OutlineListTest.cpp
     hosts/OutlineText.cpp
     hosts/OutlinerGesturesTest.cpp
@@ -23,8 +25,6 @@ vek_test(outliner_tests
     support/ShownPicture.cpp
     support/UIApplication.cpp
   LIBRARIES outliner_core Qt6::Widgets)
-vek_embed_resources(outliner_tests
-  FILES ${PROJECT_SOURCE_DIR}/examples/outliner/resources/DefaultKeyMap.xml)
 
 # Pictures where a unit is no whole number of pixels.
 foreach(scale 1.25 1.5 2)

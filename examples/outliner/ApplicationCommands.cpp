@@ -12,8 +12,8 @@
 #include "OwnFileDialog.h"
 #include "RowEditor.h"
 #include "Shortcuts.h"
+#include "Texts.h"
 #include "lumcore/config/ClientInfo.h"
-#include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/OS_Window.h"
@@ -26,10 +26,6 @@ using lumcore::filesupport::File;
 using vek::uisupport::CommandEnableQuery;
 
 namespace {
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 bool IsIn(int inCommand, int inBegin, int inEnd) {
   return inCommand >= inBegin && inCommand < inEnd;

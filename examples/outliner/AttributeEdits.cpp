@@ -10,7 +10,7 @@
 #include "OutlineEdit.h"
 #include "SetAttributeDeed.h"
 #include "SetTextDeed.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace outliner {
@@ -93,10 +93,6 @@ void Add(OutlineEdit& ioEdit, const OutlineDocument& inDocument, const OutlineRo
     ioEdit.Add<SetAttributeDeed>(inRow, inName,
                                  inValue ? Value(WithEndsOf(old, *inValue)) : Value());
   }
-}
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
 UTF16String DeedName(const UTF16String& inAttribute, bool inWasThere, bool inWillBeThere) {

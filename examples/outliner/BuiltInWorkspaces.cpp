@@ -8,7 +8,7 @@
 
 #include "ArchivedPanels.h"
 #include "Panels.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/proplist/PropList.h"
 #include "lumcore/proplist/Utils.h"
 #include "lumcore/utility/StringUtils.h"
@@ -28,10 +28,6 @@ constexpr int kNotesHeight = 170;
 constexpr int kNotesWidth = 380;
 constexpr int kCommandsWidth = 400;
 constexpr int kMapWidth = 560;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 // Tabs of which the first is open; the others keep a place beside it.
 PropList Group(int inSize, const Types& inTabs) {

@@ -10,7 +10,7 @@
 #include "FileCheck.h"
 #include "FileRecords.h"
 #include "OutlinerCommands.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace outliner {
@@ -24,10 +24,6 @@ namespace {
 constexpr int kLastId = 61439;  // behind it begin the ids of the system's menu commands
 
 constexpr const char* kElements[] = {"name", "displayname", "id", "description", "repeatable"};
-
-UTF16String Number(std::size_t inNumber) {
-  return ToUTF16(std::to_string(inNumber));
-}
 
 class CommandFileChecker {
  public:
@@ -44,7 +40,7 @@ class CommandFileChecker {
     for (int command = kCommandsBegin; command < kCommandsEnd; ++command) {
       if (mLineOfId.count(command) != 0) continue;
       mFindings.Add(1, "$$$/outliner/Check/MissingId=the command @0 is missing",
-                    Number(static_cast<std::size_t>(command)));
+                    NumberText(static_cast<std::size_t>(command)));
     }
   }
 
@@ -73,7 +69,7 @@ class CommandFileChecker {
     const auto [known, isNew] = mLineOfName.emplace(name, inRecord.line);
     if (isNew) return;
     mFindings.Add(inRecord.line, "$$$/outliner/Check/SameName=the name \"@0\" is taken by line @1",
-                  name, Number(known->second));
+                  name, NumberText(known->second));
   }
 
   void CheckId(const FileRecord& inRecord) {
@@ -81,7 +77,7 @@ class CommandFileChecker {
     int id = 0;
     if (!ReadWholeNumber(text, 1, kLastId, id)) {
       mFindings.Add(inRecord.line, "$$$/outliner/Check/Id=\"@0\" is no id from 1 to @1", text,
-                    Number(kLastId));
+                    NumberText(kLastId));
       return;
     }
     if (!IsOwnCommand(id)) {
@@ -91,13 +87,13 @@ class CommandFileChecker {
     const auto [known, isNew] = mLineOfId.emplace(id, inRecord.line);
     if (isNew) return;
     mFindings.Add(inRecord.line, "$$$/outliner/Check/SameId=the id @0 is taken by line @1", text,
-                  Number(known->second));
+                  NumberText(known->second));
   }
 
   void CheckTexts(const FileRecord& inRecord) {
     std::string key = ToStdString(inRecord.GetText("displayname"));
     if (!key.empty() && key.back() == ')') key.pop_back();
-    const UTF16String name = lumcore::config::Localizer::Get()->GetLocalizedString(key.c_str());
+    const UTF16String name = Localized(key.c_str());
     if (name.empty()) {
       mFindings.Add(inRecord.line,
                     "$$$/outliner/Check/NoDisplayName=there is no display name that gives a text");

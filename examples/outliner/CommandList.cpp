@@ -7,7 +7,7 @@
 #include <list>
 #include <vector>
 
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/DisplayWidth.h"
 #include "lumcore/utility/StringUtils.h"
 #include "vek/uisupport/CommandRegistry.h"
@@ -23,10 +23,6 @@ using vek::uisupport::CommandRegistry;
 namespace {
 
 using Row = std::vector<UTF16String>;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 template <class MakeRow>
 std::vector<Row> MakeRows(Row inHead, MakeRow inMakeRow) {

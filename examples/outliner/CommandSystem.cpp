@@ -9,14 +9,18 @@
 #include <string>
 
 #include "OutlinerCommands.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumui/ui/ModuleHandle.h"
+#include "lumui/utility/ResourceManager.h"
+#include "vek/app/App.h"
 #include "vek/uisupport/CommandRegistry.h"
 #include "vek/uisupport/KeyCommandManager.h"
 #include "vek/uisupport/ReportError.h"
 #include "vek/uisupport/SyntheticCmdMgr.h"
+#include "vek/uisupport/UserKeyMap.h"
 
 namespace outliner {
 
@@ -30,14 +34,13 @@ using vek::uisupport::KeyCommandManager;
 namespace {
 
 constexpr const char* kCommandFileName = "outliner.cmdreg.xml";
-constexpr const char* kKeyMapName = "DefaultKeyMap.xml";
+constexpr const char* kKeyMapName = "DefaultKeyMap";
 
 // Above the host's own ids, and below those of the system's menu commands.
 constexpr int kFirstSyntheticId = 32768;
 
 UTF16String Text(const char* inKey, std::initializer_list<UTF16String> inArguments) {
-  return lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), inArguments);
+  return lumcore::utility::ReplaceInString(Localized(inKey), inArguments);
 }
 
 void ThrowUnlessKnown(const File& inFile, int inCommand) {
@@ -123,7 +126,19 @@ CommandFiles FindCommandFiles() {
   const Dir program = Dir::AppDir();
   Dir folder(program, "Resources");
   if (!folder.Exists()) folder = Dir(Dir(program, OUTLINER_INSTALLED_RESOURCES).FullPath());
-  return {File(folder, kCommandFileName), File(folder, kKeyMapName)};
+  return {File(folder, kCommandFileName), std::nullopt};
+}
+
+lumcore::UTF8String BuiltInKeys() {
+  const lumui::utility::ResourceManager resources(
+      lumui::ui::ModuleOfAddress(reinterpret_cast<void*>(&BuiltInKeys)));
+  const auto bytes = resources.GetRequiredBinary(ToUTF16(kKeyMapName), "xml");
+  return lumcore::UTF8String(bytes.begin(), bytes.end());
+}
+
+const UTF16String& NameOfBuiltInKeys() {
+  static const UTF16String sName = ToUTF16(std::string(kKeyMapName) + ".xml");
+  return sName;
 }
 
 const lumcore::UTF8String& TextContext() {
@@ -160,7 +175,15 @@ CommandSystem::~CommandSystem() {
 
 void CommandSystem::LoadKeys() {
   KeyCommandManager::Init();
-  LoadKeysFrom(mFiles.keys);
+  LoadOwnKeys();
+}
+
+// A running program takes what the shortcut dialog takes for its default set.
+void CommandSystem::LoadOwnKeys() {
+  if (mFiles.keys) return LoadKeysFrom(*mFiles.keys);
+  KeyCommandManager::Get().LoadKeyMappingsFromBuffer(
+      vek::app::App::GetApp() ? vek::uisupport::GetDefaultKeyMap() : BuiltInKeys());
+  AddContextKeys();
 }
 
 void CommandSystem::LoadUserKeys(const File& inFile) {
@@ -188,7 +211,7 @@ void CommandSystem::LoadInPlaceOfOwn(const File& inFile, bool inMayBeEmpty) {
     cause = error.GetText();
   }
   // Before the report: a box lets events through.
-  LoadKeysFrom(mFiles.keys);
+  LoadOwnKeys();
   vek::uisupport::ReportError(
       Text("$$$/outliner/Keys/Fallback=@0. The outliner's own keys are used.", {cause}), 0, false);
 }

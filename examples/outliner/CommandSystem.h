@@ -3,20 +3,27 @@
 
 #pragma once
 
+#include <optional>
+
 #include "lumcore/Strings.h"
 #include "lumcore/filesupport/File.h"
 
 namespace outliner {
 
-// The files that the host's commands and keys come from.
+// What the host's commands and keys come from.
 struct CommandFiles {
   lumcore::filesupport::File commands;
-  lumcore::filesupport::File keys;
+  // In the place of the key map that is built into the program.
+  std::optional<lumcore::filesupport::File> keys;
 };
 
-// Those beside the program, as in the build tree, or else those of the installation. They need not
-// be there.
+// The command file beside the program, as in the build tree, or else that of the installation; it
+// need not be there.
 CommandFiles FindCommandFiles();
+
+// The key map that is built in, and the name for it in error texts.
+lumcore::UTF8String BuiltInKeys();
+const lumcore::UTF16String& NameOfBuiltInKeys();
 
 // The name for key maps of what has the keyboard while a text is edited.
 const lumcore::UTF8String& TextContext();
@@ -52,6 +59,7 @@ class CommandSystem {
   static void AddLostKeys();
 
  private:
+  void LoadOwnKeys();
   void LoadInPlaceOfOwn(const lumcore::filesupport::File& inFile, bool inMayBeEmpty);
 
   // The ids for commands without one.

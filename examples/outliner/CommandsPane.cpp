@@ -8,7 +8,7 @@
 
 #include "CommandsView.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/Drawbot.h"
 
@@ -41,8 +41,7 @@ CommandsPane::CommandsPane(std::function<void(int)> inRun)
       lumcore::utility::Flags<unsigned int>(UI_ScrollView::kNoHorizontalBar), mList));
   mList->SetScrollView(mScrollView.get());
   mSearch->UI_SetNodeID("search");
-  mSearch->SetPlaceholder(lumcore::config::Localizer::Get()->GetLocalizedString(
-      "$$$/outliner/Commands/Search=Search the commands"));
+  mSearch->SetPlaceholder(Localized("$$$/outliner/Commands/Search=Search the commands"));
   mSearch->NotifyWhenChangedInteractively(mEdited);
   UI_AddChild(mSearch);
   UI_AddChild(mScrollView);

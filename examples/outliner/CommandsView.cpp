@@ -9,7 +9,7 @@
 
 #include "CommandList.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/Drawbot.h"
@@ -284,8 +284,7 @@ void CommandsView::UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const {
   inDrawbot->FillRect(clip, palette::Paper());
   if (mLines.empty()) {
     const auto font = inDrawbot->GetSupplier()->NewFont(nullptr, kNameSize);
-    inDrawbot->DrawStringInRect(lumcore::config::Localizer::Get()->GetLocalizedString(
-                                    "$$$/outliner/Commands/None=No command has this text"),
+    inDrawbot->DrawStringInRect(Localized("$$$/outliner/Commands/None=No command has this text"),
                                 font, palette::FaintInk(),
                                 {kMargin, kNameTop, UI_GetLocalRectF().width, kTextHeight});
     return;

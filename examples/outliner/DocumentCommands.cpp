@@ -8,7 +8,7 @@
 #include "OutlineEdits.h"
 #include "OutlinerCommands.h"
 #include "RowEditor.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "vek/undo/Deed.h"
 
@@ -80,8 +80,8 @@ void DocumentCommands::AddTextCommands() {
   mEntries[kCommandNewChild] = {
       always, [this] { mDocument.GetEditor().Begin(edits::NewChild(mDocument)); }, nullptr};
   mEntries[kCommandEditText] = {
-      [this] { return mDocument.GetSelectedRows().size() == 1; },
-      [this] { mDocument.GetEditor().Begin(*mDocument.GetSelectedRows().front()); }, nullptr};
+      [this] { return mDocument.GetOnlySelectedRow() != nullptr; },
+      [this] { mDocument.GetEditor().Begin(*mDocument.GetOnlySelectedRow()); }, nullptr};
   mEntries[kCommandGiveUpText] = {[this] { return mDocument.GetEditor().IsActive(); },
                                   [this] { mDocument.GetEditor().Cancel(); }, nullptr};
 }
@@ -97,8 +97,7 @@ void DocumentCommands::AddUndo() {
 
 UTF16String DocumentCommands::UndoTitle() const {
   if (mDocument.IsTyping()) {
-    return lumcore::config::Localizer::Get()->GetLocalizedString(
-        "$$$/outliner/Command/UndoTyping=Undo Typing");
+    return Localized("$$$/outliner/Command/UndoTyping=Undo Typing");
   }
   const vek::undo::Deed* deed = mDocument.GetUndoer().CouldUndoDeed();
   return deed ? deed->GetUndoDescription() : TitleOfCommand(kCommandUndo);

@@ -10,7 +10,7 @@
 #include "DocumentTabs.h"
 #include "OutlineDocument.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
@@ -25,10 +25,6 @@ namespace {
 
 constexpr float kHintSize = 14;
 constexpr float kHintTop = 60;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 }  // namespace
 

@@ -9,7 +9,7 @@
 
 #include "CommandSystem.h"
 #include "DocumentCommands.h"
-#include "FindField.h"
+#include "LineField.h"
 #include "OutlineDocument.h"
 #include "OutlineEntries.h"
 #include "OutlineList.h"
@@ -18,8 +18,8 @@
 #include "Palette.h"
 #include "RowEditor.h"
 #include "StatusLine.h"
+#include "Texts.h"
 #include "TitleStrip.h"
-#include "lumcore/config/Localizer.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "vek/uisupport/KeyCommandManager.h"
@@ -37,14 +37,6 @@ constexpr float kFindMargin = 6;
 constexpr float kFindLeft = 18;  // below the title
 constexpr float kFindBand = kFindHeight + 2 * kFindMargin;
 constexpr float kMostFindWidth = 360;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
-
-UTF16String Number(std::size_t inNumber) {
-  return ToUTF16(std::to_string(inNumber));
-}
 
 }  // namespace
 
@@ -73,7 +65,7 @@ DocumentPane::~DocumentPane() {
 void DocumentPane::Detach() {
   if (!mDocument) return;
   mFunctions = Functions();
-  mFind->SetFunctions(FindField::Functions());
+  mFind->SetFunctions(LineField::Functions());
   mDocument->SetChangedFunction(nullptr);
   mDocument->GetEditor().SetChangedFunction(nullptr);
   mDocument->GetCommands().SetRowSteps({});
@@ -92,14 +84,15 @@ void DocumentPane::BuildNodes() {
   functions.getColumns = mFunctions.getColumns;
   functions.keepColumns = mFunctions.keepColumns;
   mList.reset(new OutlineList(*mDocument, std::move(functions)));
-  mFind.reset(new FindField);
+  mFind.reset(new LineField);
   mFind->SetPlaceholder(Localized("$$$/outliner/Find/Placeholder=Find rows"));
-  mFind->SetFunctions({[this](const UTF16String& inText) { Find(inText); },
-                       [this] {
-                         FocusRows();
-                         if (mDocument->GetSelectedRows().empty()) mList->GetRows().Step(true);
-                       },
-                       [this] { FocusChanged(); }});
+  mFind->UI_SetNodeID("find");
+  const auto focusRows = [this] {
+    FocusRows();
+    if (mDocument->CountSelectedRows() == 0) mList->GetRows().Step(true);
+  };
+  mFind->SetFunctions({[this](const UTF16String& inText) { Find(inText); }, focusRows, focusRows,
+                       focusRows, [this] { FocusChanged(); }});
   mStatusLine.reset(new StatusLine);
   UI_AddChild(mTitleStrip);
   UI_AddChild(mFind);
@@ -135,7 +128,7 @@ void DocumentPane::FocusFind() {
 
 void DocumentPane::Find(const UTF16String& inText) {
   mDocument->CommitTyping();
-  mList->GetRows().SetFilter(OutlineFilter(inText));
+  mList->GetRows().SetFilter(TextSearch({inText}));
   ShowState();
 }
 
@@ -202,14 +195,14 @@ UTF16String DocumentPane::DescribeCounts() const {
   const UTF16String counts =
       ReplaceInString(Localized(rows == 1 ? "$$$/outliner/Status/OneRow=@0 row"
                                           : "$$$/outliner/Status/Rows=@0 rows"),
-                      {Number(rows)});
+                      {NumberText(rows)});
   if (!mList->GetRows().GetEntries()->GetFilter().IsEmpty()) {
     return ReplaceInString(Localized("$$$/outliner/Status/Found=@0 of @1 shown"),
-                           {Number(mList->GetRows().CountShownRows()), counts});
+                           {NumberText(mList->GetRows().CountShownRows()), counts});
   }
   if (mSelectedCount == 0) return counts;
   return ReplaceInString(Localized("$$$/outliner/Status/Selected=@0, @1 selected"),
-                         {counts, Number(mSelectedCount)});
+                         {counts, NumberText(mSelectedCount)});
 }
 
 UTF16String DocumentPane::DescribeNews() const {

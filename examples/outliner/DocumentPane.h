@@ -15,7 +15,7 @@
 
 namespace outliner {
 
-class FindField;
+class LineField;
 class OutlineDocument;
 class OutlineList;
 class StatusLine;
@@ -76,7 +76,7 @@ class DocumentPane final
   OutlineDocument* mDocument;
   Functions mFunctions;
   boost::intrusive_ptr<TitleStrip> mTitleStrip;
-  boost::intrusive_ptr<FindField> mFind;
+  boost::intrusive_ptr<LineField> mFind;
   boost::intrusive_ptr<OutlineList> mList;
   boost::intrusive_ptr<StatusLine> mStatusLine;
   std::size_t mSelectedCount = 0;

@@ -8,8 +8,8 @@
 #include <ostream>
 
 #include "FileRecords.h"
+#include "Texts.h"
 #include "lumcore/config/ClientInfo.h"
-#include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 
@@ -22,8 +22,7 @@ using lumcore::utility::ToUTF16;
 namespace {
 
 UTF16String Text(const char* inKey, std::initializer_list<UTF16String> inArguments) {
-  return lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), inArguments);
+  return lumcore::utility::ReplaceInString(Localized(inKey), inArguments);
 }
 
 // What keeps a file from being read to its end is a finding as well. False for that.
@@ -51,6 +50,12 @@ std::vector<std::string> CheckIdentity() {
   return findings;
 }
 
+std::vector<FileRecord> ReadKeys(const CommandFiles& inFiles) {
+  constexpr const char* kRecord = "keycmd";
+  return inFiles.keys ? ReadRecords(*inFiles.keys, kRecord)
+                      : ReadRecords(BuiltInKeys(), NameOfBuiltInKeys(), kRecord);
+}
+
 }  // namespace
 
 bool HasReservedCharacter(const UTF16String& inText) {
@@ -61,11 +66,13 @@ bool HasReservedCharacter(const UTF16String& inText) {
 bool CheckFiles(const CommandFiles& inFiles, std::ostream& outStream) {
   std::vector<CheckedCommand> commands;
   std::size_t keys = 0;
-  Findings ofCommands(inFiles.commands);
-  Findings ofKeys(inFiles.keys);
+  const std::string nameOfKeys =
+      inFiles.keys ? inFiles.keys->GetPath() : ToStdString(NameOfBuiltInKeys());
+  Findings ofCommands(inFiles.commands.GetPath());
+  Findings ofKeys(nameOfKeys);
   // Without all the commands, the keys could only be said to have none.
   if (Try(ofCommands, [&] { commands = CheckCommandFile(inFiles.commands, ofCommands); }))
-    Try(ofKeys, [&] { keys = CheckKeyMap(inFiles.keys, commands, ofKeys); });
+    Try(ofKeys, [&] { keys = CheckKeyMap(ReadKeys(inFiles), commands, ofKeys); });
   std::vector<std::string> all = CheckIdentity();
   for (const Findings* findings : {&ofCommands, &ofKeys})
     all.insert(all.end(), findings->GetTexts().begin(), findings->GetTexts().end());
@@ -75,7 +82,7 @@ bool CheckFiles(const CommandFiles& inFiles, std::ostream& outStream) {
   const UTF16String done =
       Text("$$$/outliner/Check/Done=@0: @1 commands, @2: @3 keys, nothing found",
            {ToUTF16(inFiles.commands.GetPath()), ToUTF16(std::to_string(commands.size())),
-            ToUTF16(inFiles.keys.GetPath()), ToUTF16(std::to_string(keys))});
+            ToUTF16(nameOfKeys), ToUTF16(std::to_string(keys))});
   outStream << ToStdString(done) << "\n";
   return true;
 }

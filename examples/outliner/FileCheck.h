@@ -24,12 +24,13 @@ struct CheckedCommand {
 };
 
 class Findings;
+struct FileRecord;
 
-// Both throw FileError and ParseError.
+// Throws FileError and ParseError.
 std::vector<CheckedCommand> CheckCommandFile(const lumcore::filesupport::File& inFile,
                                              Findings& ioFindings);
 // The number of entries.
-std::size_t CheckKeyMap(const lumcore::filesupport::File& inFile,
+std::size_t CheckKeyMap(const std::vector<FileRecord>& inRecords,
                         const std::vector<CheckedCommand>& inCommands, Findings& ioFindings);
 
 // Files of the framework carry such texts as they are, so that these characters would break them.

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "OwnFileDialog.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/FileDialog.h"
 #include "lumui/dialogs/MessageDialog.h"
@@ -25,13 +25,11 @@ namespace {
 constexpr const char* kExtension = "opml";
 
 // In the order of the buttons.
+constexpr ChangedFileAnswer kChangedFileAnswers[] = {
+    ChangedFileAnswer::kOverwrite, ChangedFileAnswer::kSaveAs, ChangedFileAnswer::kCancel};
 constexpr Response kAnswers[] = {vek::uisupport::Alert::eResponseYes,
                                  vek::uisupport::Alert::eResponseNo,
                                  vek::uisupport::Alert::eResponseCancel};
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 // Whoever answers in the place of the user answers the system's dialog.
 bool HasAnswerer() {
@@ -80,6 +78,24 @@ Response AskToSave(const UTF16String& inTitle) {
   args.icon = lumui::dialogs::MessageIcon::kQuestion;
   args.owner = dynamic_cast<lumui::ui::OS_Window*>(vek::uisupport::FindMainWindow());
   return kAnswers[lumui::dialogs::RunMessageDialog(args)];
+}
+
+// The usual button is the one by which nobody loses anything.
+ChangedFileAnswer AskAboutChangedFile(const UTF16String& inTitle) {
+  lumui::dialogs::MessageDialogArgs args;
+  args.title = Localized("$$$/outliner/Changed/Title=Changed by another program");
+  args.text = lumcore::utility::ReplaceInString(
+      Localized("$$$/outliner/Changed/Text=Another program has changed \"@0\" since it was opened "
+                "or saved here. If it is overwritten, those changes are lost."),
+      {inTitle});
+  args.buttons = {Localized("$$$/outliner/Changed/Overwrite=Overwrite"),
+                  Localized("$$$/outliner/Changed/SaveAs=Save As..."),
+                  Localized("$$$/outliner/Changed/Cancel=Cancel")};
+  args.defaultButton = 1;
+  args.cancelButton = 2;
+  args.icon = lumui::dialogs::MessageIcon::kWarning;
+  args.owner = dynamic_cast<lumui::ui::OS_Window*>(vek::uisupport::FindMainWindow());
+  return kChangedFileAnswers[lumui::dialogs::RunMessageDialog(args)];
 }
 
 }  // namespace outliner

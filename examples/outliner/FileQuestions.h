@@ -23,4 +23,8 @@ lumcore::UTF16String AskForFileToSave(const lumcore::UTF16String& inPath,
 // Whether the changes to a document are saved before it is closed: yes, no or cancel.
 vek::uisupport::Alert::Response AskToSave(const lumcore::UTF16String& inTitle);
 
+enum class ChangedFileAnswer { kOverwrite, kSaveAs, kCancel };
+// What becomes of a save over a file that another program has changed meanwhile.
+ChangedFileAnswer AskAboutChangedFile(const lumcore::UTF16String& inTitle);
+
 }  // namespace outliner

@@ -7,7 +7,7 @@
 #include <memory>
 #include <utility>
 
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumcore/xml/Parser.h"
 
@@ -55,6 +55,12 @@ class RecordHandler : public lumcore::xml::AbstractParseHandler {
   bool mTakesText = false;
 };
 
+std::auto_ptr<lumcore::xml::Parser> MakeParser(const char* inRecordName,
+                                               std::vector<FileRecord>& outRecords) {
+  return lumcore::xml::GetParser(std::auto_ptr<lumcore::xml::AbstractParseHandler>(
+      new RecordHandler(inRecordName, outRecords)));
+}
+
 }  // namespace
 
 UTF16String FileRecord::GetText(const char* inName) const {
@@ -68,16 +74,21 @@ UTF16String FileRecord::GetText(const char* inName) const {
 std::vector<FileRecord> ReadRecords(const lumcore::filesupport::File& inFile,
                                     const char* inRecordName) {
   std::vector<FileRecord> records;
-  const auto parser = lumcore::xml::GetParser(
-      std::auto_ptr<lumcore::xml::AbstractParseHandler>(new RecordHandler(inRecordName, records)));
-  parser->Parse(inFile);
+  MakeParser(inRecordName, records)->Parse(inFile);
+  return records;
+}
+
+std::vector<FileRecord> ReadRecords(const lumcore::UTF8String& inBytes, const UTF16String& inName,
+                                    const char* inRecordName) {
+  std::vector<FileRecord> records;
+  MakeParser(inRecordName, records)->Parse(inBytes, inName);
   return records;
 }
 
 void Findings::Add(std::size_t inLine, const char* inKey, const UTF16String& inFirst,
                    const UTF16String& inSecond) {
-  const UTF16String cause = lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {inFirst, inSecond});
+  const UTF16String cause =
+      lumcore::utility::ReplaceInString(Localized(inKey), {inFirst, inSecond});
   mTexts.push_back(mPath + ":" + std::to_string(inLine) + ": " + ToStdString(cause));
 }
 

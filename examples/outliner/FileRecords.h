@@ -34,11 +34,14 @@ struct FileRecord {
 // Throws FileError and ParseError.
 std::vector<FileRecord> ReadRecords(const lumcore::filesupport::File& inFile,
                                     const char* inRecordName);
+// Of a file's bytes, whose name stands in errors.
+std::vector<FileRecord> ReadRecords(const lumcore::UTF8String& inBytes,
+                                    const lumcore::UTF16String& inName, const char* inRecordName);
 
 // What is wrong with a file, "path:line: cause" each, in the order found.
 class Findings {
  public:
-  explicit Findings(const lumcore::filesupport::File& inFile) : mPath(inFile.GetPath()) {}
+  explicit Findings(const std::string& inPath) : mPath(inPath) {}
 
   // Placeholders of the key's text are replaced.
   void Add(std::size_t inLine, const char* inKey, const lumcore::UTF16String& inFirst = {},

@@ -8,9 +8,8 @@
 
 #include "OutlineDocument.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
-#include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "vek/undo/Deed.h"
@@ -28,10 +27,6 @@ constexpr float kMargin = 12;
 constexpr float kMarkSize = 7;
 constexpr float kMarkRoom = 18;
 constexpr float kTextSize = 13;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 }  // namespace
 
@@ -125,20 +120,6 @@ void HistoryView::DrawLine(lumui::drawbot::Drawbot& ioDrawbot, std::size_t inLin
   ioDrawbot.DrawStringInRect(
       TextOfLine(inLine), font, ink,
       {left, inPlace.y, std::max(0.0f, inPlace.width - left - kMargin), inPlace.height});
-}
-
-HistoryPane::HistoryPane() : mList(new HistoryView), mScrollView(mList->MakeScrollView()) {
-  UI_AddChild(mScrollView);
-}
-
-void HistoryPane::FocusList() {
-  mList->UI_SetKeyboardFocus(lumui::ui::kFocusOther);
-}
-
-void HistoryPane::UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) {
-  UI_SubView::UI_SizeChanged(inRect);
-  mScrollView->UI_SetLocalRectF({0, 0, inRect.width, inRect.height});
-  mList->LinesChanged();
 }
 
 }  // namespace outliner

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "LinesView.h"
+#include "LinesPane.h"
 #include "OutlineFollower.h"
 
 namespace vek::undo {
@@ -37,20 +37,6 @@ class HistoryView final : public LinesView {
   OutlineFollower mFollower;
 };
 
-// The list in a view that fills a panel and scrolls it.
-class HistoryPane final : public lumui::ui::UI_SubView {
- public:
-  HistoryPane();
-
-  void FocusList();
-  HistoryView& GetList() { return *mList; }
-
- protected:
-  void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
-
- private:
-  boost::intrusive_ptr<HistoryView> mList;
-  boost::intrusive_ptr<lumui::controls::UI_ScrollView> mScrollView;
-};
+using HistoryPane = LinesPane<HistoryView>;
 
 }  // namespace outliner

@@ -165,14 +165,13 @@ class KeyMapChecker {
 
 }  // namespace
 
-std::size_t CheckKeyMap(const lumcore::filesupport::File& inFile,
+std::size_t CheckKeyMap(const std::vector<FileRecord>& inRecords,
                         const std::vector<CheckedCommand>& inCommands, Findings& ioFindings) {
   KeyMapChecker checker(inCommands, ioFindings);
-  const auto records = ReadRecords(inFile, "keycmd");
-  for (const FileRecord& record : records) {
+  for (const FileRecord& record : inRecords) {
     if (record.isForThisSystem) checker.Check(record);
   }
-  return records.size();
+  return inRecords.size();
 }
 
 }  // namespace outliner

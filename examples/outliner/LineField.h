@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <boost/shared_ptr.hpp>
 #include <functional>
 #include <utility>
 
@@ -10,26 +11,37 @@
 
 namespace outliner {
 
-// A field of one line in which Enter does something each time, also where there is nothing to
-// commit. Archives have it as "outliner::LineField", with the properties of a text field.
+// A field of one line beside a list, for what is looked for there or comes into it. Its keys do
+// what its owner says, and none of them is a command meanwhile. Archives have it as
+// "outliner::LineField", with the properties of a text field.
 class LineField final : public lumui::controls::UI_TextEdit {
  public:
-  LineField();
+  // Each may be empty, and may take the field away.
+  struct Functions {
+    std::function<void(const lumcore::UTF16String&)> typed;  // the user has changed the text
+    std::function<void()> entered;  // Enter, each time, behind the commit if there is one
+    std::function<void()> down;     // the arrow down
+    // Escape in an empty field. Where it is given, Escape empties any other.
+    std::function<void()> escaped;
+    std::function<void()> focusChanged;
+  };
 
-  // After the commit; null for nothing.
-  void SetEnterFunction(std::function<void()> inEntered) { mEntered = std::move(inEntered); }
-  // For the arrow down, which leads to a list below; null for nothing.
-  void SetDownFunction(std::function<void()> inDown) { mDown = std::move(inDown); }
+  LineField();
+  ~LineField() override;
+  void SetFunctions(Functions inFunctions) { mFunctions = std::move(inFunctions); }
 
   bool UI_DoKeyboardEvent(lumui::ui::UI_Node* inNode,
                           const lumui::ui::KeyboardEvent& inEvent) override;
+  void UI_FocusChanged(int inReason) override;
 
   // Makes the class known to archives.
   static void Register();
 
  private:
-  std::function<void()> mEntered;
-  std::function<void()> mDown;
+  void Escape();
+
+  Functions mFunctions;
+  boost::shared_ptr<ChangedFunction> mChangedByUser;
 };
 
 }  // namespace outliner

@@ -44,8 +44,11 @@ const FontP& MapPainter::FontOf(std::size_t inDepth) const {
 
 float MapPainter::MeasureBox(const UTF16String& inText, std::size_t inDepth) const {
   const float padding = inDepth == 0 ? kRootPadding : kPadding;
+  // Far more than a box shows.
+  constexpr std::size_t kMostMeasured = 1000;
   // A part of a unit that is missing would put an ellipsis in the place of a letter.
-  const float width = std::ceil(FontOf(inDepth)->MeasureWidthOnce(inText)) + 2 * padding;
+  const float width =
+      std::ceil(FontOf(inDepth)->MeasureWidthOnce(inText.substr(0, kMostMeasured))) + 2 * padding;
   return std::clamp(width, kLeastWidth, kMostWidth);
 }
 

@@ -147,9 +147,9 @@ void MapPane::ListenToMessage(const vek::selection::SelectionChangeMessage& inMe
   }
   // What was pressed here is in view, or the user does not want it to be.
   if (mView->IsTracking()) return;
-  const auto selected = GetDocument()->GetSelectedRows();
-  if (selected.size() != 1) return;
-  const MapLayout::Index index = GetScene().GetLayout().FindRow(selected.front()->GetId());
+  const OutlineRow* const row = GetDocument()->GetOnlySelectedRow();
+  if (!row) return;
+  const MapLayout::Index index = GetScene().GetLayout().FindRow(row->GetId());
   if (index == MapLayout::kNone) return;
   const Rect box = GetScene().GetLayout().GetBox(index);
   mTrackView->RevealRectIfNotInView(

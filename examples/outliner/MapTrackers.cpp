@@ -160,10 +160,7 @@ void MapDropTracker::EndTracking(Modifiers, const Point& inDataPoint, bool inCom
 void MapDropTracker::Drop(OutlineRow& ioTarget) {
   OutlineDocument& document = *mOverlay.GetScene().GetDocument();
   if (TakeOwnRows(document)) return edits::MoveBelow(document, ioTarget);
-  const OutlineRow::Id target = ioTarget.GetId();
-  const LooseRows rows = RowsOfDrag(*mDrag.GetReceiveData());
-  document.CommitTyping();
-  edits::InsertAt(document, {MoveTarget::kLastBelow, target}, rows);
+  InsertRowsOfDrag(document, {MoveTarget::kLastBelow, ioTarget.GetId()}, *mDrag.GetReceiveData());
 }
 
 MapBandTracker::MapBandTracker(MapOverlay& inOverlay)

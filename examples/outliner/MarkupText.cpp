@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "Surrogates.h"
+
 namespace outliner {
 
 using lumcore::UTF16String;
@@ -13,14 +15,6 @@ using lumcore::UTF16String;
 namespace {
 
 constexpr unsigned short kReplacement = 0xFFFD;
-
-bool IsLead(unsigned short inUnit) {
-  return (inUnit & 0xFC00) == 0xD800;
-}
-
-bool IsTrail(unsigned short inUnit) {
-  return (inUnit & 0xFC00) == 0xDC00;
-}
 
 bool IsForbidden(unsigned short inUnit) {
   return (inUnit < ' ' && inUnit != '\t' && inUnit != '\n' && inUnit != '\r') || inUnit >= 0xFFFE;
@@ -80,9 +74,9 @@ void AppendEscaped(TextView inText, Reference inReference, UTF16String& outMarku
 UTF16String CleanText(const UTF16String& inText) {
   UTF16String text = inText;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    if (IsLead(text[at]) && at + 1 < text.size() && IsTrail(text[at + 1])) {
+    if (IsLeadSurrogate(text[at]) && at + 1 < text.size() && IsTrailSurrogate(text[at + 1])) {
       ++at;
-    } else if (IsForbidden(text[at]) || IsLead(text[at]) || IsTrail(text[at])) {
+    } else if (IsForbidden(text[at]) || IsLeadSurrogate(text[at]) || IsTrailSurrogate(text[at])) {
       text[at] = kReplacement;
     }
   }

@@ -5,10 +5,11 @@
 
 #include <algorithm>
 
-#include "NoteEditor.h"
+#include "AttributeEditor.h"
+#include "AttributeEdits.h"
 #include "OutlineDocument.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "vek/app/DocumentApplication.h"
@@ -24,10 +25,6 @@ constexpr float kMargin = 10;
 constexpr float kTitleHeight = 30;
 constexpr float kTitleSize = 13;
 constexpr float kNoteSize = 13;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 }  // namespace
 
@@ -78,15 +75,20 @@ void NotesView::Follow(OutlineDocument* inDocument) {
 }
 
 OutlineRow* NotesView::FindRow() const {
-  if (!mDocument) return nullptr;
-  const auto rows = mDocument->GetSelectedRows();
-  return rows.size() == 1 ? rows.front() : nullptr;
+  return mDocument ? mDocument->GetOnlySelectedRow() : nullptr;
+}
+
+// What is typed for the row, or else its note.
+UTF16String NotesView::TextFor(const OutlineRow& inRow) const {
+  const UTF16String* const typed =
+      mDocument->GetNoteEditor().FindValue({inRow.GetId()}, attributes::Note());
+  return typed ? *typed : edits::GetNote(*mDocument, inRow);
 }
 
 void NotesView::ShowNote() {
   const OutlineRow* const row = FindRow();
   const OutlineRow::Id id = row ? row->GetId() : 0;
-  const UTF16String note = row ? mDocument->GetNoteEditor().GetText(*row) : UTF16String();
+  const UTF16String note = row ? TextFor(*row) : UTF16String();
   if (id != mRow || note != mField->GetText()) {
     mRow = id;
     mField->SetText(note);
@@ -106,8 +108,8 @@ void NotesView::ShowNote() {
 void NotesView::Edited(Message& inMessage) {
   const OutlineRow* const row = mDocument ? mDocument->GetTree().FindRow(mRow) : nullptr;
   if (!row || mRow == 0) return;
-  NoteEditor& editor = mDocument->GetNoteEditor();
-  editor.SetText(*row, mField->GetText());
+  AttributeEditor& editor = mDocument->GetNoteEditor();
+  editor.SetValue({mRow}, attributes::Note(), mField->GetText());
   if (inMessage.GetChange() == Message::kChanged) editor.Commit();
 }
 

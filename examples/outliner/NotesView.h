@@ -19,9 +19,9 @@ namespace outliner {
 class OutlineDocument;
 
 // The note of the row that is selected in the current document, in a field to write in. It follows
-// the application's messages about documents. What is typed goes into the document's NoteEditor
-// letter by letter, and becomes a deed when the field loses the keyboard; so the view may go, or
-// show another note, at any time.
+// the application's messages about documents. What is typed goes into the document's editor of
+// notes letter by letter, and becomes a deed when the field loses the keyboard; so the view may go,
+// or show another note, at any time.
 class NotesView final
     : public lumui::ui::UI_SubView,
       private vek::messaging::Listener<const vek::app::DocStatusMessage>,
@@ -49,6 +49,7 @@ class NotesView final
 
   void Follow(OutlineDocument* inDocument);
   OutlineRow* FindRow() const;  // the one that is selected; null for none and for several
+  lumcore::UTF16String TextFor(const OutlineRow& inRow) const;
   void ShowNote();
   void Edited(Message& inMessage);
 

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "MarkupText.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumcore/xml/Parser.h"
 
@@ -206,8 +206,7 @@ TextPool::Id OpmlHandler::TakeMarkup() {
 }
 
 void OpmlHandler::Throw(const char* inKey, const UTF16String& inArgument) const {
-  ThrowParseError(lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {inArgument}));
+  ThrowParseError(lumcore::utility::ReplaceInString(Localized(inKey), {inArgument}));
 }
 
 // The last byte in front of inEnd that is not zero, as in text of two or four bytes a unit.

@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "OutlineTree.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace outliner {
@@ -24,10 +24,6 @@ using lumcore::utility::ToUTF16;
 namespace {
 
 constexpr const char* kOwnNames[] = {"", "text", "type", "created", "links"};
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 // Days since 1970 in the Gregorian calendar: years begin in March here, so that the day that some
 // have more comes last.

@@ -10,11 +10,11 @@
 #include "AttributeEditor.h"
 #include "DocumentCommands.h"
 #include "FileQuestions.h"
-#include "NoteEditor.h"
 #include "OpmlReader.h"
 #include "OpmlWriter.h"
 #include "RowEditor.h"
 #include "lumcore/utility/ScopedValue.h"
+#include "lumcore/utility/StringUtils.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/uisupport/MainWindowLookup.h"
 #include "vek/undo/ClearUndoStackDeed.h"
@@ -27,7 +27,9 @@ using vek::selection::Node;
 using vek::uisupport::Alert::Response;
 
 std::unique_ptr<OutlineDocument> OutlineDocument::Open(const File& inFile) {
-  return std::make_unique<OutlineDocument>(ReadOpml(inFile), inFile);
+  auto document = std::make_unique<OutlineDocument>();
+  document->LoadFromFile(inFile);
+  return document;
 }
 
 OutlineDocument::OutlineDocument() : OutlineDocument(std::make_unique<OutlineTree>(), File()) {}
@@ -38,7 +40,7 @@ OutlineDocument::OutlineDocument(std::unique_ptr<OutlineTree> inTree, const File
       mSelection(new vek::selection::Manager(&mJunction)),
       mUndoer(new vek::undo::MultiUndoer(kUndoLevels)),
       mEditor(std::make_unique<RowEditor>(*this)),
-      mNoteEditor(std::make_unique<NoteEditor>(*this)),
+      mNoteEditor(std::make_unique<AttributeEditor>(*this)),
       mAttributeEditor(std::make_unique<AttributeEditor>(*this)),
       mCommands(std::make_unique<DocumentCommands>(*this)),
       mSavedSerial(mUndoer->GetCurSerialNumber()) {
@@ -59,14 +61,37 @@ void OutlineDocument::SetFileFunctions(std::function<void(const File&)> inCheck,
   mFileTaken = std::move(inTaken);
 }
 
-std::vector<OutlineRow*> OutlineDocument::GetSelectedRows() const {
-  std::vector<OutlineRow*> rows;
-  for (Node* node : mSelection->SelectedSelectables())
-    rows.push_back(static_cast<OutlineRow*>(node));
-  std::sort(rows.begin(), rows.end(), [this](const OutlineRow* inA, const OutlineRow* inB) {
-    return mTree->GetLine(*inA) < mTree->GetLine(*inB);
-  });
-  return rows;
+// A row that leaves the tree changes the tree's shape, and then the selection is asked again.
+const std::vector<OutlineRow*>& OutlineDocument::FindSelectedRows() const {
+  const auto versions = [this] {
+    return std::make_pair(mSelection->GetVersion(), mTree->GetShapeVersion());
+  };
+  if (mSelectedVersions == versions()) return mSelectedRows;
+  const std::list<Node*> nodes = mSelection->SelectedSelectables();
+  const auto& lines = mTree->GetLines();
+  mSelectedRows.clear();
+  for (Node* const node : nodes)
+    mSelectedRows.push_back(static_cast<OutlineRow*>(node));
+  const auto lineOf = [this](const OutlineRow* inRow) { return mTree->GetLine(*inRow); };
+  constexpr std::size_t kFew = 16;  // of as many rows sorting is quicker than marking
+  if (nodes.size() < lines.size() / kFew) {
+    std::sort(mSelectedRows.begin(), mSelectedRows.end(),
+              [&](const auto* inA, const auto* inB) { return lineOf(inA) < lineOf(inB); });
+  } else {
+    std::vector<bool> isSelected(lines.size());
+    for (const OutlineRow* const row : mSelectedRows)
+      isSelected[lineOf(row)] = true;
+    mSelectedRows.clear();
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+      if (isSelected[line]) mSelectedRows.push_back(lines[line]);
+    }
+  }
+  mSelectedVersions = versions();  // looking may have cleaned the selection
+  return mSelectedRows;
+}
+
+OutlineRow* OutlineDocument::GetOnlySelectedRow() const {
+  return CountSelectedRows() == 1 ? FindSelectedRows().front() : nullptr;
 }
 
 void OutlineDocument::SelectRows(const std::vector<OutlineRow*>& inRows) {
@@ -132,28 +157,50 @@ void OutlineDocument::Changed() {
 }
 
 void OutlineDocument::LoadFromFile(const File& inFile) {
-  std::unique_ptr<OutlineTree> tree = ReadOpml(inFile);
+  const lumcore::UTF8String bytes = inFile.ReadAll();
+  std::unique_ptr<OutlineTree> tree = ReadOpml(bytes, lumcore::utility::ToUTF16(inFile.GetPath()));
   mEditor->Cancel();
   mNoteEditor->Cancel();
   mAttributeEditor->Cancel();
   mSelection->DeselectAll();
   mUndoer->PostDeed(std::auto_ptr<vek::undo::Deed>(new vek::undo::ClearUndoStackDeed));
   mTree = std::move(tree);
+  mSelectedVersions.reset();
   SetFile(inFile);
+  mOnDisk = DiskContent(bytes);
   SetDirty(false);
 }
 
 void OutlineDocument::SaveToFile(const File& inFile) {
-  inFile.ReplaceContents(WriteOpml(*mTree));
+  const std::string bytes = WriteOpml(*mTree);
+  inFile.ReplaceContents(bytes);
+  mOnDisk = DiskContent(bytes);
   SetDirty(false);
 }
 
 void OutlineDocument::Save() {
   CommitTyping();
   const File file = GetProjectFile();
+  if (SaveElsewhere(file)) return;
   FileBasedDocument::Save();
   // SaveAs has told of a new one.
   if (!file.GetPath().empty() && mFileTaken) mFileTaken(file);
+}
+
+// Whether the file has changed under the document, and the user does not want it overwritten. A
+// request to close is refused while the question stands.
+bool OutlineDocument::SaveElsewhere(const File& inFile) {
+  if (inFile.GetPath().empty() || !mOnDisk.DiffersFrom(inFile)) return false;
+  const lumcore::utility::StScopedValue<bool> asking(mIsAsking, true);
+  switch (AskAboutChangedFile(GetTitle())) {
+    case ChangedFileAnswer::kOverwrite:
+      return false;
+    case ChangedFileAnswer::kSaveAs:
+      SaveAs();
+      return true;
+    default:
+      return true;
+  }
 }
 
 // A second request while the question stands is answered by the first.

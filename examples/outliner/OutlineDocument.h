@@ -4,11 +4,15 @@
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "DiskContent.h"
 #include "OutlineJunction.h"
 #include "OutlineTree.h"
 #include "lumcore/filesupport/File.h"
@@ -21,7 +25,6 @@ namespace outliner {
 
 class AttributeEditor;
 class DocumentCommands;
-class NoteEditor;
 class RowEditor;
 
 // An open outline: its tree, what is selected in it, its edits, the text that is being typed, its
@@ -54,7 +57,8 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::selection::Manager& GetSelection() { return *mSelection; }
   const OutlineTree& GetTree() const { return *mTree; }
   RowEditor& GetEditor() { return *mEditor; }
-  NoteEditor& GetNoteEditor() { return *mNoteEditor; }
+  // Of one row's note, by itself: it may be typed while another attribute is.
+  AttributeEditor& GetNoteEditor() { return *mNoteEditor; }
   AttributeEditor& GetAttributeEditor() { return *mAttributeEditor; }
   // Makes deeds of what is being typed, in a row, in a note or for an attribute: before anything
   // else happens to the outline. What one of them throws leaves those before it done.
@@ -65,8 +69,10 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   // them back yet. Who drags them shares it, as the document may go meanwhile.
   const std::shared_ptr<bool>& GetRowDrag() const { return mRowDrag; }
 
-  // In document order.
-  std::vector<OutlineRow*> GetSelectedRows() const;
+  // In document order. The list of many rows is made when it is first asked for, and kept.
+  std::vector<OutlineRow*> GetSelectedRows() const { return FindSelectedRows(); }
+  std::size_t CountSelectedRows() const { return FindSelectedRows().size(); }
+  OutlineRow* GetOnlySelectedRow() const;  // null for none or several
   bool IsSelected(const OutlineRow& inRow) const { return mSelection->Selected(&inRow); }
   // These rows and no others; an empty list deselects all.
   void SelectRows(const std::vector<OutlineRow*>& inRows);
@@ -93,7 +99,8 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   // Replaces the file in one step. After a throw of FileError the old file is as it was, and the
   // document as dirty as it was.
   void SaveToFile(const File& inFile) override;
-  // Both commit what is being typed.
+  // Both commit what is being typed. A file that another program has changed since it was read or
+  // written here is overwritten only when the user says so.
   void Save() override;
   bool CanClose() override;
   void SaveAs() override;
@@ -107,9 +114,11 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   vek::uisupport::Alert::Response SaveBeforeCloseMessage() const override;
 
  private:
+  const std::vector<OutlineRow*>& FindSelectedRows() const;
   // Whether the data, what is being typed included, differs from what was last saved.
   bool DoIsDirty() const override;
   void Changed();
+  bool SaveElsewhere(const File& inFile);
 
   void WillPostDeed(vek::undo::Deed* inDeed) override;
   void DidPostDeed(vek::undo::Deed*) override {}
@@ -121,15 +130,19 @@ class OutlineDocument final : public vek::document::FileBasedDocument,
   std::unique_ptr<OutlineTree> mTree;
   OutlineJunction mJunction;
   boost::intrusive_ptr<vek::selection::Manager> mSelection;
+  mutable std::vector<OutlineRow*> mSelectedRows;
+  // Of the selection and of the tree when they were listed; none before the first time.
+  mutable std::optional<std::pair<std::uint64_t, std::uint64_t>> mSelectedVersions;
   boost::intrusive_ptr<vek::undo::MultiUndoer> mUndoer;
   std::unique_ptr<RowEditor> mEditor;
-  std::unique_ptr<NoteEditor> mNoteEditor;
+  std::unique_ptr<AttributeEditor> mNoteEditor;
   std::unique_ptr<AttributeEditor> mAttributeEditor;
   std::unique_ptr<DocumentCommands> mCommands;
   const std::shared_ptr<bool> mRowDrag = std::make_shared<bool>(false);
   std::function<void()> mChanged;
   std::function<void(const File&)> mCheckFile;
   std::function<void(const File&)> mFileTaken;
+  DiskContent mOnDisk;  // of the document's file, as far as it is known here
   int mSavedSerial;
   bool mSerialIsStale = false;  // until the next save: the number no longer names the data's state
   bool mIsAsking = false;

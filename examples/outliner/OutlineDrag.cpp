@@ -51,6 +51,8 @@ bool TakeOwnRows(OutlineDocument& ioDocument) {
   return std::exchange(*ioDocument.GetRowDrag(), false);
 }
 
+namespace {
+
 LooseRows RowsOfDrag(const lumui::datatransfer::OS_ReceiveData& inData) {
   LooseRows rows;
   std::vector<lumcore::UTF16String> paths;
@@ -66,6 +68,15 @@ LooseRows RowsOfDrag(const lumui::datatransfer::OS_ReceiveData& inData) {
     rows = RowsOfText(text);
   }
   return rows;
+}
+
+}  // namespace
+
+void InsertRowsOfDrag(OutlineDocument& ioDocument, const MoveTarget& inTarget,
+                      const lumui::datatransfer::OS_ReceiveData& inData) {
+  const LooseRows rows = RowsOfDrag(inData);
+  ioDocument.CommitTyping();
+  edits::InsertAt(ioDocument, inTarget, rows);
 }
 
 }  // namespace outliner

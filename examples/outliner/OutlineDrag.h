@@ -15,6 +15,7 @@ class PlatformView;
 namespace outliner {
 
 class OutlineDocument;
+struct MoveTarget;
 
 // Drags of rows by the window system: between the panels of the program, and from and to others.
 
@@ -28,7 +29,9 @@ unsigned FindDropEffect(const OutlineDocument& inDocument, bool inCanMove,
                         const lumui::datatransfer::OS_ReceiveData* inData);
 // For a drop: whether it is the document's own rows that are dragged. It ends their drag.
 bool TakeOwnRows(OutlineDocument& ioDocument);
-// What others drag. All files are read before the first row is made; throws what reading throws.
-LooseRows RowsOfDrag(const lumui::datatransfer::OS_ReceiveData& inData);
+// What others drag becomes rows. All files are read before the first row is made; throws what
+// reading throws.
+void InsertRowsOfDrag(OutlineDocument& ioDocument, const MoveTarget& inTarget,
+                      const lumui::datatransfer::OS_ReceiveData& inData);
 
 }  // namespace outliner

@@ -16,7 +16,7 @@
 #include "OutlineRestorer.h"
 #include "RemoveRowsDeed.h"
 #include "SetTextDeed.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 
 namespace outliner::edits {
 
@@ -65,7 +65,7 @@ bool AnyRun(OutlineDocument& inDocument, Condition inCondition) {
 }
 
 UTF16String Name(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
+  return Localized(inKey);
 }
 
 // An edit by the key of its name.

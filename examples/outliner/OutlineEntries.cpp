@@ -148,7 +148,7 @@ void OutlineEntries::Forget(const Entry::List& inLeaving) {
   }
 }
 
-void OutlineEntries::SetFilter(const OutlineFilter& inFilter,
+void OutlineEntries::SetFilter(const TextSearch& inFilter,
                                std::vector<OutlineColumns::Attribute> inColumns) {
   mFilter = inFilter;
   mFilterColumns = std::move(inColumns);
@@ -186,14 +186,14 @@ void OutlineEntries::FindShown() {
 }
 
 bool OutlineEntries::Matches(const OutlineRow& inRow) const {
-  if (mFilter.Matches(inRow.GetText())) return true;
+  if (mFilter.IsIn(inRow.GetText())) return true;
   if (inRow.GetAttributeCount() == 0) return false;
   const lumcore::UTF16String* const note = mTree.FindAttribute(inRow, attributes::Note());
-  if (note && mFilter.Matches(*note)) return true;
+  if (note && mFilter.IsIn(*note)) return true;
   lumcore::UTF16String text;
   return std::any_of(mFilterColumns.begin(), mFilterColumns.end(), [&](auto inAttribute) {
     mColumns.GetText(inRow, inAttribute, text);
-    return mFilter.Matches(text);
+    return mFilter.IsIn(text);
   });
 }
 

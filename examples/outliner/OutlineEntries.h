@@ -11,8 +11,8 @@
 
 #include "OutlineColumns.h"
 #include "OutlineEntry.h"
-#include "OutlineFilter.h"
 #include "OutlineTree.h"
+#include "TextSearch.h"
 
 namespace outliner {
 
@@ -45,9 +45,9 @@ class OutlineEntries {
   // may be others, rows match and sort otherwise as well.
   bool Update(bool inTextsChanged);
 
-  const OutlineFilter& GetFilter() const { return mFilter; }
+  const TextSearch& GetFilter() const { return mFilter; }
   // Looks into the texts, the notes and the columns that are named.
-  void SetFilter(const OutlineFilter& inFilter, std::vector<OutlineColumns::Attribute> inColumns);
+  void SetFilter(const TextSearch& inFilter, std::vector<OutlineColumns::Attribute> inColumns);
   // Lets rows in that the filter keeps out. False where all of them are in.
   bool LetIn(const std::vector<OutlineRow*>& inRows);
 
@@ -76,7 +76,7 @@ class OutlineEntries {
   std::vector<OutlineEntry*> mByRow;           // null for a row without an entry
   std::unordered_set<OutlineRow::Id> mStale;   // rows with others below them than their entries
   std::unordered_set<OutlineRow::Id> mClosed;  // while no filter is on
-  OutlineFilter mFilter;
+  TextSearch mFilter;
   std::vector<OutlineColumns::Attribute> mFilterColumns;
   std::unordered_set<OutlineRow::Id> mLetIn;
   std::vector<bool> mShown;  // by row, while a filter is on

@@ -33,6 +33,8 @@ void OutlineEntry::GetCellText(unsigned int const& inAttribute,
   outText.clear();
   if (const OutlineRow* const row = FindRow())
     mEntries.GetColumns().GetText(*row, inAttribute, outText);
+  // Who draws or reads out a cell measures all of its text.
+  if (outText.size() > kMostShown) outText.resize(kMostShown);
 }
 
 bool OutlineEntry::CanExpand() const {

@@ -18,6 +18,9 @@ class OutlineEntry final : public vek::hierarchyview::HierarchyEntry {
                vek::hierarchyview::ENodeState inState);
   ~OutlineEntry() override;
 
+  // As many units of a text are shown, which is wider than any screen.
+  static constexpr std::size_t kMostShown = 4000;
+
   OutlineRow::Id GetRowId() const { return mRow; }
   OutlineRow* FindRow() const;  // null once it has gone
 

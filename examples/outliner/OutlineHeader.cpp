@@ -3,7 +3,6 @@
 
 #include "OutlineHeader.h"
 
-#include "MapTools.h"
 #include "OutlineTreeList.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
@@ -11,7 +10,9 @@
 namespace outliner {
 
 OutlineHeader::OutlineHeader(vek::trackview::TrackView* inTrackView, OutlineTreeList& inList)
-    : MultiColumnHeaderView(inTrackView, true), mList(inList) {}
+    : MultiColumnHeaderView(inTrackView, true), mList(inList) {
+  SetKeepsRightPressesForMenu(true);
+}
 
 OutlineHeader::~OutlineHeader() = default;
 
@@ -26,15 +27,6 @@ void OutlineHeader::HandleClickInColumn(unsigned short inColumn) {
     mList.UnsortRows();
   }
   GetTrackView()->GetPlatformView().InvalidateDataRect(GetTrackView()->DataArea());
-}
-
-std::auto_ptr<vek::trackview::Tracker> OutlineHeader::DoAcquireTracker(
-    const Point& inDataPoint, bool inHover,
-    vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) {
-  if (inDragAndDrop || (!inHover && !IsLeftPress(*GetTrackView()))) {
-    return std::auto_ptr<vek::trackview::Tracker>();
-  }
-  return MultiColumnHeaderView::DoAcquireTracker(inDataPoint, inHover, inDragAndDrop);
 }
 
 }  // namespace outliner

@@ -17,10 +17,6 @@ class OutlineHeader final : public vek::hierarchyview::MultiColumnHeaderView {
   ~OutlineHeader() override;
 
   void HandleClickInColumn(unsigned short inColumn) override;
-  // Right presses are for the menu, and do not sort.
-  std::auto_ptr<vek::trackview::Tracker> DoAcquireTracker(
-      const Point& inDataPoint, bool inHover,
-      vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) override;
 
  private:
   OutlineTreeList& mList;

@@ -121,6 +121,7 @@ OutlineList::~OutlineList() {
 void OutlineList::Detach() {
   if (!mDocument) return;
   mDocument = nullptr;
+  mHeaderView->SetFocusTaker(nullptr);
   mHeaderFollows->clear();
   mListFollows->clear();
   mView->Detach();
@@ -142,7 +143,7 @@ void OutlineList::BuildRows() {
   };
   functions.type = [this](unsigned short inUnit) { return Type(inUnit); };
   functions.deleteCharacter = [this] {
-    if (mDocument->GetSelectedRows().size() != 1) return false;
+    if (!mDocument->GetOnlySelectedRow()) return false;
     mDocument->GetEditor().BeginAtSelection();
     mField->DeleteBefore();
     return true;
@@ -154,9 +155,10 @@ void OutlineList::BuildRows() {
 }
 
 void OutlineList::BuildNodes() {
-  const boost::intrusive_ptr<LUMPlatformView> headerView(new LUMPlatformView);
-  headerView->SetWantsKeyboardFocus(false);
-  TrackView& trackView = GiveTrackView(*headerView);
+  mHeaderView.reset(new LUMPlatformView);
+  mHeaderView->SetWantsKeyboardFocus(false);
+  mHeaderView->SetFocusTaker(mView.get());
+  TrackView& trackView = GiveTrackView(*mHeaderView);
   mHeader = Install(trackView, new OutlineHeader(&trackView, *mList));
   mHeader->SetViewHeight(kHeaderHeight);
   mHeader->SetDrawTopBorder(false);
@@ -164,7 +166,7 @@ void OutlineList::BuildNodes() {
   mList->GetColumnStateChangedNoter()->AddListener(mHeader);
   mHeaderScroll.reset(new HeaderScrollView(
       Flags(PlatformScrollView::kNoHorizontalBar | PlatformScrollView::kNoVerticalBar),
-      headerView));
+      mHeaderView));
   mHeaderScroll->UI_SetNodeID("columns");
   mListScroll.reset(new PlatformScrollView(Flags(), mView));
   mListScroll->UI_SetNodeID("rows");
@@ -179,8 +181,8 @@ void OutlineList::BuildNodes() {
   mView->UI_AddChild(mField);
   UI_AddChild(mHeaderScroll);
   UI_AddChild(mListScroll);
-  Follow(*mView, *headerView, mHeaderFollows);
-  Follow(*headerView, *mView, mListFollows);
+  Follow(*mView, *mHeaderView, mHeaderFollows);
+  Follow(*mHeaderView, *mView, mListFollows);
 }
 
 void OutlineList::Follow(PlatformView& inFollowed, PlatformView& inFollower,

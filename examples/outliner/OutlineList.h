@@ -81,6 +81,7 @@ class OutlineList final
   OutlineDocument* mDocument;
   Functions mFunctions;
   boost::intrusive_ptr<View> mView;
+  boost::intrusive_ptr<vek::trackview::LUMPlatformView> mHeaderView;
   boost::intrusive_ptr<vek::trackview::PlatformScrollView> mHeaderScroll;
   boost::intrusive_ptr<vek::trackview::PlatformScrollView> mListScroll;
   boost::intrusive_ptr<RowField> mField;

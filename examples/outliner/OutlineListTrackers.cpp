@@ -77,9 +77,7 @@ void OutlineDropTracker::EndTracking(Modifiers, const Point& inDataPoint, bool i
   if (TakeOwnRows(*document)) {
     edits::MoveTo(*document, place->target);
   } else {
-    const LooseRows rows = RowsOfDrag(*mDrag.GetReceiveData());
-    document->CommitTyping();
-    edits::InsertAt(*document, place->target, rows);
+    InsertRowsOfDrag(*document, place->target, *mDrag.GetReceiveData());
   }
   mDrag.SetDropEffect(effect);
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "AttributeEdits.h"
+#include "MarkedText.h"
 #include "OutlineEntries.h"
 #include "Palette.h"
 #include "lumcore/utility/StringUtils.h"
@@ -33,7 +34,6 @@ constexpr float kBulletRadius = 2;
 constexpr float kNoteGap = 14;
 constexpr float kLeastNote = 30;
 constexpr float kNoteShare = 0.9f;  // of the size of the text
-constexpr float kMarkRadius = 2;
 
 bool IsComment(const OutlineTree& inTree, const OutlineRow& inRow) {
   static const UTF16String kName = lumcore::utility::ToUTF16("isComment");
@@ -70,23 +70,22 @@ void OutlineRowLook::ImageNode(const vek::hierarchyview::HierarchyGeometry&, Dra
   const auto* const entry = static_cast<const OutlineEntry*>(GetEntry());
   const OutlineRow* const row = entry->FindRow();
   if (!row) return;
-  const bool isSelected = entry->Selected(mList.GetSelectionManager());
-  const bool isMarked = isSelected && mList.HasKeyboard();
-  if (isSelected) {
+  const bool isMarked = mList.IsLit(*entry);
+  if (entry->Selected(mList.GetSelectionManager())) {
     ioDrawbot.FillRect(Rect(0, inRow.y, inRow.width + inRow.x, inRow.height),
                        isMarked ? palette::Selection() : palette::IdleSelection());
   }
-  if (!entry->CanExpand()) DrawBullet(ioDrawbot, isMarked);
+  if (!entry->CanExpand()) DrawBullet(ioDrawbot, mList.GetMarkColor(*entry));
   for (unsigned short column = 0; column < mList.GetNumberOfColumns(); ++column)
     DrawCell(ioDrawbot, column, *row, isMarked);
 }
 
-void OutlineRowLook::DrawBullet(Drawbot& ioDrawbot, bool inIsMarked) const {
+void OutlineRowLook::DrawBullet(Drawbot& ioDrawbot, const ColorRGBA& inColor) const {
   Path bullet;
   bullet.AddEllipse({GetPosition().x + kBulletX - kBulletRadius,
                      GetPosition().y + kRowHeight / 2 - kBulletRadius, 2 * kBulletRadius,
                      2 * kBulletRadius});
-  ioDrawbot.FillPath(bullet, inIsMarked ? palette::SelectionInk() : palette::LeafBullet());
+  ioDrawbot.FillPath(bullet, inColor);
 }
 
 void OutlineRowLook::DrawCell(Drawbot& ioDrawbot, unsigned short inColumn, const OutlineRow& inRow,
@@ -121,24 +120,15 @@ void OutlineRowLook::DrawNote(Drawbot& ioDrawbot, const OutlineRow& inRow, Rect 
   if (!note || note->empty() || inRest.width < kLeastNote) return;
   const FontP font = ioDrawbot.GetSupplier()->NewFont(
       nullptr, std::round(GetFont()->GetSize() * kNoteShare), FontStyle::kPlain);
-  DrawText(ioDrawbot, note->substr(0, note->find('\n')), font,
+  DrawText(ioDrawbot, note->substr(0, std::min(note->find('\n'), OutlineEntry::kMostShown)), font,
            inIsMarked ? palette::SelectionInk() : palette::FaintInk(), inRest);
 }
 
+// Marked where it was looked for, as far as the cell shows it.
 void OutlineRowLook::DrawText(Drawbot& ioDrawbot, const UTF16String& inText, const FontP& inFont,
                               const ColorRGBA& inInk, const Rect& inCell) const {
-  if (inText.empty() || inCell.width <= 0) return;
-  // Where it was looked for, as far as the cell shows it.
-  for (const auto& [start, end] : mList.GetEntries()->GetFilter().FindAll(inText)) {
-    const float left = inFont->MeasureWidthOnce(inText.substr(0, start));
-    const float right = std::min(inFont->MeasureWidthOnce(inText.substr(0, end)), inCell.width);
-    if (left >= inCell.width) break;
-    Path mark;
-    mark.AddRoundedRect({inCell.x + left - 1, inCell.y + 2, right - left + 2, inCell.height - 4},
-                        kMarkRadius);
-    ioDrawbot.FillPath(mark, palette::FoundText());
-  }
-  ioDrawbot.DrawStringInRect(inText, inFont, inInk, inCell);
+  DrawMarkedText(ioDrawbot, inText, mList.GetEntries()->GetFilter(), inFont,
+                 {inInk, palette::FoundText()}, inCell);
 }
 
 std::auto_ptr<vek::hierarchyview::TreeRowGeometry> OutlineRowLooks::ServeRowGeometry(

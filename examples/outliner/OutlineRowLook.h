@@ -28,7 +28,8 @@ class OutlineRowLook final : public vek::hierarchyview::BasicTreeListRowGeometry
   float GetIndent() const { return GetPosition().x; }
 
  private:
-  void DrawBullet(lumui::drawbot::Drawbot& ioDrawbot, bool inIsMarked) const;
+  void DrawBullet(lumui::drawbot::Drawbot& ioDrawbot,
+                  const lumui::drawbot::ColorRGBA& inColor) const;
   void DrawCell(lumui::drawbot::Drawbot& ioDrawbot, unsigned short inColumn,
                 const OutlineRow& inRow, bool inIsMarked) const;
   void DrawNote(lumui::drawbot::Drawbot& ioDrawbot, const OutlineRow& inRow, Rect inRest,

@@ -5,7 +5,7 @@
 
 #include "AttributeEdits.h"
 #include "OutlineDocument.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 
 namespace outliner::search {
 
@@ -61,9 +61,8 @@ std::size_t Replace(OutlineDocument& ioDocument, const std::vector<OutlineRow::I
     if (change.text || change.note) changes.push_back(std::move(change));
   }
   edits::SetTexts(ioDocument, changes,
-                  lumcore::config::Localizer::Get()->GetLocalizedString(
-                      inRows.size() == 1 ? "$$$/outliner/Edit/Replace=Replace"
-                                         : "$$$/outliner/Edit/ReplaceAll=Replace All"));
+                  Localized(inRows.size() == 1 ? "$$$/outliner/Edit/Replace=Replace"
+                                               : "$$$/outliner/Edit/ReplaceAll=Replace All"));
   return changes.size();
 }
 

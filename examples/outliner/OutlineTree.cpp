@@ -133,6 +133,7 @@ OutlineRow& OutlineTree::AppendRow(OutlineRow& inParent) {
   row->mIndex = static_cast<std::uint32_t>(inParent.mChildren.size());
   mRowsById.push_back(row.get());
   mLinesKnown = false;
+  ++mShape;
   mAddresses.clear();
   inParent.mChildren.push_back(std::move(row));
   return *inParent.mChildren.back();
@@ -182,6 +183,7 @@ void OutlineTree::MoveRowsWithin(OutlineRow& inParent, std::size_t inIndex, std:
 
 void OutlineTree::RowsChanged(const OutlineRow& inParent) {
   mLinesKnown = false;
+  ++mShape;
   mAddresses.clear();
   mAddressQuestions = 0;
   if (mChanged) mChanged(inParent);

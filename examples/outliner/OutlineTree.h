@@ -63,6 +63,8 @@ class OutlineTree {
   // moved, and stays as it is until then.
   const std::vector<OutlineRow*>& GetLines() const;
   std::size_t GetLine(const OutlineRow& inRow) const;  // its place in that list
+  // Another one each time that the list is another.
+  std::uint64_t GetShapeVersion() const { return mShape; }
   // Behind the last row below inRow, in that list.
   std::size_t GetEndLine(const OutlineRow& inRow) const;
 
@@ -145,6 +147,7 @@ class OutlineTree {
   OutlineLayout mLayout;
   mutable std::vector<OutlineRow*> mLines;
   mutable bool mLinesKnown = true;
+  std::uint64_t mShape = 0;
   // Sorted, once they are asked for often enough since rows have come or gone; else empty.
   mutable std::vector<const OutlineRow*> mAddresses;
   mutable int mAddressQuestions = 0;

@@ -4,36 +4,24 @@
 #include "OutlineTreeList.h"
 
 #include <algorithm>
-#include <list>
-#include <unordered_set>
 #include <utility>
 
-#include "MapTools.h"
 #include "OutlineDocument.h"
-#include "OutlineDrag.h"
 #include "OutlineEntries.h"
-#include "OutlineListTrackers.h"
 #include "OutlineRowLook.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
-#include "lumui/ui/KeyboardEvent.h"
 #include "vek/hierarchyview/MultiColumnHeaderView.h"
 #include "vek/hierarchyview/TreeListGeometry.h"
-#include "vek/selection/ActiveManager.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
 
 namespace outliner {
 
-using lumui::ui::KeyboardCode;
-using lumui::ui::KeyboardEvent;
 using vek::hierarchyview::kNodeCollapsed;
-using vek::hierarchyview::kNodeExpanded;
 using vek::hierarchyview::TreeRowGeometry;
-using vek::selection::Node;
-using Point = vek::trackview::Point;
 using Rect = vek::trackview::Rect;
 
 namespace {
@@ -55,6 +43,7 @@ OutlineTreeList::OutlineTreeList(vek::trackview::TrackView* inTrackView,
   SetWantsLine(false);
   SetDrawShadowBox(false);
   SetDragFeedbackType(vek::hierarchyview::kDragFeedbackInsertion);
+  SetTwistyColorFunction([this](const Entry* inEntry) { return GetMarkColor(*inEntry); });
   TreeListControlBase::SetSortColumn(kNoColumn);
 }
 
@@ -82,6 +71,14 @@ lumui::drawbot::FontP OutlineTreeList::GetFontOf(lumui::drawbot::FontStyle inSty
   return lumui::drawbot::GetDefaultSupplier()->NewFont(nullptr, GetFont()->GetSize(), inStyle);
 }
 
+bool OutlineTreeList::IsLit(const Entry& inEntry) const {
+  return inEntry.Selected(GetSelectionManager()) && HasKeyboard();
+}
+
+lumui::drawbot::ColorRGBA OutlineTreeList::GetMarkColor(const Entry& inEntry) const {
+  return IsLit(inEntry) ? palette::SelectionInk() : palette::RowMark();
+}
+
 void OutlineTreeList::InvalidateAll() {
   GetTrackView()->GetPlatformView().InvalidateDataRect(GetTrackView()->DataArea());
 }
@@ -104,10 +101,14 @@ void OutlineTreeList::RowsChanged() {
   ResizeHierarchy();
 }
 
+bool OutlineTreeList::LetSelectionIn() {
+  return !mEntries->GetFilter().IsEmpty() && mEntries->LetIn(mDocument->GetSelectedRows());
+}
+
 void OutlineTreeList::DocumentChanged() {
   if (!mDocument) return;
   const bool hasNewShape = mEntries->Update(true);
-  const bool letsIn = mEntries->LetIn(mDocument->GetSelectedRows());
+  const bool letsIn = LetSelectionIn();
   if (hasNewShape || letsIn) {
     RowsChanged();
   } else {
@@ -124,21 +125,8 @@ void OutlineTreeList::DocumentSelectionChanged() {
   AnnounceSelection();
   // Deeds restore the selection before the document tells that it has changed.
   const bool hasNewShape = mEntries->Update(false);
-  if (mEntries->LetIn(mDocument->GetSelectedRows()) || hasNewShape) RowsChanged();
+  if (LetSelectionIn() || hasNewShape) RowsChanged();
   FollowSelection();
-}
-
-// The keyboard goes on from the one selected row.
-void OutlineTreeList::FollowSelection() {
-  const auto selected = mDocument->GetSelection().SelectedSelectables();
-  Entry* const focus = GetFocusItem();
-  if (selected.size() == 1) {
-    auto* const row = static_cast<OutlineRow*>(selected.front());
-    Entry* const entry = mEntries->Find(row->GetId());
-    if (entry != focus) SetFocusItem(entry, true);
-  } else if (focus && !focus->Selected(GetSelectionManager())) {
-    SetFocusItem(nullptr, true);
-  }
 }
 
 bool OutlineTreeList::OpenAbove(const Entry& inEntry) {
@@ -169,7 +157,7 @@ std::size_t OutlineTreeList::CountShownRows() const {
 }
 
 // What goes out of sight goes out of the selection: commands work only on what is to be seen.
-void OutlineTreeList::SetFilter(const OutlineFilter& inFilter) {
+void OutlineTreeList::SetFilter(const TextSearch& inFilter) {
   if (!mDocument) return;
   std::vector<OutlineColumns::Attribute> columns;
   for (unsigned short column = 0; column < GetNumberOfColumns(); ++column)
@@ -187,48 +175,10 @@ void OutlineTreeList::SetFilter(const OutlineFilter& inFilter) {
   if (!kept.empty()) ShowRow(*kept.front());
 }
 
-void OutlineTreeList::Step(bool inDown) {
-  if (!mDocument) return;
-  mDocument->CommitTyping();
-  const int count = NumSelectedEntries();
-  Entry* const focus = GetFocusItem();
-  const bool hasStart = count == 1 || (focus && focus->Selected(GetSelectionManager()));
-  if (hasStart) return inDown ? SelectNext() : SelectPrevious();
-  // From the end of what is selected, or else from that of the list.
-  auto& geometry = *GetGeometry();
-  Entry* target = nullptr;
-  bool takesNext = inDown;
-  for (auto row = geometry.begin(); row != geometry.end(); ++row) {
-    if (!(*row)->GetParent()) continue;
-    const bool isSelected = (*row)->Selected(GetSelectionManager());
-    if (inDown) {
-      if (isSelected || takesNext) target = *row;
-      takesNext = isSelected;
-      if (target && count == 0) break;
-    } else {
-      if (!isSelected || !target) target = *row;
-      if (isSelected) break;
-    }
-  }
-  // The document's selection is followed by showing it.
-  if (target) DoSelectEntry(target, false);
-}
-
-void OutlineTreeList::SelectAllShown() {
-  if (!mDocument) return;
-  if (mEntries->GetFilter().IsEmpty()) return mDocument->GetSelection().SelectAll();
-  std::vector<OutlineRow*> rows;
-  for (OutlineRow* const row : mDocument->GetTree().GetLines()) {
-    if (mEntries->Find(row->GetId())) rows.push_back(row);
-  }
-  mDocument->SelectRows(rows);
-}
-
 void OutlineTreeList::ExpandAll() {
   TreeListControlBase::ExpandAll();
   if (!mDocument) return;
-  const auto selected = mDocument->GetSelectedRows();
-  if (selected.size() == 1) ShowRow(*selected.front());
+  if (const OutlineRow* const row = mDocument->GetOnlySelectedRow()) ShowRow(*row);
 }
 
 void OutlineTreeList::CollapseAll() {
@@ -247,24 +197,6 @@ void OutlineTreeList::CollapseAll() {
 void OutlineTreeList::CollapseNode(Entry* inEntry, bool inResize) {
   TreeListControlBase::CollapseNode(inEntry, inResize);
   if (mDocument) TakePlaceOfSelection({inEntry});
-}
-
-// The topmost of the closed rows stands for what is selected below it.
-void OutlineTreeList::TakePlaceOfSelection(const std::vector<Entry*>& inClosed) {
-  const std::unordered_set<const Entry*> closed(inClosed.begin(), inClosed.end());
-  std::vector<OutlineRow*> rows;
-  bool isOther = false;
-  for (OutlineRow* const selected : mDocument->GetSelectedRows()) {
-    OutlineRow* row = selected;
-    const Entry* const entry = mEntries->Find(selected->GetId());
-    for (const Entry* above = entry ? entry->GetParent() : nullptr; above;
-         above = above->GetParent()) {
-      if (closed.count(above) != 0) row = static_cast<const OutlineEntry*>(above)->FindRow();
-    }
-    isOther = isOther || row != selected;
-    if (std::find(rows.rbegin(), rows.rend(), row) == rows.rend()) rows.push_back(row);
-  }
-  if (isOther) mDocument->SelectRows(rows);
 }
 
 bool OutlineTreeList::IsSorted() const {
@@ -291,49 +223,6 @@ void OutlineTreeList::UnsortRows() {
   mFunctions.rowsMoved();
 }
 
-int OutlineTreeList::NumSelectedEntries() {
-  return mDocument ? static_cast<int>(mDocument->GetSelection().SelectedSelectables().size()) : 0;
-}
-
-vek::selection::Manager* OutlineTreeList::GetSelectionManager() const {
-  return mDocument ? &mDocument->GetSelection() : nullptr;
-}
-
-vek::selection::Manager* OutlineTreeList::GetSelectionManager() {
-  return std::as_const(*this).GetSelectionManager();
-}
-
-void OutlineTreeList::DoViewActivation() {
-  if (mDocument) vek::selection::SetActiveManager(GetSelectionManager());
-}
-
-void OutlineTreeList::DoDeselectAll() {
-  if (mDocument) mDocument->SelectRows({});
-}
-
-void OutlineTreeList::DoSelectEntry(Entry* inEntry, bool inExtend) {
-  const OutlineRow::Id id = static_cast<OutlineEntry*>(inEntry)->GetRowId();
-  // Before the selection changes: what is committed selects its own row. It may end the entry.
-  mDocument->CommitTyping();
-  OutlineRow* const row = mDocument->GetTree().FindRow(id);
-  if (!row || !row->GetParent()) return;
-  if (inExtend) {
-    mDocument->GetSelection().ToggleSelectables({row}, vek::selection::eSendMessages);
-  } else {
-    mDocument->SelectRows({row});
-  }
-  if (!mDocument || !mDocument->IsSelected(*row)) return;
-  if (Entry* const entry = mEntries->Find(id)) SetFocusItem(entry, true);
-}
-
-void OutlineTreeList::DoToggleEntrySelectionState(EntryList& ioEntries) {
-  std::list<Node*> nodes;
-  for (Entry* const entry : ioEntries) {
-    if (Node* const node = entry->GetDataAsSelNode()) nodes.push_back(node);
-  }
-  mDocument->GetSelection().ToggleSelectables(nodes, vek::selection::eSendMessages);
-}
-
 OutlineEntry* OutlineTreeList::FindEntryAt(const Point& inDataPoint) {
   if (!mDocument || !GetGeometry() || inDataPoint.y < 0) return nullptr;
   auto* const entry = static_cast<OutlineEntry*>(*GetGeometry()->FindEntry(inDataPoint));
@@ -344,84 +233,14 @@ void OutlineTreeList::DoImageRect(const Rect& inDataRect, lumui::drawbot::Drawbo
                                   boost::intrusive_ptr<lumui::ui::Theme> inTheme) const {
   TreeListControlBase::DoImageRect(inDataRect, inDrawbot, inTheme);
   if (!mDocument || !GetRootEntry()->GetChildren().empty()) return;
-  const auto hint = lumcore::config::Localizer::Get()->GetLocalizedString(
-      mEntries->GetFilter().IsEmpty() ? "$$$/outliner/View/Empty=Type the first row of your outline"
-                                      : "$$$/outliner/View/NothingFound=No row has this text");
+  const auto hint = Localized(mEntries->GetFilter().IsEmpty()
+                                  ? "$$$/outliner/View/Empty=Type the first row of your outline"
+                                  : "$$$/outliner/View/NothingFound=No row has this text");
   const auto font = inDrawbot.GetSupplier()->NewFont(nullptr, 14);
   const Rect area = GetTrackView()->LocalArea();
   inDrawbot.DrawStringInRect(hint, font, palette::FaintInk(),
                              Rect(area.x, area.y + kHintTop, area.width, 2 * kRowHeight),
                              lumui::drawbot::TextAlignment::kCenter);
-}
-
-std::auto_ptr<vek::trackview::Tracker> OutlineTreeList::DoAcquireTracker(
-    const Point& inDataPoint, bool inHover,
-    vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) {
-  using TrackerP = std::auto_ptr<vek::trackview::Tracker>;
-  if (!mDocument) return TrackerP();
-  if (inDragAndDrop) return DoServeDropTracker(inDataPoint, inHover, inDragAndDrop);
-  if (inHover) return TrackerP(new OutlinePressTracker(*this));
-  if (IsLeftPress(*GetTrackView())) return TrackerP(new OutlinePressTracker(*this));
-  // A row that is selected already stays so with all others: the menu is for them together.
-  OutlineEntry* const entry = FindEntryAt(inDataPoint);
-  if (entry && !entry->Selected(GetSelectionManager())) DoSelectEntry(entry, false);
-  return TrackerP();
-}
-
-std::auto_ptr<vek::trackview::Tracker> OutlineTreeList::DoServeDropTracker(
-    const Point&, bool, vek::trackview::TrackerDragAndDropInterface* inDragAndDrop) {
-  return std::auto_ptr<vek::trackview::Tracker>(new OutlineDropTracker(*this, *inDragAndDrop));
-}
-
-bool OutlineTreeList::DoWantsDragDropEvents() const {
-  return mDocument != nullptr;
-}
-
-void OutlineTreeList::DoStartDragOut(const Point&) {
-  if (mDocument && NumSelectedEntries() > 0) {
-    SendSelectedRows(*mDocument, GetTrackView()->GetPlatformView());
-  }
-}
-
-bool OutlineTreeList::DoContextMenu(const Point& inLocalPoint, lumui::ui::UI_Node&) {
-  if (!mDocument) return false;
-  mDocument->CommitTyping();
-  mFunctions.openRowMenu(inLocalPoint);
-  return true;
-}
-
-bool OutlineTreeList::DoDoubleClick(vek::trackview::Modifiers inModifiers,
-                                    const Point& inDataPoint) {
-  OutlineEntry* const entry = FindEntryAt(inDataPoint);
-  if (!entry || !inModifiers.IsEmpty()) return false;
-  const auto row = GetGeometry()->FindEntry(inDataPoint);
-  // On the twisty both clicks count as clicks.
-  if (GetEntryGeometry(row)->GetNodeExpansionArea().Contains(inDataPoint)) return false;
-  OutlineRow& edited = *entry->FindRow();
-  mFunctions.editText(edited, FindCaret(edited, inDataPoint.x));
-  return true;
-}
-
-// The place in the text that is nearest to the point; widths grow with the length.
-std::size_t OutlineTreeList::FindCaret(const OutlineRow& inRow, float inX) {
-  const auto rect = FindTextRect(inRow.GetId());
-  const lumcore::UTF16String& text = inRow.GetText();
-  if (!rect) return text.size();
-  const auto widthTo = [&](std::size_t inEnd) {
-    return GetFont()->MeasureWidthOnce(text.substr(0, inEnd));
-  };
-  const float wanted = inX - rect->x;
-  std::size_t low = 0;
-  std::size_t high = text.size();
-  while (low < high) {
-    const std::size_t middle = (low + high) / 2;
-    if (widthTo(middle) < wanted) {
-      low = middle + 1;
-    } else {
-      high = middle;
-    }
-  }
-  return low > 0 && wanted - widthTo(low - 1) < widthTo(low) - wanted ? low - 1 : low;
 }
 
 std::optional<Rect> OutlineTreeList::FindTextRect(OutlineRow::Id inRow) {
@@ -437,36 +256,6 @@ std::optional<Rect> OutlineTreeList::FindTextRect(OutlineRow::Id inRow) {
   const auto row = GetGeometry()->FindEntry(Point(0, highlight.y + kRowHeight / 2));
   const std::auto_ptr<TreeRowGeometry> look = GetEntryGeometry(row);
   return static_cast<const OutlineRowLook*>(look.get())->GetCellRect(column);
-}
-
-bool OutlineTreeList::DoKeyEvent(const KeyboardEvent& inEvent) {
-  if (!mDocument) return false;
-  if (inEvent.GetAction() == KeyboardEvent::kActionCharacter) {
-    // Ctrl and Alt together are how some keyboards type a third level of characters.
-    const bool isCtrl = inEvent.GetModKey().Has(lumui::ui::kModCommand);
-    const bool isAlt = inEvent.GetModKey().Has(lumui::ui::kModAlt);
-    return isCtrl == isAlt && mFunctions.type(inEvent.GetCharacter());
-  }
-  // Chords are commands'.
-  if (!inEvent.IsActionKeyDown() ||
-      inEvent.GetModKey().HasAny(lumui::ui::kModCommand | lumui::ui::kModAlt)) {
-    return false;
-  }
-  bool isTaken = true;
-  switch (inEvent.GetCode().GetControlCode(false)) {
-    case KeyboardCode::kDownArrow:
-    case KeyboardCode::kUpArrow:
-      return false;  // commands as well, which come back by Step
-    case KeyboardCode::kBackspace:
-      isTaken = mFunctions.deleteCharacter();
-      break;
-    default:
-      isTaken = TreeListControlBase::DoKeyEvent(inEvent);
-      break;
-  }
-  // The key has done its work: it types nothing.
-  if (isTaken) lumui::ui::FlushPostActionKeyEvents(inEvent);
-  return isTaken;
 }
 
 }  // namespace outliner

@@ -20,7 +20,7 @@ namespace outliner {
 class OutlineDocument;
 class OutlineEntries;
 class OutlineEntry;
-class OutlineFilter;
+class TextSearch;
 
 // The rows of a document as a tree list. What is selected is the document's: other views of it show
 // the same. Rows that are selected from elsewhere are never out of sight for long: what is above
@@ -56,6 +56,9 @@ class OutlineTreeList final : public vek::hierarchyview::TreeListControlBase {
   OutlineEntries* GetEntries() const { return mEntries.get(); }  // the same
   bool HasKeyboard() const { return mFunctions.hasKeyboard(); }
   lumui::drawbot::FontP GetFontOf(lumui::drawbot::FontStyle inStyle);
+  // Whether a row shows that the keyboard is at it, and the colour of what stands before its text.
+  bool IsLit(const Entry& inEntry) const;
+  lumui::drawbot::ColorRGBA GetMarkColor(const Entry& inEntry) const;
 
   void DocumentChanged();
   void DocumentSelectionChanged();
@@ -63,7 +66,8 @@ class OutlineTreeList final : public vek::hierarchyview::TreeListControlBase {
   void ShowRow(const OutlineRow& inRow);
   std::size_t CountShownRows() const;  // closed away or not
 
-  void SetFilter(const OutlineFilter& inFilter);
+  // One that looks for nothing lets all rows show.
+  void SetFilter(const TextSearch& inFilter);
   // To the next or previous row of those that show; to the first or last one where none is
   // selected.
   void Step(bool inDown);
@@ -123,7 +127,7 @@ class OutlineTreeList final : public vek::hierarchyview::TreeListControlBase {
  private:
   OutlineEntry* FindEntryAt(const Point& inDataPoint);
   void RowsChanged();
-  void LetSelectionIn();
+  bool LetSelectionIn();
   void FollowSelection();
   bool OpenAbove(const Entry& inEntry);
   void TakePlaceOfSelection(const std::vector<Entry*>& inClosed);

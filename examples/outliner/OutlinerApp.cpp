@@ -9,6 +9,7 @@
 #include "OutlinerMenus.h"
 #include "Reports.h"
 #include "SettingsFile.h"
+#include "Texts.h"
 #include "lumcore/config/CatalogueLocalizer.h"
 #include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/ThrowError.h"
@@ -35,10 +36,6 @@ constexpr int kMenuBar = 1;
 constexpr int kRecentFiles = 10;
 constexpr const char* kBrightnessKey = "brightness";
 constexpr const char* kColumnsKey = "outline columns";
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 }  // namespace
 

@@ -9,7 +9,7 @@
 
 #include "OutlineDocument.h"
 #include "OutlinerApp.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/ScopedValue.h"
 #include "lumcore/utility/StringUtils.h"
@@ -23,8 +23,8 @@ using lumcore::utility::ToUTF16;
 namespace {
 
 [[noreturn]] void Refuse(const char* inKey, const File& inFile) {
-  throw lumcore::config::Error(lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {ToUTF16(inFile.GetPath())}));
+  throw lumcore::config::Error(
+      lumcore::utility::ReplaceInString(Localized(inKey), {ToUTF16(inFile.GetPath())}));
 }
 
 // Also by another name: two documents on one file would overwrite each other's changes.

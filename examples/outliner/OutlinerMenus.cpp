@@ -8,7 +8,7 @@
 
 #include "CommandList.h"
 #include "OutlinerCommands.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/OS_Menu.h"
 #include "vek/uisupport/PlatformMenu.h"
@@ -90,10 +90,6 @@ const Items& WorkspaceItems() {
       kCommandWorkspaceSave, kCommandWorkspaceRevert, kCommandWorkspaceReset, kSeparator,
       kCommandWorkspaceNew,  kCommandWorkspaceDelete, kCommandWorkspaceEdit};
   return sItems;
-}
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
 }
 
 // In a menu one "&" marks a letter, and two are one to be read.

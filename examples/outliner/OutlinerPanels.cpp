@@ -20,7 +20,7 @@
 #include "Panels.h"
 #include "Reports.h"
 #include "ScriptConsole.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/MessageDialog.h"
@@ -50,10 +50,6 @@ constexpr int kFilesWidth = 260;
 constexpr int kConsoleHeight = 200;
 
 constexpr const char* kFilesKey = "files";
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 template <class View>
 View* FindView(const Workspace* inWorkspace, const UTF8String& inTabType) {

@@ -10,7 +10,7 @@
 #include "OutlineDocument.h"
 #include "OutlinerApp.h"
 #include "ScriptedBoxes.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/testing/Menus.h"
@@ -38,8 +38,7 @@ using Arguments = std::vector<ScriptValue>;
 constexpr int kMaxSize = 16384;
 
 [[noreturn]] void Fail(const char* inKey, std::initializer_list<UTF16String> inArguments) {
-  throw lumcore::config::Error(lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), inArguments));
+  throw lumcore::config::Error(lumcore::utility::ReplaceInString(Localized(inKey), inArguments));
 }
 
 const UTF16String& TextOf(const ScriptValue& inValue) {
@@ -48,10 +47,6 @@ const UTF16String& TextOf(const ScriptValue& inValue) {
 
 int IntegerOf(const ScriptValue& inValue) {
   return static_cast<int>(std::get<double>(inValue));
-}
-
-UTF16String Number(int inNumber) {
-  return ToUTF16(std::to_string(inNumber));
 }
 
 ScriptParameter Parameter(const char* inName, ScriptType inType, const char* inDescription) {
@@ -96,7 +91,7 @@ lumui::testing::Position PlaceOf(OS_Window& inWindow, const Arguments& inArgumen
   // Written so that no number at all is outside as well.
   if (!(x >= 0 && y >= 0 && x < rect.width && y < rect.height)) {
     Fail("$$$/outliner/Script/Outside=the place is outside the window, whose size is @0 x @1",
-         {Number(static_cast<int>(rect.width)), Number(static_cast<int>(rect.height))});
+         {NumberText(static_cast<int>(rect.width)), NumberText(static_cast<int>(rect.height))});
   }
   return {static_cast<float>(x), static_cast<float>(y)};
 }
@@ -115,7 +110,7 @@ void DoubleClick(OS_Window& ioWindow, const Arguments& inArguments) {
 void SetSize(OS_Window& ioWindow, int inWidth, int inHeight) {
   if (inWidth < 1 || inHeight < 1 || inWidth > kMaxSize || inHeight > kMaxSize) {
     Fail("$$$/outliner/Script/Size=a window cannot have the size @0 x @1",
-         {Number(inWidth), Number(inHeight)});
+         {NumberText(inWidth), NumberText(inHeight)});
   }
   ioWindow.UI_SetSize(inWidth, inHeight);
 }
@@ -313,7 +308,7 @@ const OutlineRow& OutlinerScriptObject::GetRow(const ScriptValue& inIndex) {
   const int index = IntegerOf(inIndex);
   if (index < 0 || static_cast<std::size_t>(index) >= lines.size()) {
     Fail("$$$/outliner/Script/NoRow=there is no row @0 in an outline of @1 rows",
-         {Number(index), Number(static_cast<int>(lines.size()))});
+         {NumberText(index), NumberText(static_cast<int>(lines.size()))});
   }
   return *lines[static_cast<std::size_t>(index)];
 }

@@ -6,7 +6,7 @@
 #include <boost/intrusive_ptr.hpp>
 #include <optional>
 
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/filesupport/UserDirs.h"
 #include "lumcore/proplist/PropList.h"
 #include "lumcore/proplist/Utils.h"
@@ -28,10 +28,6 @@ namespace {
 
 constexpr const char* kUsesKey = "usesOwnFileDialog";
 constexpr const char* kBoundsKey = "fileDialogBounds";
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 lumcore::proplist::PropList* FindSettings() {
   auto* const app = vek::app::App::GetApp();

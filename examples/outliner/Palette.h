@@ -42,7 +42,7 @@ inline auto DisabledInk() {
 inline auto Accent() {
   return Of(lumui::ui::themev5::kColor_LinkText);
 }
-inline auto LeafBullet() {
+inline auto RowMark() {
   return Of(lumui::ui::themev5::kColor_ListTwisty);
 }
 inline auto Selection() {

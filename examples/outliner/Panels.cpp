@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "vek/workspace/ViewDebuggerTabCreator.h"
 
@@ -90,7 +90,7 @@ PanelCreator::~PanelCreator() = default;
 
 boost::intrusive_ptr<TabPanel> PanelCreator::CreateTabPanel(Workspace* inWorkspace,
                                                             WorkspaceFrameBase* inFrame) {
-  const auto title = lumcore::config::Localizer::Get()->GetLocalizedString(mTitleKey);
+  const auto title = Localized(mTitleKey);
   return new ViewPanel(inWorkspace, inFrame, title, GetTabType(), mMakeView());
 }
 

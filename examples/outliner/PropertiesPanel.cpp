@@ -9,7 +9,7 @@
 
 #include "AttributeEdits.h"
 #include "OutlineDocument.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_StaticText.h"
 #include "lumui/controls/UI_TextButton.h"
@@ -22,10 +22,6 @@ using lumcore::UTF16String;
 using lumcore::utility::ToUTF16;
 
 namespace {
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 // Adds what one row says about an attribute; inIsFirst for the first of all rows.
 void Merge(Property& ioProperty, const UTF16String& inValue, bool inIsFirst) {
@@ -98,8 +94,7 @@ PropertiesController::PropertiesController(vek::workspace::GenericPanel* inPanel
     : GenericPanelController(inPanel), mFollower([this] { Show(); }) {}
 
 PropertiesController::~PropertiesController() {
-  if (mNamed) mNamed->clear();
-  if (mNewName) mNewName->SetEnterFunction(nullptr);
+  if (mNewName) mNewName->SetFunctions({});
   if (mAdd) mAdd->clear();
   if (mFields) mFields->SetFunctions({});
 }
@@ -122,9 +117,8 @@ void PropertiesController::ConnectControls() {
   functions.remove = [this](const Property& inProperty) { Remove(inProperty); };
   mFields->SetFunctions(functions);
   mNewName = GetControl<LineField>("NewAttribute");
-  mNamed.reset(new ChangedFunction([this](Message*) { ShowHint(UTF16String()); }));
-  mNewName->NotifyWhenChangedInteractively(mNamed);
-  mNewName->SetEnterFunction([this] { AddAttribute(); });
+  mNewName->SetFunctions({[this](const UTF16String&) { ShowHint(UTF16String()); },
+                          [this] { AddAttribute(); }, nullptr, nullptr, nullptr});
   mAdd.reset(new ChangedFunction([this](Message*) { AddAttribute(); }));
   GetControl<lumui::controls::UI_TextButton>("AddAttribute")->NotifyWhenChanged(mAdd);
 }

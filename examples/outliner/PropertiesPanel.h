@@ -47,7 +47,6 @@ class PropertiesController final : public vek::workspace::GenericPanelController
   lumcore::UTF16String mWanted;  // the field that gets the keyboard as soon as it is there
   boost::intrusive_ptr<PropertyRows> mFields;
   boost::intrusive_ptr<LineField> mNewName;
-  boost::shared_ptr<ChangedFunction> mNamed;
   boost::shared_ptr<ChangedFunction> mAdd;
 };
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_ScrollBar.h"
 #include "lumui/controls/UI_ScrollView.h"
@@ -31,10 +31,6 @@ constexpr float kLabelShare = 0.32f;  // of the width
 constexpr float kLeastLabel = 50;
 constexpr float kMostLabel = 90;
 constexpr float kRemoverWidth = 26;
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 float HeightOf(const Property& inProperty) {
   return inProperty.isLong ? kLongHeight : kFieldHeight;

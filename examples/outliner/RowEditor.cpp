@@ -3,10 +3,33 @@
 
 #include "RowEditor.h"
 
+#include <cstddef>
+#include <string>
+
 #include "OutlineDocument.h"
 #include "OutlineEdits.h"
+#include "lumcore/config/Localizer.h"
+#include "lumcore/config/ThrowError.h"
+#include "lumcore/utility/StringUtils.h"
 
 namespace outliner {
+
+namespace {
+
+// A field lays out all of its text for each character that is typed.
+constexpr std::size_t kMostEdited = 200000;  // units
+
+void RefuseIfTooLong(const lumcore::UTF16String& inText) {
+  if (inText.size() <= kMostEdited) return;
+  using lumcore::utility::ToUTF16;
+  throw lumcore::config::Error(lumcore::utility::ReplaceInString(
+      lumcore::config::Localizer::Get()->GetLocalizedString(
+          "$$$/outliner/Rows/TooLong=the text of this row is too long to be edited: it has @0 "
+          "characters, and a field takes up to @1"),
+      {ToUTF16(std::to_string(inText.size())), ToUTF16(std::to_string(kMostEdited))}));
+}
+
+}  // namespace
 
 RowEditor::RowEditor(OutlineDocument& inDocument) : mDocument(inDocument) {}
 
@@ -18,6 +41,7 @@ bool RowEditor::IsModified() const {
 
 void RowEditor::Begin(const OutlineRow& inRow) {
   if (IsEditing(inRow)) return;
+  RefuseIfTooLong(inRow.GetText());
   Commit();
   mActive = true;
   mRow = inRow.GetId();

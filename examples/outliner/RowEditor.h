@@ -33,7 +33,8 @@ class RowEditor {
   OutlineRow::Id GetRow() const { return mRow; }
   const lumcore::UTF16String& GetText() const { return mText; }
 
-  // Ends a running editing first.
+  // Ends a running editing first. Throws lumcore::config::Error for a text that no field can take;
+  // then nothing has changed.
   void Begin(const OutlineRow& inRow);
   // At the one selected row; in an empty outline at a first row, which needs no key before it.
   // False where there is no row to type in.

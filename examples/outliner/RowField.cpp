@@ -5,6 +5,7 @@
 
 #include <boost/intrusive_ptr.hpp>
 
+#include "Surrogates.h"
 #include "lumui/ui/KeyboardEvent.h"
 
 namespace outliner {
@@ -34,14 +35,12 @@ bool IsForTheOutline(const KeyboardEvent& inEvent) {
     case KeyboardCode::kEscape:
     case KeyboardCode::kUpArrow:
     case KeyboardCode::kDownArrow:
+    case KeyboardCode::kPageUp:
+    case KeyboardCode::kPageDown:
       return true;
     default:
       return false;
   }
-}
-
-bool IsTrail(unsigned short inUnit) {
-  return (inUnit & 0xFC00) == 0xDC00;
 }
 
 }  // namespace
@@ -81,7 +80,7 @@ void RowField::Insert(unsigned short inUnit) {
 void RowField::DeleteBefore() {
   std::size_t start = GetSelectionStart();
   if (start == GetSelectionEnd() && start > 0) {
-    start -= start > 1 && IsTrail(GetText()[start - 1]) ? 2 : 1;
+    start -= start > 1 && IsTrailSurrogate(GetText()[start - 1]) ? 2 : 1;
   }
   Replace(start, GetSelectionEnd(), lumcore::UTF16String());
 }

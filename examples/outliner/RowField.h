@@ -11,8 +11,8 @@
 namespace outliner {
 
 // The field over a row in which its text is typed. The keys that work on the text are its own;
-// those by which an outline is written (Return, Tab, Escape, up and down, undo) go on to the nodes
-// around it, and so to the commands.
+// those by which an outline is written (Return, Tab, Escape, up and down by rows and pages, undo)
+// go on to the nodes around it, and so to the commands.
 class RowField final : public lumui::controls::UI_TextEdit {
  public:
   RowField();

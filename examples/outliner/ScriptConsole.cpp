@@ -9,7 +9,7 @@
 #include <sstream>
 
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumscripting/ScriptRunner.h"
@@ -36,10 +36,6 @@ constexpr float kTextSize = 12;
 constexpr std::size_t kMostText = 50000;
 constexpr std::size_t kMostEarlier = 200;
 constexpr std::chrono::seconds kPatience(2);
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 UTF16String NumberText(double inNumber) {
   std::ostringstream text;

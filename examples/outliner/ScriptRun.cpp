@@ -9,7 +9,7 @@
 #include "OutlineDocument.h"
 #include "OutlinerApp.h"
 #include "OutlinerScriptObject.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumscripting/ScriptError.h"
@@ -32,8 +32,7 @@ constexpr const char* kObjectName = "Outliner";
 constexpr std::chrono::seconds kPatience(5);
 
 std::string About(const char* inKey, const UTF16String& inWhat) {
-  return ToStdString(lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey), {inWhat}));
+  return ToStdString(lumcore::utility::ReplaceInString(Localized(inKey), {inWhat}));
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/filesupport/File.h"
 #include "lumcore/utility/StringUtils.h"
@@ -23,9 +23,8 @@ UTF16String Complain(const char* inKey, const lumui::dialogs::MessageDialogArgs&
   UTF16String buttons;
   for (const UTF16String& button : inBox.buttons)
     buttons += (buttons.empty() ? UTF16String() : lumcore::utility::ToUTF16(", ")) + button;
-  return lumcore::utility::ReplaceInString(
-      lumcore::config::Localizer::Get()->GetLocalizedString(inKey),
-      {inBox.title, inBox.text, buttons, inAnswer});
+  return lumcore::utility::ReplaceInString(Localized(inKey),
+                                           {inBox.title, inBox.text, buttons, inAnswer});
 }
 
 }  // namespace
@@ -75,9 +74,7 @@ UTF16String StScriptedBoxes::AnswerFileDialog(const lumui::dialogs::FileDialogAr
   using lumcore::filesupport::File;
   if (mAnswers.empty()) {
     Fail(lumcore::utility::ReplaceInString(
-        lumcore::config::Localizer::Get()->GetLocalizedString(
-            "$$$/outliner/Script/NoFile=the dialog \"@0\" has no answer"),
-        {inDialog.title}));
+        Localized("$$$/outliner/Script/NoFile=the dialog \"@0\" has no answer"), {inDialog.title}));
     return {};
   }
   const File file(mAnswers.front());
@@ -85,7 +82,7 @@ UTF16String StScriptedBoxes::AnswerFileDialog(const lumui::dialogs::FileDialogAr
   // The system's dialog would not let a user choose it.
   if (inDialog.kind == lumui::dialogs::FileDialogArgs::kOpen && !file.Exists()) {
     Fail(lumcore::utility::ReplaceInString(
-        lumcore::config::Localizer::Get()->GetLocalizedString(
+        Localized(
             "$$$/outliner/Script/MissingFile=the dialog \"@0\" cannot choose @1: there is no such "
             "file"),
         {inDialog.title, lumcore::utility::ToUTF16(file.GetPath())}));

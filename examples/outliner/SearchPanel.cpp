@@ -7,7 +7,7 @@
 
 #include "OutlineDocument.h"
 #include "OutlinerApp.h"
-#include "lumcore/config/Localizer.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_Checkbox.h"
 #include "lumui/controls/UI_StaticText.h"
@@ -19,18 +19,6 @@ using lumcore::UTF16String;
 using lumcore::utility::ReplaceInString;
 using lumcore::utility::ToUTF16;
 
-namespace {
-
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
-
-UTF16String Number(std::size_t inNumber) {
-  return ToUTF16(std::to_string(inNumber));
-}
-
-}  // namespace
-
 SearchController::SearchController(vek::workspace::GenericPanel* inPanel)
     : GenericPanelController(inPanel),
       mApp(static_cast<OutlinerApp&>(*vek::app::App::GetApp())),
@@ -40,9 +28,8 @@ SearchController::~SearchController() {
   for (const auto& function : mFunctions)
     function->clear();
   if (!mResults) return;
-  mField->SetEnterFunction(nullptr);
-  mField->SetDownFunction(nullptr);
-  mReplacement->SetEnterFunction(nullptr);
+  mField->SetFunctions({});
+  mReplacement->SetFunctions({});
   GetList().SetChooseFunction(nullptr);
   GetList().Forget();
 }
@@ -50,7 +37,7 @@ SearchController::~SearchController() {
 boost::intrusive_ptr<lumui::ui::UI_Node> SearchController::CreateCustomNode(
     const UTF16String& inClassName) {
   if (inClassName != ToUTF16("outliner::SearchResults")) return nullptr;
-  return boost::intrusive_ptr<lumui::ui::UI_Node>(new SearchResultsPane);
+  return boost::intrusive_ptr<lumui::ui::UI_Node>(new SearchResultsPane(true));
 }
 
 boost::shared_ptr<SearchController::ChangedFunction> SearchController::NewFunction(
@@ -83,14 +70,12 @@ void SearchController::ConnectTexts() {
   mReplacement->SetText(wish.replacement);
   mCase->SetDownState(wish.term.matchesCase);
   mWords->SetDownState(wish.term.wholeWords);
-  mField->NotifyWhenChangedInteractively(NewFunction([this](Message* inMessage) {
-    if (inMessage->GetChange() != Message::kChanged) TermChanged();
-  }));
-  mField->SetEnterFunction([this] { Next(); });
-  mField->SetDownFunction([this] { GetList().UI_SetKeyboardFocus(lumui::ui::kFocusOther); });
-  mReplacement->SetEnterFunction([this] { Replace(); });
-  mReplacement->NotifyWhenChangedInteractively(NewFunction(
-      [this](Message*) { mApp.GetSearchWish().replacement = mReplacement->GetText(); }));
+  const auto focusList = [this] { mResults->FocusList(); };
+  mField->SetFunctions({[this](const UTF16String&) { TermChanged(); }, [this] { Next(); },
+                        focusList, focusList, nullptr});
+  mReplacement->SetFunctions(
+      {[this](const UTF16String& inText) { mApp.GetSearchWish().replacement = inText; },
+       [this] { Replace(); }, nullptr, nullptr, nullptr});
 }
 
 void SearchController::ConnectButton(const char* inID, void (SearchController::*inDo)()) {
@@ -138,10 +123,10 @@ void SearchController::ShowSummary() {
   } else if (present == LinesView::kNoLine) {
     text = ReplaceInString(Localized(count == 1 ? "$$$/outliner/Search/OneRow=@0 row"
                                                 : "$$$/outliner/Search/Rows=@0 rows"),
-                           {Number(count)});
+                           {NumberText(count)});
   } else {
     text = ReplaceInString(Localized("$$$/outliner/Search/Place=Row @0 of @1"),
-                           {Number(present + 1), Number(count)});
+                           {NumberText(present + 1), NumberText(count)});
   }
   GetControl<lumui::controls::UI_StaticText>("SearchSummary")->SetText(text);
 }
@@ -177,11 +162,10 @@ void SearchController::Replace() {
   if (!document) return;
   mNews.clear();
   document->CommitTyping();
-  const auto selected = document->GetSelectedRows();
+  const OutlineRow* const row = document->GetOnlySelectedRow();
   const TextSearch search(mApp.GetSearchWish().term);
-  if (selected.size() == 1 && search::IsInRow(*document, *selected.front(), search)) {
-    search::Replace(*document, {selected.front()->GetId()}, search,
-                    mApp.GetSearchWish().replacement);
+  if (row && search::IsInRow(*document, *row, search)) {
+    search::Replace(*document, {row->GetId()}, search, mApp.GetSearchWish().replacement);
   }
   Step(true);
 }
@@ -196,7 +180,7 @@ void SearchController::ReplaceAll() {
   mNews =
       ReplaceInString(Localized(count == 1 ? "$$$/outliner/Search/ReplacedOne=Replaced in @0 row"
                                            : "$$$/outliner/Search/Replaced=Replaced in @0 rows"),
-                      {Number(count)});
+                      {NumberText(count)});
   mFollower.ShowSoon();
 }
 

@@ -6,11 +6,12 @@
 #include <algorithm>
 
 #include "AttributeEdits.h"
+#include "MarkedText.h"
 #include "OutlineDocument.h"
 #include "Palette.h"
-#include "lumcore/config/Localizer.h"
+#include "Surrogates.h"
+#include "Texts.h"
 #include "lumcore/utility/StringUtils.h"
-#include "lumui/controls/UI_ScrollView.h"
 #include "lumui/drawbot/Drawbot.h"
 #include "lumui/drawbot/SupplierInterface.h"
 
@@ -37,37 +38,13 @@ constexpr float kMarkAlpha = 0.3f;
 constexpr std::size_t kFarMatch = 32;
 constexpr std::size_t kBeforeMatch = 12;
 
-UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
-
 // From a little before the first match, with an ellipsis for what is left out.
 UTF16String Shortened(const UTF16String& inText, const TextSearch& inSearch) {
   const auto matches = inSearch.FindAll(inText);
   if (matches.empty() || matches.front().start <= kFarMatch) return inText;
   std::size_t from = matches.front().start - kBeforeMatch;
-  if ((inText[from] & 0xFC00) == 0xDC00) ++from;  // not the second half of a character
+  if (IsTrailSurrogate(inText[from])) ++from;  // not the second half of a character
   return ToUTF16("\xE2\x80\xA6") + inText.substr(from);
-}
-
-struct Inks {
-  ColorRGBA text;
-  ColorRGBA mark;
-};
-
-void DrawMarked(Drawbot& ioDrawbot, const UTF16String& inText, const TextSearch& inSearch,
-                float inSize, const Inks& inInks, const Rect& inPlace) {
-  const UTF16String text = Shortened(inText, inSearch);
-  const auto font = ioDrawbot.GetSupplier()->NewFont(nullptr, inSize);
-  for (const auto& match : inSearch.FindAll(text)) {
-    const float left = inPlace.x + font->MeasureWidthOnce(text.substr(0, match.start));
-    if (left >= inPlace.Right()) break;
-    const float width = font->MeasureWidthOnce(text.substr(match.start, match.length));
-    ioDrawbot.FillRect(
-        {left, inPlace.y + 1, std::min(width, inPlace.Right() - left), inPlace.height - 2},
-        inInks.mark);
-  }
-  ioDrawbot.DrawStringInRect(text, font, inInks.text, inPlace);
 }
 
 }  // namespace
@@ -86,9 +63,8 @@ void SearchResults::Show(const OutlineDocument* inDocument, const SearchTerm& in
 
 void SearchResults::ShowSelection() {
   mPresent = kNoLine;
-  const auto selected = mDocument ? mDocument->GetSelectedRows() : std::vector<OutlineRow*>();
-  if (selected.size() == 1) {
-    const auto found = std::find(mRows.begin(), mRows.end(), selected.front()->GetId());
+  if (const OutlineRow* const row = mDocument ? mDocument->GetOnlySelectedRow() : nullptr) {
+    const auto found = std::find(mRows.begin(), mRows.end(), row->GetId());
     if (found != mRows.end()) mPresent = static_cast<std::size_t>(found - mRows.begin());
   }
   LinesChanged();
@@ -133,36 +109,24 @@ void SearchResults::DrawLine(Drawbot& ioDrawbot, std::size_t inLine, const Rect&
   if (!row) return;
   const float width = std::max(0.0f, inPlace.width - 2 * kMargin);
   const auto mark = inIsLit ? palette::SelectionInk() : palette::Accent();
-  const Inks inks{inIsLit ? palette::SelectionInk() : palette::RowInk(),
-                  mark.WithAlpha(kMarkAlpha)};
-  const Inks faint{inIsLit ? palette::SelectionInk() : palette::FaintInk(), inks.mark};
+  const TextInks inks{inIsLit ? palette::SelectionInk() : palette::RowInk(),
+                      mark.WithAlpha(kMarkAlpha)};
+  const TextInks faint{inIsLit ? palette::SelectionInk() : palette::FaintInk(), inks.mark};
   ioDrawbot.FillRect({kMargin, inPlace.Bottom() - 1, width, 1}, palette::Guide());
-  DrawMarked(ioDrawbot, row->GetText(), *mSearch, kTextSize, inks,
-             {kMargin, inPlace.y + kTextTop, width, kTextHeight});
+  const auto& supplier = *ioDrawbot.GetSupplier();
+  DrawMarkedText(ioDrawbot, Shortened(row->GetText(), *mSearch), *mSearch,
+                 supplier.NewFont(nullptr, kTextSize), inks,
+                 {kMargin, inPlace.y + kTextTop, width, kTextHeight});
   const Rect below(kMargin, inPlace.y + kPathTop, width, kPathHeight);
+  const auto small = supplier.NewFont(nullptr, kPathSize);
   const UTF16String note = edits::GetNote(*mDocument, *row);
   if (mSearch->IsIn(note)) {
-    DrawMarked(ioDrawbot, note, *mSearch, kPathSize, faint, below);
+    DrawMarkedText(ioDrawbot, Shortened(note, *mSearch), *mSearch, small, faint, below);
   } else {
-    ioDrawbot.DrawStringInRect(PathOf(*row), ioDrawbot.GetSupplier()->NewFont(nullptr, kPathSize),
-                               faint.text, below, lumui::drawbot::TextAlignment::kLeft,
+    ioDrawbot.DrawStringInRect(PathOf(*row), small, faint.text, below,
+                               lumui::drawbot::TextAlignment::kLeft,
                                lumui::drawbot::TextTruncation::kMiddle);
   }
-}
-
-SearchResultsPane::SearchResultsPane()
-    : mList(new SearchResults), mScrollView(mList->MakeScrollView()) {
-  UI_AddChild(mScrollView);
-}
-
-void SearchResultsPane::UI_SizeChanged(const Rect& inRect) {
-  UI_SubView::UI_SizeChanged(inRect);
-  mScrollView->UI_SetLocalRectF({0, 1, inRect.width, std::max(0.0f, inRect.height - 1)});
-  mList->LinesChanged();
-}
-
-void SearchResultsPane::UI_Draw(Drawbot* inDrawbot) const {
-  inDrawbot->FillRect({0, 0, UI_GetLocalRectF().width, 1}, palette::Line());
 }
 
 }  // namespace outliner

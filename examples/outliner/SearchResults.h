@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "LinesView.h"
+#include "LinesPane.h"
 #include "OutlineRow.h"
 #include "TextSearch.h"
 
@@ -55,20 +55,6 @@ class SearchResults final : public LinesView {
   std::size_t mPresent = kNoLine;
 };
 
-// The list in a view that scrolls it, as the archive has it.
-class SearchResultsPane final : public lumui::ui::UI_SubView {
- public:
-  SearchResultsPane();
-
-  SearchResults& GetList() { return *mList; }
-  void UI_Draw(lumui::drawbot::Drawbot* inDrawbot) const override;
-
- protected:
-  void UI_SizeChanged(const lumcore::geom::RectT<float>& inRect) override;
-
- private:
-  boost::intrusive_ptr<SearchResults> mList;
-  boost::intrusive_ptr<lumui::controls::UI_ScrollView> mScrollView;
-};
+using SearchResultsPane = LinesPane<SearchResults>;
 
 }  // namespace outliner

@@ -3,6 +3,7 @@
 
 #include "TextSearch.h"
 
+#include "Surrogates.h"
 #include "lumcore/utility/StringUtils.h"
 
 namespace outliner {
@@ -12,14 +13,6 @@ using lumcore::UTF16String;
 namespace {
 
 constexpr unsigned short kFirstBeyondASCII = 0x80;
-
-bool IsLead(unsigned short inUnit) {
-  return (inUnit & 0xFC00) == 0xD800;
-}
-
-bool IsTrail(unsigned short inUnit) {
-  return (inUnit & 0xFC00) == 0xDC00;
-}
 
 // Letters, digits and the marks upon them; beyond Latin all but spaces and punctuation counts.
 bool IsInWord(unsigned short inUnit) {
@@ -53,7 +46,8 @@ void TextSearch::Prepare(const UTF16String& inText) const {
   mFolded.clear();
   for (std::size_t at = 0; at < inText.size();) {
     const unsigned short unit = inText[at];
-    const bool isPair = IsLead(unit) && at + 1 < inText.size() && IsTrail(inText[at + 1]);
+    const bool isPair =
+        IsLeadSurrogate(unit) && at + 1 < inText.size() && IsTrailSurrogate(inText[at + 1]);
     const std::size_t length = isPair ? 2 : 1;
     if (unit < kFirstBeyondASCII) {
       const bool isUpper = unit >= 'A' && unit <= 'Z';
@@ -78,7 +72,7 @@ bool TextSearch::FindFrom(const UTF16String& inText, std::size_t& ioFrom, Match&
   const auto isBoundary = [&](std::size_t inAt) {
     if (inAt == 0 || inAt == text.size()) return true;
     if (!isAsItWas) return mOrigins[inAt] != mOrigins[inAt - 1];
-    return !(IsTrail(text[inAt]) && IsLead(text[inAt - 1]));
+    return !(IsTrailSurrogate(text[inAt]) && IsLeadSurrogate(text[inAt - 1]));
   };
   for (;; ++ioFrom) {
     ioFrom = text.find(mWanted, ioFrom);

@@ -34,6 +34,7 @@ class TextSearch {
     std::size_t length;
   };
 
+  TextSearch() = default;
   explicit TextSearch(const SearchTerm& inTerm);
 
   bool IsEmpty() const { return mWanted.empty(); }

@@ -18,8 +18,8 @@
 #include "Reports.h"
 #include "ScriptRun.h"
 #include "StopSignals.h"
+#include "Texts.h"
 #include "lumcore/config/ClientInfo.h"
-#include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
@@ -51,10 +51,6 @@ constexpr const char* kUsage =
 constexpr const char* kLanguageUsage =
     "$$$/outliner/Main/LanguageUsage="
     "  --language LANGUAGE               with all of these: speak \"de\" or another language\n";
-
-lumcore::UTF16String Localized(const char* inKey) {
-  return lumcore::config::Localizer::Get()->GetLocalizedString(inKey);
-}
 
 // A folder that is there while this lives.
 class StScratchFolder {
@@ -114,9 +110,9 @@ int RunEditor(lumui::ui::Application& ioApplication, const Options& inOptions,
               const outliner::StReportsToStream* inReports) {
   const bool isScript = !inOptions.script.empty();
   if (!isScript && ioApplication.IsHeadless()) {
-    throw lumcore::config::Error(
-        Localized("$$$/outliner/Main/NoDisplay=there is no display to show a window on; --script "
-                  "needs none"));
+    throw lumcore::config::Error(outliner::Localized(
+        "$$$/outliner/Main/NoDisplay=there is no display to show a window on; --script "
+        "needs none"));
   }
   std::optional<StScratchFolder> scratch;
   outliner::OutlinerApp::Options options{outliner::FindCommandFiles(), inOptions.keys,
@@ -169,8 +165,8 @@ int Run(int inCount, char** inArguments) {
   Options options;
   const bool isUnderstood = ReadOptions(inCount, inArguments, options);
   if (!isUnderstood || options.task == Options::kHelp) {
-    (isUnderstood ? std::cout : std::cerr)
-        << lumcore::utility::ToStdString(Localized(kUsage) + Localized(kLanguageUsage));
+    (isUnderstood ? std::cout : std::cerr) << lumcore::utility::ToStdString(
+        outliner::Localized(kUsage) + outliner::Localized(kLanguageUsage));
     return isUnderstood ? 0 : kExitUsage;
   }
   SetIdentity();

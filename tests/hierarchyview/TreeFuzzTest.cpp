@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/RandomSteps.h"
+#include "support/Seeds.h"
 #include "support/RecordingDrawbot.h"
 #include "support/TreeRig.h"
 
@@ -284,7 +285,7 @@ TEST_F(TreeFuzz, ShowsAndPaintsWhatAPlainModelSays) {
   const std::vector<const char*> kNames = {"add",    "remove", "move", "turn", "sort",
                                            "select", "down",   "up",   "undo"};
   const auto run = [this](const RandomSteps& inSteps) { return Run(inSteps); };
-  for (unsigned seed = 1; seed <= 120; ++seed) {
+  for (const unsigned seed : test_support::Seeds(120)) {
     mWalks = seed % 2 == 0;
     const RandomSteps steps = NewSteps(seed, 12, 150, kActs);
     ASSERT_EQ(Run(steps), "") << "seed " << seed << ", in short:\n"

@@ -71,6 +71,13 @@ TEST_F(TreePainting, DrawsTheRowsThatTheDamageTouchesEachInItsBand) {
             "fill 5,23.5-11,28.5-5,33.5 #0.5,0.5,0.5,1\n"
             "pop\n");
   EXPECT_EQ(Paint(tv::Rect(0, 0, 0, 50)) + Paint(tv::Rect(0, 0, 50, 0)), "");
+  // A host that paints its own grounds says what is seen on them.
+  mTree->SetTwistyColorFunction([this](const HierarchyEntryBase* inEntry) {
+    const bool isSelected = inEntry->Selected(mTree->GetSelectionManager());
+    return lumui::drawbot::ColorRGBA(isSelected ? 1.0f : 0.0f, 0, 0);
+  });
+  EXPECT_NE(Paint(tv::Rect(0, 20, 50, 10)).find("5,33.5 #1,0,0,1\n"), std::string::npos);
+  EXPECT_NE(Paint(tv::Rect(0, 40, 50, 10)).find("8,50.5 #0,0,0,1\n"), std::string::npos);
 }
 
 TEST_F(TreePainting, RemembersTheRowsThatItPassedUntilSomethingMoves) {

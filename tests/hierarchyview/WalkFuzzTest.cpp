@@ -8,6 +8,7 @@
 #include <random>
 #include <vector>
 
+#include "support/Seeds.h"
 #include "support/TestTree.h"
 #include "vek/hierarchyview/CompareCellTexts.h"
 #include "vek/hierarchyview/PlainWalk.h"
@@ -292,7 +293,7 @@ bool ExpectIndexed(HierarchyGeometry& ioGeometry) {
 
 TEST(RowIndex, KnowsEveryRowOfARegularTree) {
   int asked = 0, answered = 0;
-  for (unsigned int seed = 1; seed <= 60; ++seed) {
+  for (const unsigned seed : test_support::Seeds(60)) {
     RandomTree tree(seed, true);
     TreeGeometry shown(&tree.GetControl(), 8, false, 19), hiding(&tree.GetControl(), 8, true, 7);
     TreeListGeometry list(&tree.GetControl(), 8, seed % 2 == 0);
@@ -310,8 +311,42 @@ TEST(RowIndex, KnowsEveryRowOfARegularTree) {
   EXPECT_EQ(answered, asked);
 }
 
+// Levels begin anew there: rows stand as the walk finds them all the same, and are found as fast.
+TEST(RowIndex, KnowsRowsThatAreDeeperThanLevelsCanTell) {
+  constexpr int kDepth = 65560, kFrom = 65530;
+  const EntryP root(new NamedEntry("r", nullptr));
+  HierarchyEntryBase* deepest = root.get();
+  const auto add = [&] {
+    const EntryP child(new NamedEntry("e", deepest));
+    deepest->AddChild(child, false);
+    deepest->SetNodeState(kNodeExpanded);
+    return child.get();
+  };
+  for (int depth = 1; depth < kDepth; ++depth) {
+    HierarchyEntryBase* const child = add();
+    if (depth > kFrom) add();
+    deepest = child;
+  }
+  TestControl control(root);
+  TreeGeometry shown(&control, 8, false, 19), hiding(&control, 8, true, 7);
+  TreeListGeometry list(&control, 8, false);
+  HierarchyGeometry* const kGeometries[] = {&shown, &hiding, &list};
+  for (HierarchyGeometry* const geometry : kGeometries) {
+    const std::optional<RowIndex> index = RowIndex::Of(*geometry);
+    ASSERT_TRUE(index);
+    ASSERT_EQ(index->GetCount(), kDepth + (kDepth - 1 - kFrom));
+    Traverse row = Walker::At(*geometry, index->GetIterator(kFrom));
+    for (RowIndex::Row number = kFrom + 1; number < index->GetCount(); ++number) {
+      PlainWalk::NextEntry(*geometry, row, false);
+      const Traverse found = Walker::At(*geometry, index->GetIterator(number));
+      ASSERT_EQ(row.mEntry, found.mEntry) << number;
+      ASSERT_EQ(PlaceOf(row), PlaceOf(found)) << number;
+    }
+  }
+}
+
 TEST(Walks, AnswerAsThePlainOneInAnyTree) {
-  for (unsigned int seed = 1; seed <= 60; ++seed) {
+  for (const unsigned seed : test_support::Seeds(60)) {
     RandomTree tree(seed, false);
     for (int change = 0; change < 120; ++change) {
       tree.ChangeSomething();

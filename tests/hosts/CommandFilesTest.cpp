@@ -73,9 +73,9 @@ TEST(CommandFiles, FilesThatDoNotFitEndTheStartWithTheirNameAndCause) {
     SCOPED_TRACE(bad.cause);
     const outliner::CommandFiles files{folder.GetFile("c.xml"), folder.GetFile("k.xml")};
     files.commands.Remove();
-    files.keys.Remove();
+    files.keys->Remove();
     if (!bad.commands.empty()) files.commands.ReplaceContents(bad.commands);
-    if (!bad.keys.empty()) files.keys.ReplaceContents(bad.keys);
+    if (!bad.keys.empty()) files.keys->ReplaceContents(bad.keys);
     try {
       CommandSystem commands(files);
       commands.LoadKeys();

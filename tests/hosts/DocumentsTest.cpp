@@ -96,6 +96,54 @@ TEST(Documents, SaveAsKeepsTheOldFileWhenItFailsAndNeverTakesThatOfAnother) {
             "&1  n.opml | &2  p.opml | &3  o.opml");
 }
 
+TEST(Documents, AFileThatAnotherProgramHasChangedIsOverwrittenOnlyAfterAQuestion) {
+  const std::string question =
+      "box: Another program has changed \"o.opml\" since it was opened or saved here. If it is "
+      "overwritten, those changes are lost.\n";
+  RunningOutliner host("a b c d");
+  const File file(host.GetPath("o.opml"));
+  const std::string opened = host.ReadFile();
+  const std::string theirs = "<opml><body><outline text=\"theirs\"/></body></opml>";
+  host.Keys("Down Delete");
+  file.ReplaceContents(theirs);
+  host.AnswerNextBox("Cancel");
+  host.Keys("Ctrl+S");
+  EXPECT_EQ(host.TakeMessages(), question);
+  for (const char* answer : {"Save", "Cancel"})
+    host.AnswerNextBox(answer);
+  host.Keys("Ctrl+W");
+  EXPECT_EQ(host.ShowDocuments(), "[*o.opml]") << "what is not saved stays open";
+  EXPECT_EQ(host.ReadFile(), theirs);
+
+  host.TakeMessages();
+  file.ReplaceContents(opened);
+  host.Keys("Ctrl+S");
+  EXPECT_EQ(host.TakeMessages(), "") << "it is as it was";
+  host.Keys("Down Delete");
+  file.Remove();
+  host.Keys("Ctrl+S");
+  EXPECT_EQ(host.TakeMessages(), "") << "there is nothing to lose";
+  host.Keys("Down Delete Ctrl+S");
+  EXPECT_EQ(host.TakeMessages(), "") << "what was written here is known";
+
+  // Of the same length, and at the same time as far as clocks tell.
+  std::string changed = host.ReadFile();
+  changed[changed.find("text=\"") + 6] = 'X';
+  file.ReplaceContents(changed);
+  host.Keys("Ctrl+Return");
+  for (const char* answer : {"Save As...", "mine.opml"})
+    host.AnswerNextBox(answer);
+  host.Keys("Ctrl+S");
+  EXPECT_EQ(host.ShowDocuments(), "[mine.opml]");
+  EXPECT_EQ(host.ReadFile(), changed);
+  File(host.GetPath("mine.opml")).ReplaceContents(theirs);
+  host.Keys("Ctrl+Return");
+  host.AnswerNextBox("Overwrite");
+  host.Keys("Ctrl+S");
+  EXPECT_EQ(host.ShowDocuments(), "[mine.opml]");
+  EXPECT_NE(lumcore::utility::ToStdString(File(host.GetPath("mine.opml")).ReadAll()), theirs);
+}
+
 TEST(Documents, QuittingAsksEachUntilOneRefuses) {
   RunningOutliner host("a b");
   for (const char* name : {"p.opml", "q.opml"})

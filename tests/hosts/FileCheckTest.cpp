@@ -29,7 +29,7 @@ std::string Check(const std::string& inCommands, const std::string& inKeys) {
   if (!inCommands.empty()) files.commands = folder.GetFile("c");
   if (!inCommands.empty()) files.commands.ReplaceContents(inCommands);
   if (!inKeys.empty()) files.keys = folder.GetFile("k");
-  if (!inKeys.empty()) files.keys.ReplaceContents(inKeys);
+  if (!inKeys.empty()) files.keys->ReplaceContents(inKeys);
   std::ostringstream out;
   EXPECT_FALSE(outliner::CheckFiles(files, out));
   std::string text = out.str();

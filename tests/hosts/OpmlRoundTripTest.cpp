@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -204,6 +205,41 @@ TEST(OpmlErrors, SayPathLineColumnAndCause) {
       ADD_FAILURE() << "was read";
     } catch (const lumcore::xml::ParseError& error) {
       EXPECT_EQ(std::string(error.what()).substr(0, std::string(bad.error).size()), bad.error);
+    }
+  }
+}
+
+// Whatever is left of a file or has become of it is read whole, or refused with its place; and what
+// was read once says the same when it is written and read again.
+TEST(OpmlErrors, DamagedFilesAreReadWholeOrRefusedWithTheirPlace) {
+  std::mt19937 random(7);
+  const auto below = [&random](std::size_t inLimit) { return random() % inLimit; };
+  const auto tryToRead = [](const std::string& inBytes) {
+    try {
+      const std::string once = RoundTrip(inBytes);
+      EXPECT_EQ(RoundTrip(once), once) << inBytes;
+      return true;
+    } catch (const lumcore::xml::ParseError& error) {
+      EXPECT_EQ(std::string(error.what()).find("o.opml:"), 0u) << error.what();
+      return false;
+    }
+  };
+  for (const Case& whole : kKeptCases) {
+    // All but the line end that may stand behind the last tag.
+    for (std::size_t length = 0; length + 2 < whole.bytes.rfind("</opml>") + 7; ++length)
+      EXPECT_FALSE(tryToRead(whole.bytes.substr(0, length))) << length << " of " << whole.what;
+    for (int damage = 0; damage < 200; ++damage) {
+      std::string bytes = whole.bytes;
+      const std::size_t place = below(bytes.size());
+      const auto noise = static_cast<char>(below(256));
+      if (damage % 3 == 0) {
+        bytes[place] = noise;
+      } else if (damage % 3 == 1) {
+        bytes.erase(place, 1 + below(30));
+      } else {
+        bytes.insert(place, 1 + below(3), noise);
+      }
+      tryToRead(bytes);
     }
   }
 }

@@ -3,121 +3,28 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <functional>
-#include <random>
 #include <string>
-#include <vector>
 
-#include "hosts/OutlineText.h"
-#include "hosts/RunningOutliner.h"
+#include "hosts/OutlineListHost.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_TextEdit.h"
 #include "lumui/testing/Menus.h"
-#include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/UI_NodeManager.h"
-#include "outliner/DocumentPane.h"
-#include "outliner/MapPane.h"
 #include "outliner/OutlineEdits.h"
-#include "outliner/OutlineEntries.h"
-#include "outliner/OutlineFilter.h"
-#include "outliner/OutlineList.h"
-#include "outliner/OutlineTreeList.h"
 #include "outliner/RowEditor.h"
-#include "vek/hierarchyview/TreeListGeometry.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
 #include "vek/undo/MultiUndoerHooks.h"
 
 namespace {
 
-using lumcore::UTF16String;
+using Host = tests::OutlineListHost;
 using lumcore::utility::ToStdString;
 using lumcore::utility::ToUTF16;
 using lumui::testing::ForeignDrag;
-using lumui::testing::Position;
-using outliner::OutlineColumns;
-using outliner::OutlineEntry;
 using outliner::OutlineRow;
-using outliner::OutlineTreeList;
-using tests::RunningOutliner;
-using vek::hierarchyview::kNodeCollapsed;
-
-class Host : public RunningOutliner {
- public:
-  explicit Host(const std::string& inOutline) : RunningOutliner(inOutline) { Widen(); }
-  explicit Host(TemporaryFolder& ioFolder) : RunningOutliner(ioFolder) { Widen(); }
-
-  outliner::OutlineList& List() { return GetApp().FindPane()->GetList(); }
-  OutlineTreeList& Rows() { return List().GetRows(); }
-
-  // The rows that show, closed ones with "+": "a [b] c+".
-  std::string Shown() { return Branch(*Rows().GetRootEntry()); }
-  // The titles, with an arrow at the column that the rows are sorted by.
-  std::string Titles() {
-    std::string titles;
-    for (unsigned short column = 0; column < Rows().GetNumberOfColumns(); ++column) {
-      UTF16String title;
-      Rows().GetColumnDescriptor(column, title);
-      titles += ToStdString(title);
-      if (column == Rows().GetSortColumn()) titles += Rows().GetSortIsAscending() ? "^" : "v";
-      titles += ' ';
-    }
-    return titles;
-  }
-  void ClickTitle(unsigned short inColumn) {
-    lumui::testing::ClickMouse(GetWindow(),
-                               PlaceIn("columns", Rows().GetColumnStartLoc(inColumn) + 20, 10));
-    lumui::testing::ProcessEvents();
-  }
-  // A share of the height of a line of the list, from its top.
-  Position At(int inLine, float inShare, float inX = 120) {
-    const float height = vek::hierarchyview::TreeListGeometry::kRowHeight;
-    return PlaceIn("rows", inX, (static_cast<float>(inLine) + inShare) * height);
-  }
-  Position InMap(const std::string& inText) {
-    outliner::MapPane& map = *GetApp().FindMap();
-    const auto& layout = map.GetScene().GetLayout();
-    const OutlineRow* const row = tests::FindRow(GetDocument(), inText);
-    const auto box = layout.GetBox(layout.FindRow(row->GetId()));
-    vek::trackview::Point point(box.x + box.width / 2, box.y + box.height / 2);
-    map.GetTrackView().DataToLocal(point);
-    point = point - map.GetTrackView().LocalArea().Origin();
-    return PlaceIn("map", point.x, point.y);
-  }
-  // A drag that the window system carries: it moves and drops while the press is being handled.
-  void Drag(const Position& inFrom, const Position& inTo) {
-    lumui::testing::PressMouse(GetWindow(), inFrom);
-    lumui::ui::UI_NodeManager::Get(true)->GetExecutor()->Post([this, inTo] {
-      lumui::testing::MoveMouse(GetWindow(), inTo);
-      lumui::testing::MoveMouse(GetWindow(), inTo + Position(1, 0));
-      lumui::testing::ReleaseMouse(GetWindow(), inTo + Position(1, 0));
-    });
-    lumui::testing::MoveMouse(GetWindow(), inFrom + Position(-6, 0));
-    lumui::testing::MoveMouse(GetWindow(), inTo);
-    lumui::testing::ProcessEvents();
-    lumui::testing::ReleaseMouse(GetWindow(), inTo);
-    lumui::testing::ProcessEvents();
-  }
-
- private:
-  void Widen() { GetWindow().UI_SetSize(1600, 1000); }
-
-  static std::string Branch(const vek::hierarchyview::HierarchyEntryBase& inParent) {
-    std::string text;
-    for (const auto& child : inParent.GetChildren()) {
-      UTF16String cell;
-      child->GetCellText(OutlineColumns::kText, cell);
-      text += (text.empty() ? "" : " ") + (cell.empty() ? "-" : ToStdString(cell));
-      if (child->GetChildren().empty()) continue;
-      const bool isClosed = child->GetNodeState() == kNodeCollapsed;
-      text += isClosed ? "+" : " [" + Branch(*child) + "]";
-    }
-    return text;
-  }
-};
 
 // Rows with attributes, in a file of the folder.
 lumcore::filesupport::File MakeFeeds(const TemporaryFolder& inFolder) {
@@ -177,34 +84,6 @@ TEST(OutlineList, ShowsTheColumnsThatRowsHaveAndSortsByWhatTheyMean) {
               1);
 }
 
-TEST(OutlineList, KeysOpenAndCloseAndWhatIsClosedStandsForWhatWasSelectedBelow) {
-  Host host("a [b [c d] e] f");
-  host.Keys("Down Left");
-  EXPECT_EQ(host.Shown(), "a+ f");
-  host.Keys("Down");
-  EXPECT_EQ(host.Show(), "a [b [c d] e] f*");
-  host.Keys("Up Right Down Down");
-  EXPECT_EQ(host.Show(), "a [b [c* d] e] f");
-  host.Keys("Ctrl+Shift+E");
-  EXPECT_EQ(host.Shown(), "a+ f");
-  EXPECT_EQ(host.Show(), "a* [b [c d] e] f");
-  host.Keys("Ctrl+E");
-  EXPECT_EQ(host.Shown(), "a [b [c d] e] f");
-  // A row that is selected from elsewhere is shown: by undo, and by a new row.
-  host.Keys("Down Down Delete Up Up Left");
-  EXPECT_EQ(host.Shown(), "a+ f");
-  host.Keys("Ctrl+Z");
-  EXPECT_EQ(host.Shown(), "a [b [c d] e] f");
-  EXPECT_EQ(host.Show(), "a [b [c* d] e] f");
-  host.Keys("Up Left Ctrl+Return");
-  EXPECT_EQ(host.Shown(), "a [b [c d -] e] f");
-  // A branch that is moved, taken out and put back is as open as it was.
-  host.Keys("Escape");
-  tests::Select(host.GetDocument(), "b");
-  host.Keys("Left Shift+Tab Delete Ctrl+Z Ctrl+Z");
-  EXPECT_EQ(host.Shown(), "a [b+ e] f");
-}
-
 TEST(OutlineList, FindsRowsAndWhatIsAboveThem) {
   Host host("Tea [green black [Earl]] milk Sugar");
   host.Keys("Down Down");
@@ -231,23 +110,6 @@ TEST(OutlineList, FindsRowsAndWhatIsAboveThem) {
   host.Keys("Escape Escape Up");
   EXPECT_EQ(host.Shown(), "Tea [green black [Earl]] milk x Sugar");
   EXPECT_EQ(host.GetDocument().GetSelectedRows().size(), 1U);
-}
-
-TEST(OutlineList, MarksWhatItFoundAlsoWhereFoldingChangesTheLength) {
-  const auto find = [](const char* inText, const char* inIn) {
-    std::string ranges;
-    for (const auto& [start, end] : outliner::OutlineFilter(ToUTF16(inText)).FindAll(ToUTF16(inIn)))
-      ranges += std::to_string(start) + "-" + std::to_string(end) + " ";
-    return ranges;
-  };
-  EXPECT_EQ(find("an", "Ananas BANANE"), "0-2 2-4 8-10 10-12 ");
-  EXPECT_EQ(find("SS",
-                 "Stra\xC3\x9F"
-                 "e mit Masse"),
-            "4-5 13-15 ");
-  EXPECT_EQ(find("s", "\xC3\x9F"), "0-1 0-1 ");
-  EXPECT_EQ(find("\xF0\x90\x90\x80", "x\xF0\x90\x90\xA8y"), "1-3 ") << "Deseret has two cases";
-  EXPECT_EQ(find("", "abc"), "");
 }
 
 TEST(OutlineList, TakesRowsToWhereTheLineIsInOneStep) {
@@ -391,128 +253,6 @@ TEST(OutlineList, TheFieldGoesWithItsRow) {
   host.Type("other");
   host.Keys("Escape");
   EXPECT_EQ(host.Show().substr(0, 12), "r0 new -* r1");
-}
-
-// After each of some hundred random steps the list shows what the outline, the rows that are open,
-// the order and the filter make of it, whatever it has reused.
-class Model {
- public:
-  explicit Model(Host& inHost) : mHost(inHost) {}
-
-  std::string Expected() const { return Branch(mHost.GetDocument().GetTree().GetRoot()); }
-  void SetFilter(const std::string& inText) { mFilter = inText; }
-  void SetSorted(bool inSorted) { mSorted = inSorted; }
-
- private:
-  bool IsIn(const OutlineRow& inRow) const {
-    if (ToStdString(inRow.GetText()).find(mFilter) != std::string::npos) return true;
-    if (mHost.GetDocument().IsSelected(inRow)) return true;
-    for (std::size_t child = 0; child < inRow.GetChildCount(); ++child) {
-      if (IsIn(*inRow.GetChild(child))) return true;
-    }
-    return false;
-  }
-  std::string Branch(const OutlineRow& inParent) const {
-    std::vector<const OutlineRow*> rows;
-    for (std::size_t child = 0; child < inParent.GetChildCount(); ++child) {
-      if (IsIn(*inParent.GetChild(child))) rows.push_back(inParent.GetChild(child));
-    }
-    if (mSorted) {
-      std::stable_sort(rows.begin(), rows.end(), [](const auto* inA, const auto* inB) {
-        if (inA->GetText().empty() || inB->GetText().empty()) {
-          return !inA->GetText().empty() && inB->GetText().empty();
-        }
-        return inA->GetText() < inB->GetText();
-      });
-    }
-    std::string text;
-    for (const OutlineRow* row : rows) {
-      text += (text.empty() ? "" : " ");
-      text += row->GetText().empty() ? "-" : ToStdString(row->GetText());
-      const std::string below = Branch(*row);
-      if (below.empty()) continue;
-      const OutlineEntry* const entry = mHost.Rows().GetEntries()->Find(row->GetId());
-      const bool isClosed =
-          entry && const_cast<OutlineEntry*>(entry)->GetNodeState() == kNodeCollapsed;
-      text += isClosed ? "+" : " [" + below + "]";
-    }
-    return text;
-  }
-
-  Host& mHost;
-  std::string mFilter;
-  bool mSorted = false;
-};
-
-TEST(OutlineList, FollowsAnyEdits) {
-  namespace edits = outliner::edits;
-  for (unsigned seed = 1; seed <= 4; ++seed) {
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
-    const auto upTo = [&](std::size_t inCount) {
-      return static_cast<std::size_t>(random() % inCount);
-    };
-    Host host("a [b c [d e]] f [g] h");
-    Model model(host);
-    auto& document = host.GetDocument();
-    const auto any = [&] {
-      const auto& lines = document.GetTree().GetLines();
-      return lines[upTo(lines.size())];
-    };
-    const std::function<void()> steps[] = {
-        [&] {
-          edits::SetText(document, edits::NewSibling(document),
-                         ToUTF16(std::string(1, static_cast<char>('a' + upTo(8)))));
-        },
-        [&] { edits::NewChild(document); },
-        [&] {
-          edits::SetText(document, *any(),
-                         ToUTF16(std::string(1, static_cast<char>('a' + upTo(8)))));
-        },
-        [&] {
-          document.GetTree().GetLines().size() > 6 ? edits::Delete(document)
-                                                   : edits::Undo(document);
-        },
-        [&] { edits::Indent(document); },
-        [&] { edits::Outdent(document); },
-        [&] { edits::MoveUp(document); },
-        [&] { edits::MoveBelow(document, *any()); },
-        [&] {
-          edits::MoveTo(document, {upTo(2) == 0 ? outliner::MoveTarget::kBefore
-                                                : outliner::MoveTarget::kAfter,
-                                   any()->GetId()});
-        },
-        [&] { edits::Undo(document); },
-        [&] { edits::Undo(document); },
-        [&] { edits::Redo(document); },
-        [&] { document.SelectRows({any()}); },
-        [&] { host.Rows().SelectedHasChildrenCollapse(); },
-        [&] { host.Rows().SelectedHasChildrenExpand(); },
-        [&] { upTo(2) == 0 ? host.Rows().CollapseAll() : host.Rows().ExpandAll(); },
-        [&] {
-          const bool sorts = upTo(2) == 0;
-          sorts ? host.Rows().SetSortColumn(0) : host.Rows().UnsortRows();
-          model.SetSorted(sorts);
-        },
-        [&] {
-          const std::string text =
-              upTo(2) == 0 ? std::string(1, static_cast<char>('a' + upTo(8))) : "";
-          model.SetFilter(text);
-          host.Rows().SetFilter(outliner::OutlineFilter(ToUTF16(text)));
-        },
-    };
-    std::string last;
-    for (int step = 0; step < 300; ++step) {
-      const std::size_t what = upTo(std::size(steps));
-      steps[what]();
-      // Rows that were let in stay for as long as the filter, so that begins anew each time.
-      const auto filter = host.Rows().GetEntries()->GetFilter();
-      if (!filter.IsEmpty()) host.Rows().SetFilter(filter);
-      ASSERT_EQ(host.Shown(), model.Expected())
-          << "step " << step << " was " << what << " after " << last;
-      last = host.Shown();
-    }
-  }
 }
 
 }  // namespace

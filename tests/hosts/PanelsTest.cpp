@@ -16,9 +16,9 @@
 #include "lumworkspace/testing/Layouts.h"
 #include "lumworkspace/workspace/ManagerBase.h"
 #include "lumworkspace/workspace/Workspace.h"
+#include "outliner/AttributeEditor.h"
 #include "outliner/AttributeEdits.h"
 #include "outliner/CommandsView.h"
-#include "outliner/NoteEditor.h"
 #include "outliner/OpmlWriter.h"
 #include "outliner/OutlineEdits.h"
 #include "vek/app/AppActivationMessage.h"
@@ -137,8 +137,8 @@ TEST(Notes, ThatAreTypedAreAskedAboutAndOutliveTheirRowAndTheirField) {
   host.Keys("Ctrl+W");
   EXPECT_EQ(host.TakeMessages(), "box: Save the changes to \"o.opml\" before it is closed?\n");
   EXPECT_EQ(Note(host, "a"), "kept");
-  host.GetDocument().GetNoteEditor().SetText(*tests::FindRow(host.GetDocument(), "b"),
-                                             ToUTF16("more"));
+  host.GetDocument().GetNoteEditor().SetValue({tests::FindRow(host.GetDocument(), "b")->GetId()},
+                                              outliner::attributes::Note(), ToUTF16("more"));
   edits::Delete(host.GetDocument());
   tests::Select(host.GetDocument(), "b");
   edits::Delete(host.GetDocument());

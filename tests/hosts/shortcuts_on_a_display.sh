@@ -22,9 +22,13 @@ fail() {
   kill "$pid" 2>/dev/null || true
   exit 1
 }
-# The window of a title, as soon as it has the keyboard.
+# The window of a title, as soon as it is in front and has the keyboard, which comes a little later.
+has_keyboard() {
+  xdotool getactivewindow getwindowname 2>/dev/null | grep -qF "$1" &&
+    [ "$(xdotool getactivewindow 2>/dev/null)" = "$(xdotool getwindowfocus -f 2>/dev/null)" ]
+}
 await_window() {
-  until xdotool getactivewindow getwindowname 2>/dev/null | grep -qF "$1"; do
+  until has_keyboard "$1"; do
     kill -0 "$pid" 2>/dev/null || fail "the program has ended while \"$1\" was waited for"
     sleep $pause
   done

@@ -3,6 +3,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QWidget>
 
 #include "UITest.h"
@@ -196,6 +198,43 @@ TEST_F(Controls, TextFieldsTellEditsAndCommits) {
   Tap(KeyboardCode::kReturn);
   Tap(KeyboardCode::kTab);
   EXPECT_EQ(TakeLog(), "next=a next*1 next=a\n next*1 next=a\n next*2 parent<edit:up(3)");
+}
+
+TEST_F(Controls, LongTextsAreEditedWhole) {
+  const auto edit = Add<UI_TextEdit>("edit", Rect(0, 0, 90, 20));
+  edit->SetText(lumcore::UTF16String(50000, 'a'));
+  edit->UI_SetKeyboardFocus(ui::kFocusOther);
+  input::TypeText(*mWindow, U16("b"));
+  EXPECT_EQ(edit->GetText().size(), 50001u);
+  Tap(KeyboardCode::kHome);
+  Tap(KeyboardCode::kDelete);
+  EXPECT_EQ(edit->GetText(), lumcore::UTF16String(49999, 'a') + U16("b"));
+}
+
+TEST_F(Controls, APlaceholderThatShowsIsDrawnAnewWhenItChanges) {
+  struct PaintCounter : QObject {
+    bool eventFilter(QObject*, QEvent* inEvent) override {
+      paints += inEvent->type() == QEvent::Paint ? 1 : 0;
+      return false;
+    }
+    int paints = 0;
+  };
+  for (const bool multiLine : {false, true}) {
+    const auto edit = Add<UI_TextEdit>("edit", Rect(0, 0, 90, 60), multiLine);
+    edit->SetPlaceholder(U16("nothing"));
+    App().PumpPendingEvents();
+    PaintCounter counter;
+    for (QWidget* const widget : QApplication::allWidgets()) {
+      auto* const area = qobject_cast<QPlainTextEdit*>(widget);
+      if (area || qobject_cast<QLineEdit*>(widget)) {
+        (area ? area->viewport() : widget)->installEventFilter(&counter);
+      }
+    }
+    edit->SetPlaceholder(U16("something"));
+    App().PumpPendingEvents();
+    EXPECT_GT(counter.paints, 0) << multiLine;
+    mParent->UI_RemoveChild(edit.get());
+  }
 }
 
 TEST_F(Controls, KeepTheirStateWithoutAWindow) {

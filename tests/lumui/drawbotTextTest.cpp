@@ -136,6 +136,23 @@ TEST_F(Texts, PreparedTextHasThePixelsOfAPlainlyDrawnOne) {
   }
 }
 
+TEST_F(Texts, LongTextsAreShortenedAsShortOnesWithTheSameEnds) {
+  UTF16String text;
+  for (unsigned i = 0; i < 30000; ++i)
+    text += static_cast<unsigned short>(i % 7 == 3 ? ' ' : 'a' + i * 11 % 26);
+  const UTF16String start = text.substr(0, 500);
+  const UTF16String ends = text.substr(0, 250) + text.substr(text.size() - 250);
+  const auto surface = NewSurface(1, 1);
+  const Drawbot& drawbot = surface->GetDrawbot();
+  for (const float width : {40.0f, 333.0f}) {
+    const auto shorten = [&](const UTF16String& inText, TextTruncation inTruncation) {
+      return UTF16String(drawbot.TruncateString(inText, mFont, inTruncation, width));
+    };
+    EXPECT_EQ(shorten(text, TextTruncation::kEnd), shorten(start, TextTruncation::kEnd));
+    EXPECT_EQ(shorten(text, TextTruncation::kMiddle), shorten(ends, TextTruncation::kMiddle));
+  }
+}
+
 TEST_F(Texts, TruncatedTextFitsAndShowsAnEllipsis) {
   const UTF16String text = ToUTF16("Waffle e\u0301clair \U0001F600 from office");
   const float full = mFont->MeasureWidth(text);

@@ -199,6 +199,26 @@ TEST_F(KeyboardMaps, ACommandIsDraggedOntoAKey) {
   EXPECT_EQ(lumui::ui::UI_NodeManager::Get(true)->GetInputCapture(), nullptr);
 }
 
+TEST_F(KeyboardMaps, AKeyOfSeveralCommandsShowsTheOneThatAPressRuns) {
+  const auto entry = [](const char* inCommand, char inKey, const char* inMore) {
+    return std::string("<keycmd><cmd>") + inCommand + "</cmd><uchar>" + inKey + "</uchar>" +
+           inMore + "<mod><cmdkey/></mod></keycmd>";
+  };
+  // As a file that was written by hand may have it.
+  Load(entry("Edit.Paste", 'K', "") + entry("Edit.Cut", 'K', "") + entry("Play...", 'K', "") +
+       entry("Edit.Cut", 'L', "<hold/>") + entry("Play...", 'L', "") +
+       entry("Edit.Paste", 'M', "<hold/>"));
+  Manager().NotifyOfKeyMappingsChanged(-1);
+  const vek::sharedui::KSVDelegate delegate;
+  for (const char key : {'K', 'L'}) {
+    bool ended = false;
+    EXPECT_EQ(delegate.GetUse(Char(key), ModifierKeys(kModCommand)).command,
+              Manager().GetCommandIdFromKeyEvent(Down(Char(key), kModCommand), ended))
+        << key;
+  }
+  EXPECT_EQ(delegate.GetUse(Char('M'), ModifierKeys(kModCommand)).command, 3);
+}
+
 TEST_F(KeyboardMaps, RealKeysChooseTheirPictures) {
   Keyboard().UI_SetKeyboardFocus(lumui::ui::kFocusOther);
   TapKey(*mDialog, Char('X'), ModifierKeys(kModShift | kModAlt));

@@ -11,6 +11,7 @@
 #include "lumui/drawbot/Image.h"
 #include "lumui/drawbot/SupplierInterface.h"
 #include "support/RandomSteps.h"
+#include "support/Seeds.h"
 #include "support/RecordingPlatformView.h"
 #include "vek/hierarchyview/HierarchyGeometry.h"
 #include "vek/selection/Manager.h"
@@ -327,7 +328,7 @@ TEST_F(MultiTreeListFuzz, ShowsSelectsAndTellsWhatAPlainModelSays) {
                                            "turn",   "sort",        "select", "select many",
                                            "down",   "up"};
   const auto run = [this](const RandomSteps& inSteps) { return Run(inSteps); };
-  for (unsigned int seed = 1; seed <= 80; ++seed) {
+  for (const unsigned seed : test_support::Seeds(80)) {
     const RandomSteps steps = NewSteps(seed, 10, 150, kActs);
     ASSERT_EQ(Run(steps), "") << "seed " << seed << ", in short:\n"
                               << Shortened(steps, run, kNames);

@@ -222,6 +222,26 @@ TEST_F(MultiTreeLists, HideAndShowColumnsByTheHeadersMenu) {
   choose(30, {U16("Columns"), U16("More")});
   EXPECT_EQ(mList->GetColumnWidth(2), 55);
   EXPECT_EQ(mList->GetMinColumnWidth(2), 30);
+  EXPECT_EQ(mList->GetSortColumn(), 0) << "presses of the right button sort nothing";
+  EXPECT_TRUE(mList->GetSortIsAscending());
+}
+
+TEST_F(MultiTreeLists, SelectRangesByTheKeyboard) {
+  Fill({1, 2, 3, 4, 5});
+  Click(30, 68);
+  const auto key = [&](unsigned inCode, unsigned char inModifiers) {
+    input::TapKey(*mWindow, ui::KeyboardCode(inCode), ui::ModifierKeys(inModifiers));
+    return Rows();
+  };
+  using Code = ui::KeyboardCode;
+  EXPECT_EQ(key(Code::kDownArrow, ui::kModShift), "1 2 3* 4* 5");
+  EXPECT_EQ(key(Code::kHome, ui::kModShift), "1* 2* 3* 4 5");
+  Click(60, 10);  // sorts, and leaves the keyboard to the rows
+  EXPECT_FALSE(mList->GetSortIsAscending());
+  EXPECT_EQ(key(Code::kEnd, 0), "1 2 3 4 5*");
+  mList->SetIsSingleSelect(true);
+  EXPECT_EQ(key(Code::kUpArrow, ui::kModShift), "1 2 3 4* 5");
+  EXPECT_EQ(key(Code::kPageUp, ui::kModShift), "1 2* 3 4 5") << "of three that show";
 }
 
 TEST_F(MultiTreeLists, ComeOutOfArchivesAndGoIntoThem) {

@@ -79,45 +79,45 @@ TEST(ResourceTables, ThemesUseTheNumbersAndPositionsThatAreKnown) {
     std::vector<std::pair<const char*, const char*>> entities;
   } kRows[] = {
       {"LUMColorThemesV1",
-       {{"Color_AppBackground", "0"}, {"Color_TabBackground", "1"}, {"Color_TabContent", "2"}}},
+       {{"kColor_AppBackground", "0"}, {"kColor_TabBackground", "1"}, {"kColor_TabContent", "2"}}},
       {"LUMColorThemesV2",
-       {{"Color_RadioButtonBevelCircleFill", "0"}, {"Color_RadioButtonOuterCircleFill", "1"}}},
+       {{"kColor_RadioButtonBevelCircleFill", "0"}, {"kColor_RadioButtonOuterCircleFill", "1"}}},
       {"LUMColorThemesV3",
-       {{"Color_DividerLineStroke", "3000000"}, {"Color_ListBoxContentNormal", "3000002"}}},
+       {{"kColor_DividerLineStroke", "3000000"}, {"kColor_ListBoxContentNormal", "3000002"}}},
       {"LUMColorThemesV4",
-       {{"Color_ApplicationBackground", "4000000"},
-        {"Color_ContentBackground", "4000001"},
-        {"Color_Focus", "4000002"}}},
+       {{"kColor_ApplicationBackground", "4000000"},
+        {"kColor_ContentBackground", "4000001"},
+        {"kColor_Focus", "4000002"}}},
       {"LUMColorThemesV5",
-       {{"Color_Unused", "5000000"},
-        {"Color_Gray_01", "5000001"},
-        {"Color_FieldBackgroundHover", "5000025"},
-        {"Color_BrushShapePreviewOutline", "5000085"},
-        {"Color_ToolTipText", "5000089"},
-        {"Color_Gray_Darkest_01", "0.0863"},
-        {"Color_Gray_Lightest_10", "0.1725"},
-        {"Theme_General", "0.0000"},
-        {"Theme_Darkest", "0.0000"},
-        {"Theme_Dark", "0.5000"},
-        {"Theme_Light", "0.5001"},
-        {"Theme_Lightest", "1.0000"},
-        {"Text_Main_Large", "0"},
-        {"Text_Main_Small", "1"},
-        {"Text_Title", "2"},
-        {"FontSizeScheme_Small", "0"},
-        {"FontSizeScheme_Regular", "1"},
-        {"FontSizeScheme_Large", "2"}}},
+       {{"kColor_Unused", "5000000"},
+        {"kColor_Gray_01", "5000001"},
+        {"kColor_FieldBackgroundHover", "5000025"},
+        {"kColor_BrushShapePreviewOutline", "5000085"},
+        {"kColor_ToolTipText", "5000089"},
+        {"kColor_Gray_Darkest_01", "0.0863"},
+        {"kColor_Gray_Lightest_10", "0.1725"},
+        {"General", "0.0000"},
+        {"Darkest", "0.0000"},
+        {"Dark", "0.5000"},
+        {"Light", "0.5001"},
+        {"Lightest", "1.0000"},
+        {"kText_Main_Large", "0"},
+        {"kText_Main_Small", "1"},
+        {"kText_Title", "2"},
+        {"kFontSizeScheme_Small", "0"},
+        {"kFontSizeScheme_Regular", "1"},
+        {"kFontSizeScheme_Large", "2"}}},
   };
   for (const auto& row : kRows) {
     const QString document = QString::fromStdString(vek::test::ThemeDocument(row.document));
     for (const auto& [name, value] : row.entities) {
       const QString entity =
-          document.section(QString("<!ENTITY k%1 ").arg(name), 1).section('>', 0, 0).trimmed();
+          document.section(QString("<!ENTITY %1 ").arg(name), 1).section('>', 0, 0).trimmed();
       EXPECT_EQ(entity.toStdString(), std::string("\"") + value + "\"") << row.document << name;
     }
   }
   EXPECT_EQ(QString::fromStdString(vek::test::ThemeDocument("HighContrastColorThemeV5"))
-                .count("<Theme t=\"&kTheme_General;\">"),
+                .count("<Theme t=\"&General;\">"),
             2);
 }
 

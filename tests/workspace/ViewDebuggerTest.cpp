@@ -10,6 +10,7 @@
 #include "lumui/ui/OS_Menu.h"
 #include "lumui/ui/OS_Window.h"
 #include "lumui/ui/PointerEvent.h"
+#include "lumui/ui/UI_Dialog.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "support/Panels.h"
 #include "vek/workspace/NodeListing.h"
@@ -197,6 +198,68 @@ TEST_F(ViewDebugger, PicksAndOutlinesBelowAMenuBar) {
   lumui::testing::ClickMouse(*main, {x + 1, y + 1});
   EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
   EXPECT_EQ(main->UI_GetChild(1)->UI_GetLocalRectF(), RectT<float>(x, y, 60, 2));
+}
+
+TEST_F(ViewDebugger, OutlinesWhatIsInViewOfANode) {
+  const boost::intrusive_ptr<UI_Node> view(new lumui::ui::UI_SubView);
+  view->UI_SetLocalRectF(RectT<float>(20, 30, 100, 80));
+  main->GetCentralNode()->UI_AddChild(view);
+  view->UI_AddChild(mLamp);
+  mTab->ChooseNode(mLamp.get());
+  lumcore::geom::PointT<int> corner;
+  view->UI_LocalToGlobal(corner);
+  const auto x = static_cast<float>(corner.x), y = static_cast<float>(corner.y);
+  // As a list moves what is in it.
+  mLamp->UI_SetLocalRectF(RectT<float>(40, -10, 70, 30));
+  Settle();
+  ASSERT_EQ(Bars(), 4u);
+  EXPECT_EQ(main->UI_GetChild(1)->UI_GetLocalRectF(), RectT<float>(x + 40, y, 60, 2));
+  EXPECT_EQ(main->UI_GetChild(2)->UI_GetLocalRectF(), RectT<float>(x + 40, y + 18, 60, 2));
+  mTab->BeginPicking();
+  lumui::testing::MoveMouse(*main, {x + 50, y - 5});
+  EXPECT_EQ(mTab->GetChosenNode(), main->GetCentralNode()) << "it lies there, but not to be seen";
+  lumui::testing::ClickMouse(*main, {x + 50, y + 5});
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  mLamp->UI_SetLocalRectF(RectT<float>(40, -60, 70, 30));
+  Settle();
+  EXPECT_EQ(Bars(), 0u);
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  mLamp->UI_SetLocalRectF(RectT<float>(40, 10, 30, 0));
+  Settle();
+  EXPECT_EQ(Bars(), 4u) << "without a size, at its place";
+}
+
+TEST_F(ViewDebugger, SurvivesWindowsThatCloseWhileTheyAreShown) {
+  const boost::intrusive_ptr<lumui::ui::UI_Dialog> dialog(
+      new lumui::ui::UI_Dialog(U16("Box"), main));
+  mLamp->UI_SetLocalRectF(RectT<float>(40, 50, 60, 30));
+  dialog->GetContent().UI_AddChild(mLamp);
+  dialog->SetSize(300, 200);
+  dialog->RunModeless({});
+  Settle();
+  const auto bars = [&] { return dialog->UI_GetChildCount(); };
+  const std::size_t without = bars();
+  mTab->BeginPicking();
+  const auto at = LampMiddle();
+  lumui::testing::MoveMouse(*dialog, at);
+  EXPECT_EQ(mTab->GetChosenNode(), mLamp.get());
+  EXPECT_EQ(bars(), without + 4);
+  EXPECT_EQ(LampRow(), "40, 50, 60, 30;yes;*");
+  // In the middle of the gesture, as a timer or a script may do it.
+  lumui::testing::PressMouse(*dialog, at);
+  dialog->EndDialog(1);
+  Settle();
+  EXPECT_EQ(LampRow(), "");
+  EXPECT_EQ(mTab->GetChosenNode(), nullptr);
+  EXPECT_EQ(bars(), without);
+  lumui::ui::UI_NodeManager::Get(true)->EndInputCapture(true);
+  // The panel goes while it picks.
+  mTab->BeginPicking();
+  workspace.CloseTab(mTab->GetTabType());
+  lumui::testing::MoveMouse(*main, {300, 300});
+  Settle();
+  lumui::testing::ClickMouse(*main, {300, 300});
+  EXPECT_EQ(lumui::ui::UI_NodeManager::Get(true)->GetInputCapture(), nullptr);
 }
 
 TEST_F(ViewDebugger, CopiesWhatItListsAndNotItsOutline) {

@@ -7,8 +7,10 @@
 
 #include "lumcore/config/Localizer.h"
 #include "lumui/ui/ContextMenu.h"
+#include "lumui/ui/PointerEvent.h"
 #include "vek/hierarchyview/ColumnHeaderTrackers.h"
 #include "vek/hierarchyview/MultiColumnView.h"
+#include "vek/trackview/LUMPlatformView.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
 
@@ -158,9 +160,17 @@ bool MultiColumnHeaderView::DoDoubleClick(trackview::Modifiers /*inModifiers*/,
   return true;
 }
 
+bool MultiColumnHeaderView::IsRightPress() const {
+  const auto* const view =
+      dynamic_cast<trackview::LUMPlatformView const*>(&mTrackView->GetPlatformView());
+  const lumui::ui::MouseEvent* const event = view ? view->GetCurrentMouseEvent() : nullptr;
+  return event && event->IsButton(lumui::ui::PointerEvent::kRightButton);
+}
+
 std::auto_ptr<Tracker> MultiColumnHeaderView::DoAcquireTracker(
-    const Point& /*inDataPoint*/, bool /*inHover*/,
+    const Point& /*inDataPoint*/, bool inHover,
     trackview::TrackerDragAndDropInterface* /*inDragAndDrop*/) {
+  if (mKeepsRightPressesForMenu && !inHover && IsRightPress()) return std::auto_ptr<Tracker>();
   return std::auto_ptr<Tracker>(new ColumnHeaderArrowTracker(mTrackView, this, mMultiColumnView));
 }
 

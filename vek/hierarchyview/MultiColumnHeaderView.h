@@ -66,6 +66,9 @@ class VEK_API MultiColumnHeaderView : public trackview::Overlay,
   trackview::TrackView* GetTrackView() const { return mTrackView; }
   void SetViewHeight(float inHeight) { mViewHeight = inHeight; }
   void SetDrawTopBorder(bool inDraw) { mDrawTopBorder = inDraw; }
+  // Right presses open the menu and do nothing else. Until this is set they are presses like all
+  // others: one on a title sorts before the menu opens.
+  void SetKeepsRightPressesForMenu(bool inKeeps) { mKeepsRightPressesForMenu = inKeeps; }
   // What the menu offers, in this order, by attribute and title; the first can not be hidden. There
   // is no menu without any.
   void SetColumnSet(ColumnSet const& inColumns) { mColumnSet = inColumns; }
@@ -91,6 +94,7 @@ class VEK_API MultiColumnHeaderView : public trackview::Overlay,
  private:
   void TakeColumnsWidth();
   void InvalidateAll();
+  bool IsRightPress() const;
   void ToggleColumn(ColumnSet::value_type const& inColumn);
   void DrawGround(Rect const& inArea, lumui::drawbot::Drawbot& inDrawbot,
                   lumui::ui::Theme const& inTheme) const;
@@ -113,6 +117,7 @@ class VEK_API MultiColumnHeaderView : public trackview::Overlay,
   ColumnSizes mDefaultNewColumnSizes;
   float mDefaultMinWidth = 15.0f;
   float mDefaultWidth = 100.0f;
+  bool mKeepsRightPressesForMenu = false;
   boost::shared_ptr<char> mAlive{new char(0)};  // for calls in which somebody may take this away
 };
 

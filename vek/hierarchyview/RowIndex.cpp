@@ -21,8 +21,6 @@ namespace {
 
 // A sum of so many equal floats is exact in a double, so it is a product.
 constexpr RowIndex::Row kMaxRows = RowIndex::Row{1} << 29;
-// Levels are 16 bits wide; the walk alone knows what comes behind.
-constexpr std::uint32_t kMaxDepth = 0xFFF0;
 // A tree that allowed no index is tried again after some questions, so that a walk that is asked
 // for often does not pay for both.
 constexpr std::uint32_t kMaxPause = 256;
@@ -45,8 +43,7 @@ std::optional<RowIndex> RowIndex::Of(HierarchyGeometry& ioGeometry) {
   }
   ioGeometry.mLastPause = 0;
   const RowIndex index(ioGeometry, *rows, *root);
-  const bool isTooDeep = IsOpen(*root) && root->mBranch->GetDepth() > kMaxDepth;
-  if (index.mCount > kMaxRows || isTooDeep) return std::nullopt;
+  if (index.mCount > kMaxRows) return std::nullopt;
   return index;
 }
 
@@ -90,10 +87,14 @@ HierarchyGeometry::iterator RowIndex::GetIterator(Row inRow) const {
   HierarchyEntryBase* const entry = GetEntry(inRow);
   HierarchyGeometry::TraverseEntry traverse(&mGeometry, entry, false, PointT<float>());
   if (inRow > 0) {
-    const int level = mGeometry.EntryLevel(entry);
+    // As the walk steps in to a first child. Levels are 16 bits wide, so that far down a child may
+    // have a smaller one than its parent.
+    HierarchyEntryBase const* const parent = entry->mParent;
+    const bool isFirst = parent->mChildren.front().get() == entry;
+    const int steps = isFirst ? mGeometry.EntryLevel(parent) : mGeometry.EntryLevel(entry) - 1;
     const Row before = mRows.hideRoot ? inRow - 1 : inRow;
     traverse.mCookie =
-        PointT<float>(static_cast<float>(level - 1) * mGeometry.GetIndent(), GetTop(inRow));
+        PointT<float>(static_cast<float>(steps) * mGeometry.GetIndent(), GetTop(inRow));
     traverse.mExactY = before * static_cast<double>(mRows.rowHeight);
   }
   return HierarchyGeometry::iterator(traverse);

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <boost/function.hpp>
 #include <boost/intrusive_ptr.hpp>
 #include <boost/shared_ptr.hpp>
+#include <cstddef>
 #include <cstdint>
 #include <list>
 #include <map>
@@ -50,6 +52,8 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   using Point = trackview::Point;
   using Rect = trackview::Rect;
   using EntryList = std::list<HierarchyEntryBase*>;
+  using TwistyColorFunction =
+      boost::function<lumui::drawbot::ColorRGBA(HierarchyEntryBase const* inEntry)>;
 
   // inIndent is the step per level in units. The track view outlives the control.
   TreeControlBase(trackview::TrackView* inTrackView, bool inHideRoot, unsigned short inIndent,
@@ -208,6 +212,9 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   lumui::drawbot::ColorRGBA const& GetCustomTextColor() const { return mCustomTextColor; }
   bool HasCustomSelectionColor() const { return mHasCustomSelectionColor; }
   lumui::drawbot::ColorRGBA const& GetCustomSelectionColor() const { return mCustomSelectionColor; }
+  // The colour of a row's triangle in place of the theme's, for rows that paint grounds of their
+  // own; asked at each paint. Empty for the theme's.
+  void SetTwistyColorFunction(TwistyColorFunction const& inFunction) { mTwistyColor = inFunction; }
 
  protected:
   void SetRootEntry(boost::intrusive_ptr<HierarchyEntryBase> const& inRoot) { mRootEntry = inRoot; }
@@ -218,6 +225,16 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   void ResetGeometry();  // takes all down: focus, root and geometry
   void RevealIfNotVisible(HierarchyEntryBase const* inEntry) const;
   bool ProcessOnOpenSelected();
+  // The keys of lists beyond those of DoKeyEvent, for a subclass that asks for them before it hands
+  // the key there. Home, End and the page keys select the row that they go to, with Shift all from
+  // the row where the range began, as Up and Down do. Of one selected row, Left goes from one that
+  // is closed or has none below it to the row above, and Right from an open one to its first below.
+  // True takes the key. Chords are left alone, but for Ctrl with Home and End.
+  bool HandleListKey(const lumui::ui::KeyboardEvent& inEvent);
+  // What such a key does, for commands: inCode is that of an arrow up or down, Home, End or a page
+  // key. From the row with the focus, or else from that end of what is selected to which it leads;
+  // while nothing is selected, the first or the last row.
+  void GoByListKey(unsigned int inCode, bool inIsRange);
   // Selects and shows the first row whose text begins so, without regard to case. False, and the
   // selection as it was, if there is none; an empty text finds nothing.
   bool TypedownClosestMatch(lumcore::UTF16String const& inText);
@@ -227,6 +244,7 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   struct Step;
   struct SelectedRow;
   struct SelectedRows;
+  struct KeyRows;
   class Painter;
 
   lumui::drawbot::SupplierInterface const* GetSupplier() const;
@@ -242,11 +260,19 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   bool SetOpenWhereSelected(bool inOpen);
   SelectedRows FindSelectedRows(bool inOnlyFirst);
   bool LookUpSelectedRows(SelectedRows& outSelected);
+  HierarchyEntryBase* FindOnlySelectedRow();
   Rect NoteSelectedRow(HierarchyGeometry::iterator const& inRow, Step& ioStep);
   void TakeStep(Step& ioStep, bool inAlignToRows);
   bool HandleKeyDown(int inOSCode);
   bool SearchTypedText();
   void StopTypeAheadTimer();
+  KeyRows FindKeyRows(bool inTowardsEnd);
+  std::size_t FindKeyTarget(unsigned int inCode, KeyRows const& inRows);
+  std::size_t FindPageEnd(KeyRows const& inRows, bool inTowardsEnd);
+  bool StepAcrossLevels(bool inDown);
+  void GoToRow(HierarchyEntryBase* inEntry);
+  void SelectKeyRange(KeyRows const& inRows, std::size_t inTarget);
+  void ShowKeyTarget(HierarchyEntryBase* inEntry);
   void RenewNodeCache();
 
   boost::intrusive_ptr<HierarchyEntryBase> mRootEntry;
@@ -289,6 +315,7 @@ class VEK_API TreeControlBase : public trackview::Overlay, public AccessibleRows
   // Rows by their numbers, first and last, that stand in the cache as well: a paint that begins far
   // below came by them. One by one they would cost more than all that is drawn.
   std::vector<std::pair<std::uint32_t, std::uint32_t>> mPassedRows;
+  TwistyColorFunction mTwistyColor;
 };
 
 }  // namespace vek::hierarchyview

@@ -159,6 +159,13 @@ bool TreeControlBase::LookUpSelectedRows(SelectedRows& outSelected) {
   return true;
 }
 
+// Null where it is none or one of several, or does not show.
+HierarchyEntryBase* TreeControlBase::FindOnlySelectedRow() {
+  if (NumSelectedEntries() != 1) return nullptr;
+  const SelectedRows selected = FindSelectedRows(true);
+  return selected.rows.empty() ? nullptr : *selected.rows.front().row;
+}
+
 void TreeControlBase::SelectNext() {
   if (!HasRows()) return;
   Step step;

@@ -206,8 +206,9 @@ class TreeControlBase::Painter {
 
   void PaintTwisty(RectT<float> const& inArea, HierarchyEntryBase* inEntry) {
     const bool isOpen = inEntry->GetNodeState() == kNodeExpanded;
-    lumui::controls::DrawTrianglePicture(PointT<float>(1, 1), isOpen)
-        .Draw(mDrawbot, inArea, isOpen ? kOpenTwistyOffset : kClosedTwistyOffset);
+    lumui::controls::DrawTrianglePicture triangle(PointT<float>(1, 1), isOpen);
+    if (mControl.mTwistyColor) triangle.SetColor(mControl.mTwistyColor(inEntry));
+    triangle.Draw(mDrawbot, inArea, isOpen ? kOpenTwistyOffset : kClosedTwistyOffset);
   }
 
   void PaintBorder() {

@@ -44,6 +44,7 @@ struct Manager::Impl {
   std::unique_ptr<SelectionNotifier> mSelectionNotifier;
   std::unique_ptr<JunctionNotifier> mJunctionNotifier;
   bool mSelecting = false;
+  std::uint64_t mVersion = 0;
 };
 
 // A junction that knows its nodes one by one is asked for those that are selected. Any other is
@@ -55,7 +56,7 @@ void Manager::Impl::Clean() {
     // Of a copy: a host that is asked may change the selection.
     const std::vector<Node*> selected(mSelected.begin(), mSelected.end());
     for (Node* const node : selected) {
-      if (!knowing->Knows(node)) mSelected.erase(node);
+      if (!knowing->Knows(node)) mVersion += mSelected.erase(node);
     }
     return;
   }
@@ -72,6 +73,7 @@ void Manager::Impl::Clean() {
     survives[index] = true;
     if (--missing == 0) return;
   }
+  ++mVersion;
   auto entry = mSelected.begin();
   for (const bool stays : survives) {
     entry = stays ? std::next(entry) : mSelected.erase(entry);
@@ -79,6 +81,7 @@ void Manager::Impl::Clean() {
 }
 
 void Manager::Impl::ToggleEach(const std::list<Node*>& inNodes) {
+  ++mVersion;
   for (Node* node : inNodes) {
     const auto [entry, inserted] = mSelected.insert(node);
     if (!inserted) mSelected.erase(entry);
@@ -174,6 +177,10 @@ bool Manager::Selected(const Node* inNode) const {
 std::list<Node*> Manager::SelectedSelectables() const {
   mImpl->Clean();
   return std::list<Node*>(mImpl->mSelected.begin(), mImpl->mSelected.end());
+}
+
+std::uint64_t Manager::GetVersion() const {
+  return mImpl->mVersion;
 }
 
 bool Manager::AnySelectableNodes() const {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <list>
 
 #include "lumcore/utility/RefCounted.h"
@@ -62,6 +63,9 @@ class VEK_API Manager : public lumcore::utility::RefCountedObject {
   bool Selected(const Node* inNode) const;
   // Cleaned, by ascending address.
   std::list<Node*> SelectedSelectables() const;
+  // Another one after each change of the set, also by cleaning: for who keeps what it has made of
+  // it.
+  std::uint64_t GetVersion() const;
   // Whether the junction has any nodes at all.
   bool AnySelectableNodes() const;
 

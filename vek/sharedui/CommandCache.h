@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include <boost/container/flat_map.hpp>
 #include <boost/shared_ptr.hpp>
-#include <map>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -16,7 +17,7 @@ namespace vek::sharedui {
 // What the shortcut dialog shows of one command, and searches. The category is what stands before
 // the first dot of the command's display name and the command what stands behind it; a name without
 // a dot gives neither. The shortcuts are the plain ones, separated by ", ". The texts in lower case
-// are made for the first search that needs them.
+// are made for the first search or order that needs them.
 struct CommandCache {
   int commandID = 0;
   lumcore::UTF16String category;
@@ -30,25 +31,47 @@ struct CommandCache {
   bool hasLower = false;
 };
 
-using CommandCaches = std::map<int, boost::shared_ptr<CommandCache>>;
+// The records of the commands that the registry had when this was made. A dialog shows a few of
+// thousands, so a record is made when it is asked for, with what the registry says then; one of a
+// command that has gone from there since has no texts.
+class VEK_API CommandCaches {
+ public:
+  struct Category {
+    lumcore::UTF16String name;
+    std::vector<int> commands;  // by their ids
+  };
+
+  // Without shortcuts; Refresh takes those of the KeyCommandManager.
+  CommandCaches();
+  ~CommandCaches();
+  CommandCaches(const CommandCaches&) = delete;
+  CommandCaches& operator=(const CommandCaches&) = delete;
+
+  // In the order of their names; that without one stands at the end.
+  const std::vector<Category>& GetCategories() const { return mCategories; }
+  bool Has(int inCommand) const { return mRecords.find(inCommand) != mRecords.end(); }
+  // Lives as long as this. The command is one of those here (a contract).
+  CommandCache& Get(int inCommand) const;
+  // In the order of the commands' names.
+  std::vector<CommandCache*> GetSorted(const Category& inCategory) const;
+
+  void Refresh(int inCommand);
+  void RefreshAll();
+
+ private:
+  mutable boost::container::flat_map<int, boost::shared_ptr<CommandCache>> mRecords;
+  std::vector<Category> mCategories;
+  std::unordered_map<int, lumcore::UTF16String> mShortcuts;  // of the commands that have some
+};
 
 // The category and the command of a display name.
 VEK_API std::pair<lumcore::UTF16String, lumcore::UTF16String> SplitDisplayName(
     const lumcore::UTF16String& inName);
 
-// A record for each command of the registry, with the shortcuts that it has now.
-VEK_API CommandCaches MakeCommandCaches();
-VEK_API void RefreshShortcuts(CommandCache& ioCache);
-VEK_API void RefreshAllShortcuts(CommandCaches& ioCaches);
-
 // Whether one of the four texts holds the filter: as it stands, or in lower case, which the filter
 // then is as well. An empty filter is in all of them.
 VEK_API bool HasText(CommandCache& ioCache, const lumcore::UTF16String& inFilter, bool inMatchCase);
 
-using CategoryOfCommands = std::vector<CommandCache*>;
-// In the order of the categories' names, that without one at the end; the commands by their ids.
-VEK_API std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches);
-VEK_API void SortByName(CategoryOfCommands& ioCategory);
 // The command, or the whole display name where that has no dot.
 VEK_API lumcore::UTF16String GetShownName(const CommandCache& inCache);
 // All commands by their categories, one a line, with their shortcuts behind a tab.

@@ -44,7 +44,7 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
  private:
   struct Category {
     RowID row;
-    CategoryOfCommands commands;
+    const CommandCaches::Category* category;
   };
 
   void FillCategory(RowID inRow);
@@ -54,8 +54,7 @@ class VEK_API CommandsTree : public lumui::controls::UI_MultiColumnTree {
   std::unordered_map<int, RowID> mRows;
   std::unordered_map<RowID, int> mCommands;
   std::vector<Category> mCategories;
-  std::map<lumcore::UTF16String, std::size_t> mPlaces;  // of the categories, by their names
-  std::map<RowID, bool> mOpenBefore;                    // the filter
+  std::map<RowID, bool> mOpenBefore;  // the filter
   bool mFiltering = false;
   float mShares[2] = {0, 0};  // of the first columns, as long as nobody else gives them a width
 };

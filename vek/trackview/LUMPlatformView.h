@@ -86,6 +86,9 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
 
   // Whether the Tab key stops here; it does at start. A press takes the focus in either case.
   void SetWantsKeyboardFocus(bool inWants) { mWantsKeyboardFocus = inWants; }
+  // Who takes the focus on a press in place of this view, as a list does for its header. Null, as
+  // at start, for this view; a node that goes is taken away before.
+  void SetFocusTaker(UI_Node* inNode) { mFocusTaker = inNode; }
   // Whether Ctrl and the wheel zoom, within the scale range; they scroll at start. What is under
   // the pointer stays there as far as the content reaches.
   void SetZoomsByWheel(bool inZooms) { mZoomsByWheel = inZooms; }
@@ -123,6 +126,7 @@ class VEK_API LUMPlatformView : public lumui::ui::UI_SubView, public PlatformVie
   std::set<unsigned int> mTimers;  // that run
   const std::unique_ptr<lumui::ui::AccessibleItems> mAccessibleItems;
   bool mZoomsByWheel = false;
+  UI_Node* mFocusTaker = nullptr;
 };
 
 }  // namespace vek::trackview

@@ -67,7 +67,8 @@ void LUMPlatformView::ButtonDownHelper(Modifiers inModifiers, const Point& inDat
       GetTrackView()->DoubleClick(inModifiers, inDataPoint)) {
     return;
   }
-  if (!UI_HasKeyboardFocus()) UI_SetKeyboardFocus(lumui::ui::kFocusPointer);
+  UI_Node& taker = mFocusTaker ? *mFocusTaker : *this;
+  if (!taker.UI_HasKeyboardFocus()) taker.UI_SetKeyboardFocus(lumui::ui::kFocusPointer);
   mClickCount = static_cast<unsigned char>(inEvent.GetClickCount());
   if (!mGesture.Begin(*this, inModifiers, inDataPoint)) return;
   // Also without a tracker: the release of the right button is the capture's.

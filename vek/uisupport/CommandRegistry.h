@@ -4,8 +4,10 @@
 #pragma once
 
 #include <map>
+#include <unordered_map>
 
 #include "lumcore/Strings.h"
+#include "lumcore/utility/TextHash.h"
 #include "vek/config/Export.h"
 #include "vek/uisupport/RegisteredCommand.h"
 
@@ -74,7 +76,8 @@ class VEK_API CommandRegistry {
   void Load(Read inRead);
 
   CommandMap mCommands;
-  std::map<lumcore::UTF16String, int> mIds;
+  // A key map asks for hundreds of names; nobody asks for their order.
+  std::unordered_map<lumcore::UTF16String, int, lumcore::utility::TextHash> mIds;
 };
 
 }  // namespace vek::uisupport

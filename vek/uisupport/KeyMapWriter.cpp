@@ -63,11 +63,11 @@ void AppendModifiers(UTF8String& ioFile, KeyCommand::Modifiers inModifiers) {
 }
 
 void AppendMapping(UTF8String& ioFile, const KeyCommand& inMapping) {
-  UTF16String name;
-  UTF16String description;
-  if (!CommandRegistry::Get().CommandLookup(inMapping.GetCommandID(), name, description)) return;
+  const CommandRegistry& registry = CommandRegistry::Get();
+  const auto command = registry.FindCommandByID(inMapping.GetCommandID());
+  if (command == registry.RegistryEnd()) return;
   AppendLine(ioFile, "<keycmd>");
-  AppendElement(ioFile, "cmd", ToUTF8(name));
+  AppendElement(ioFile, "cmd", ToUTF8(command->second.BorrowName()));
   AppendKey(ioFile, inMapping.GetKeyboardCode());
   if (inMapping.GetIsRepeat()) AppendLine(ioFile, "<hold/>");
   if (inMapping.GetIsProtected()) AppendLine(ioFile, "<protected/>");

@@ -30,6 +30,9 @@ class VEK_API RegisteredCommand {
   lumcore::UTF16String GetDisplayName() const { return mDisplayName; }
   lumcore::UTF16String GetDescription() const { return mDescription; }
   bool GetRepeatable() const { return mRepeatable; }
+  // Without a copy, for who looks at thousands: borrowed for as long as the record is there.
+  const lumcore::UTF16String& BorrowName() const { return mName; }
+  const lumcore::UTF16String& BorrowDisplayName() const { return mDisplayName; }
 
  private:
   int mCommandID;

@@ -6,13 +6,13 @@
 #include <algorithm>
 #include <boost/make_shared.hpp>
 #include <functional>
-#include <string_view>
+#include <list>
 #include <tuple>
-#include <unordered_map>
-#include <vector>
 
 #include "lumcore/UTF16StringStream.h"
+#include "lumcore/debug/Contract.h"
 #include "lumcore/utility/StringUtils.h"
+#include "lumcore/utility/TextHash.h"
 #include "vek/uisupport/CommandRegistry.h"
 #include "vek/uisupport/KeyCommandManager.h"
 
@@ -24,6 +24,8 @@ using uisupport::CommandRegistry;
 using uisupport::KeyCommandManager;
 
 namespace {
+
+using View = lumcore::utility::TextHash::View;
 
 void AppendShortcut(UTF16String& ioText, uisupport::KeyCommand& inMapping) {
   if (inMapping.GetIsRepeat()) return;
@@ -45,12 +47,25 @@ void NeedLower(CommandCache& ioCache) {
   ioCache.hasLower = true;
 }
 
-struct HashOfUnits {
-  std::size_t operator()(const UTF16String& inText) const {
-    return std::hash<std::string_view>()(std::string_view(
-        reinterpret_cast<const char*>(inText.data()), inText.size() * sizeof(inText[0])));
-  }
-};
+View CategoryIn(const UTF16String& inDisplayName) {
+  const std::size_t dot = inDisplayName.find('.');
+  return dot == UTF16String::npos ? View() : View(inDisplayName.data(), dot);
+}
+
+void SortByName(std::vector<CommandCaches::Category>& ioCategories) {
+  using Entry = std::tuple<bool, UTF16String, CommandCaches::Category>;
+  std::vector<Entry> entries;
+  for (CommandCaches::Category& category : ioCategories)
+    entries.emplace_back(category.name.empty(), ToLowerCase(category.name), std::move(category));
+  const auto order = [](const Entry& inEntry) {
+    return std::tie(std::get<0>(inEntry), std::get<1>(inEntry), std::get<2>(inEntry).name);
+  };
+  std::sort(entries.begin(), entries.end(),
+            [&](const Entry& inA, const Entry& inB) { return order(inA) < order(inB); });
+  ioCategories.clear();
+  for (Entry& entry : entries)
+    ioCategories.push_back(std::move(std::get<2>(entry)));
+}
 
 bool Holds(const UTF16String& inText, const UTF16String& inFilter) {
   return inText.find(inFilter) != UTF16String::npos;
@@ -64,41 +79,72 @@ std::pair<UTF16String, UTF16String> SplitDisplayName(const UTF16String& inName) 
   return {UTF16String(inName, 0, dot), UTF16String(inName, dot + 1)};
 }
 
-CommandCaches MakeCommandCaches() {
+CommandCaches::CommandCaches() {
   const CommandRegistry& registry = CommandRegistry::Get();
-  CommandCaches caches;
+  std::unordered_map<View, std::size_t, lumcore::utility::TextHash> places;
   for (auto it = registry.RegistryBegin(); it != registry.RegistryEnd(); ++it) {
-    const auto cache = boost::make_shared<CommandCache>();
-    cache->commandID = it->first;
-    std::tie(cache->category, cache->command) = SplitDisplayName(it->second.GetDisplayName());
-    cache->description = it->second.GetDescription();
-    caches.emplace_hint(caches.end(), it->first, cache);
+    mRecords.emplace_hint(mRecords.end(), it->first, nullptr);
+    const View name = CategoryIn(it->second.BorrowDisplayName());
+    const auto [place, isNew] = places.emplace(name, mCategories.size());
+    if (isNew) mCategories.push_back({UTF16String(name), {}});
+    mCategories[place->second].commands.push_back(it->first);
   }
-  RefreshAllShortcuts(caches);
-  return caches;
+  SortByName(mCategories);
 }
 
-void RefreshShortcuts(CommandCache& ioCache) {
+CommandCaches::~CommandCaches() = default;
+
+CommandCache& CommandCaches::Get(int inCommand) const {
+  const auto found = mRecords.find(inCommand);
+  LUM_INPUT_CONTRACT(found != mRecords.end());
+  boost::shared_ptr<CommandCache>& record = found->second;
+  if (record) return *record;
+  record = boost::make_shared<CommandCache>();
+  record->commandID = inCommand;
+  const auto shortcuts = mShortcuts.find(inCommand);
+  if (shortcuts != mShortcuts.end()) record->shortcuts = shortcuts->second;
+  const CommandRegistry& registry = CommandRegistry::Get();
+  const auto command = registry.FindCommandByID(inCommand);
+  if (command == registry.RegistryEnd()) return *record;
+  std::tie(record->category, record->command) =
+      SplitDisplayName(command->second.BorrowDisplayName());
+  record->description = command->second.GetDescription();
+  return *record;
+}
+
+std::vector<CommandCache*> CommandCaches::GetSorted(const Category& inCategory) const {
+  std::vector<CommandCache*> records;
+  records.reserve(inCategory.commands.size());
+  for (const int command : inCategory.commands) {
+    records.push_back(&Get(command));
+    NeedLower(*records.back());
+  }
+  std::stable_sort(records.begin(), records.end(),
+                   [](const CommandCache* inA, const CommandCache* inB) {
+                     return inA->commandLower < inB->commandLower;
+                   });
+  return records;
+}
+
+void CommandCaches::Refresh(int inCommand) {
   std::list<uisupport::KeyCommand*> mappings;
-  KeyCommandManager::Get().GetShortcutList(ioCache.commandID, mappings);
+  KeyCommandManager::Get().GetShortcutList(inCommand, mappings);
   UTF16String text;
   for (uisupport::KeyCommand* mapping : mappings)
     AppendShortcut(text, *mapping);
-  SetShortcuts(ioCache, text);
+  mShortcuts[inCommand] = text;
+  SetShortcuts(Get(inCommand), text);
 }
 
 // In one walk over the mappings: asking for those of each command walks over all of them each time.
-void RefreshAllShortcuts(CommandCaches& ioCaches) {
-  std::unordered_map<int, UTF16String> texts;
+void CommandCaches::RefreshAll() {
+  mShortcuts.clear();
   for (uisupport::KeyCommand* mapping : KeyCommandManager::Get().GetGlobalMappings())
-    AppendShortcut(texts[mapping->GetCommandID()], *mapping);
-  for (auto& [command, cache] : ioCaches) {
-    const auto found = texts.find(command);
-    if (found != texts.end()) {
-      SetShortcuts(*cache, found->second);
-    } else if (!cache->shortcuts.empty()) {
-      SetShortcuts(*cache, UTF16String());
-    }
+    AppendShortcut(mShortcuts[mapping->GetCommandID()], *mapping);
+  for (auto& [command, record] : mRecords) {
+    if (!record) continue;
+    const auto found = mShortcuts.find(command);
+    SetShortcuts(*record, found == mShortcuts.end() ? UTF16String() : found->second);
   }
 }
 
@@ -113,32 +159,6 @@ bool HasText(CommandCache& ioCache, const UTF16String& inFilter, bool inMatchCas
          Holds(ioCache.shortcutsLower, inFilter) || Holds(ioCache.descriptionLower, inFilter);
 }
 
-std::vector<CategoryOfCommands> GroupedByCategory(const CommandCaches& inCaches) {
-  std::unordered_map<UTF16String, CategoryOfCommands, HashOfUnits> byName;
-  for (const auto& [command, cache] : inCaches)
-    byName[cache->category].push_back(cache.get());
-  std::vector<CategoryOfCommands> categories;
-  categories.reserve(byName.size());
-  for (auto& [name, commands] : byName)
-    categories.push_back(std::move(commands));
-  const auto order = [](const CategoryOfCommands& inCategory) {
-    const UTF16String& category = inCategory.front()->category;
-    return std::make_tuple(category.empty(), ToLowerCase(category), std::cref(category));
-  };
-  std::sort(categories.begin(), categories.end(),
-            [&](const auto& inA, const auto& inB) { return order(inA) < order(inB); });
-  return categories;
-}
-
-void SortByName(CategoryOfCommands& ioCategory) {
-  for (CommandCache* cache : ioCategory)
-    NeedLower(*cache);
-  std::stable_sort(ioCategory.begin(), ioCategory.end(),
-                   [](const CommandCache* inA, const CommandCache* inB) {
-                     return inA->commandLower < inB->commandLower;
-                   });
-}
-
 UTF16String GetShownName(const CommandCache& inCache) {
   if (!inCache.command.empty()) return inCache.command;
   const CommandRegistry& registry = CommandRegistry::Get();
@@ -148,10 +168,9 @@ UTF16String GetShownName(const CommandCache& inCache) {
 
 UTF16String MakeShortcutList(const CommandCaches& inCaches) {
   lumcore::UTF16StringStream stream;
-  for (CategoryOfCommands& category : GroupedByCategory(inCaches)) {
-    SortByName(category);
-    stream << category.front()->category << "\n";
-    for (const CommandCache* cache : category)
+  for (const CommandCaches::Category& category : inCaches.GetCategories()) {
+    stream << category.name << "\n";
+    for (const CommandCache* cache : inCaches.GetSorted(category))
       stream << "  " << GetShownName(*cache) << "\t" << cache->shortcuts << "\n";
   }
   return stream.str();

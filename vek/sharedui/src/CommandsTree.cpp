@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "lumcore/config/Localizer.h"
 
@@ -40,16 +39,12 @@ void CommandsTree::Fill(const CommandCaches& inCaches) {
   mRows.clear();
   mCommands.clear();
   mCategories.clear();
-  mPlaces.clear();
-  for (CategoryOfCommands& category : GroupedByCategory(inCaches)) {
-    mPlaces.emplace(category.front()->category, mCategories.size());
-    mCategories.push_back({kNoRow, std::move(category)});
-  }
   const StUpdate update(*this);
   RemoveAllRows();
-  for (Category& category : mCategories) {
-    category.row = AddRow(kNoRow, {category.commands.front()->category});
-    SetRowUnfilled(category.row);
+  for (const CommandCaches::Category& category : inCaches.GetCategories()) {
+    const RowID row = AddRow(kNoRow, {category.name});
+    SetRowUnfilled(row);
+    mCategories.push_back({row, &category});
   }
 }
 
@@ -57,8 +52,7 @@ void CommandsTree::FillCategory(RowID inRow) {
   const auto category = std::find_if(mCategories.begin(), mCategories.end(),
                                      [&](const Category& inOne) { return inOne.row == inRow; });
   if (category == mCategories.end()) return;
-  SortByName(category->commands);
-  for (const CommandCache* cache : category->commands) {
+  for (const CommandCache* cache : mCaches->GetSorted(*category->category)) {
     const RowID row = AddRow(inRow, {GetShownName(*cache), cache->shortcuts, cache->description});
     mRows.emplace(cache->commandID, row);
     mCommands.emplace(row, cache->commandID);
@@ -73,7 +67,7 @@ void CommandsTree::ShowShortcuts(const CommandCache& inCache) {
 
 void CommandsTree::ShowAllShortcuts() {
   for (const auto& [command, row] : mRows)
-    ShowShortcuts(*mCaches->at(command));
+    ShowShortcuts(mCaches->Get(command));
 }
 
 void CommandsTree::Filter(bool inHasFilter, const boost::function<bool(CommandCache&)>& inIsShown) {
@@ -83,9 +77,9 @@ void CommandsTree::Filter(bool inHasFilter, const boost::function<bool(CommandCa
     if (inHasFilter && !mFiltering) mOpenBefore[category.row] = IsRowOpen(category.row);
     FillRow(category.row);
     bool empty = true;
-    for (CommandCache* cache : category.commands) {
-      const bool shown = inIsShown(*cache);
-      SetRowHidden(mRows.at(cache->commandID), !shown);
+    for (const int command : category.category->commands) {
+      const bool shown = inIsShown(mCaches->Get(command));
+      SetRowHidden(mRows.at(command), !shown);
       empty = empty && !shown;
     }
     SetRowHidden(category.row, empty);
@@ -104,10 +98,13 @@ int CommandsTree::GetSelectedCommand() const {
 }
 
 CommandsTree::RowID CommandsTree::FindRow(int inCommand) {
-  const auto cache = mCaches->find(inCommand);
-  if (cache == mCaches->end()) return kNoRow;
-  FillRow(mCategories.at(mPlaces.at(cache->second->category)).row);
-  return mRows.at(inCommand);
+  for (const Category& category : mCategories) {
+    const std::vector<int>& commands = category.category->commands;
+    if (!std::binary_search(commands.begin(), commands.end(), inCommand)) continue;
+    FillRow(category.row);
+    return mRows.at(inCommand);
+  }
+  return kNoRow;
 }
 
 void CommandsTree::GoToCommand(int inCommand) {

@@ -91,20 +91,19 @@ KSVDelegate::Key KSVDelegate::KeyOf(KeyboardCode inCode, ModifierKeys inModifier
   return Key(inCode.GetValue(inCode.IsPrintable()), modifiers.GetBits());
 }
 
-// Where a key has a plain and a hold mapping of two commands, the plain one is what a press does.
+// As a press finds it: the first of a key's mappings in the order of the list, the plain ones
+// before those of its repetitions.
 void KSVDelegate::ReadKeys() {
   mUses.clear();
   const CommandRegistry& registry = CommandRegistry::Get();
-  for (auto entry = registry.RegistryBegin(); entry != registry.RegistryEnd(); ++entry) {
-    for (const KeyCommand* mapping : MappingsOf(entry->first)) {
+  for (const bool repeat : {false, true}) {
+    for (const KeyCommand* mapping : KeyCommandManager::Get().GetGlobalMappings()) {
+      if (mapping->GetIsRepeat() != repeat) continue;
       if (mapping->GetKeyType() != KeyboardEvent::kActionKeyDown) continue;
-      const Key key = KeyOf(mapping->GetKeyboardCode(), mapping->GetModifiers());
-      const KeyUse use{entry->first, mapping->GetIsProtected()};
-      if (mapping->GetIsRepeat()) {
-        mUses.emplace(key, use);
-      } else {
-        mUses[key] = use;
-      }
+      const int command = mapping->GetCommandID();
+      if (registry.FindCommandByID(command) == registry.RegistryEnd()) continue;
+      mUses.emplace(KeyOf(mapping->GetKeyboardCode(), mapping->GetModifiers()),
+                    KeyUse{command, mapping->GetIsProtected()});
     }
   }
 }

@@ -196,7 +196,7 @@ void ShortcutDialog::UpdateButtons() {
 }
 
 void ShortcutDialog::CommandChanged(int inCommand) {
-  mTree->ShowShortcuts(*mEditor.GetCaches().at(inCommand));
+  mTree->ShowShortcuts(mEditor.GetCaches().Get(inCommand));
 }
 
 void ShortcutDialog::AllCommandsChanged() {

@@ -85,7 +85,8 @@ void ShortcutDialog::RemoveAllShortcuts() {
     const boost::intrusive_ptr<TextBubble> bubble = bubbles.front();
     return RemoveBubble(*bubble);
   }
-  if (mEditor.RemoveKeys(mField->GetKeys())) RebuildField();
+  mEditor.RemoveKeys(mField->GetKeys());
+  RebuildField();
 }
 
 void ShortcutDialog::Undo() {

@@ -92,9 +92,8 @@ void ShortcutEditor::RemoveBoth(const KeyCommand& inKey) {
 }
 
 void ShortcutEditor::RefreshCommand(int inCommand) {
-  const auto found = mCaches.find(inCommand);
-  if (found == mCaches.end()) return;
-  RefreshShortcuts(*found->second);
+  if (!mCaches.Has(inCommand)) return;
+  mCaches.Refresh(inCommand);
   mView.CommandChanged(inCommand);
 }
 

@@ -49,8 +49,7 @@ std::vector<UTF16String> SetsIn(const Dir& inDir) {
 
 ShortcutEditor::ShortcutEditor(const UTF16String& inCurrentSet,
                                const lumcore::UTF8String& inDefaultKeys, ShortcutEditorView& inView)
-    : mSnapshot(LiveKeys()),
-      mDefaultKeys(inDefaultKeys),
+    : mDefaultKeys(inDefaultKeys),
       mInitialSet(inCurrentSet),
       mCurrentSet(inCurrentSet),
       mCustom(inCurrentSet == CustomSetName()),
@@ -58,8 +57,9 @@ ShortcutEditor::ShortcutEditor(const UTF16String& inCurrentSet,
               lumui::ui::KeyboardEvent::kActionKeyDown, false, false),
       mNewKey(mOldKey),
       mDisplacedKey(mOldKey),
-      mCaches(MakeCommandCaches()),
-      mView(inView) {}
+      mView(inView) {
+  mSnapshot = LiveKeys();
+}
 
 ShortcutEditor::~ShortcutEditor() = default;
 
@@ -111,7 +111,7 @@ void ShortcutEditor::FillSets() {
   LoadCurrentSet(before);
   mView.SetSetItems(mItems);
   ShowSetState(IndexOfCurrentSet());
-  RefreshAllShortcuts(mCaches);
+  mCaches.RefreshAll();
   mView.AllCommandsChanged();
   mView.UpdateButtons();
 }

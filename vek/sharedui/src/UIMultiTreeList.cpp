@@ -77,10 +77,12 @@ UIMultiTreeList::UIMultiTreeList()
       mListScroll(NewScrollView<PlatformScrollView>(new ListPlatformView, 0)) {
   UI_SetNodeID("UIMultiTreeList");
   mHeaderScroll->GetPlatformView().SetWantsKeyboardFocus(false);
+  mHeaderScroll->GetPlatformView().SetFocusTaker(&mListScroll->GetPlatformView());
   TrackView& headerView = *mHeaderScroll->GetPlatformView().GetTrackView();
   mHeader = Install(*mHeaderScroll, new MultiColumnHeaderView(&headerView, true));
   TrackView& listView = *mListScroll->GetPlatformView().GetTrackView();
   mList = Install(*mListScroll, new UIMultiTreeListView(&listView));
+  mHeader->SetKeepsRightPressesForMenu(true);
   mHeader->SetMultiColumnView(mList);
   mList->GetColumnStateChangedNoter()->AddListener(mHeader);
   UI_AddChild(mHeaderScroll);
@@ -91,6 +93,7 @@ UIMultiTreeList::UIMultiTreeList()
 
 // Somebody may hold one of the two scroll views for longer.
 UIMultiTreeList::~UIMultiTreeList() {
+  mHeaderScroll->GetPlatformView().SetFocusTaker(nullptr);
   mHeaderFollows->clear();
   mListFollows->clear();
   mHeader->SetMultiColumnView(nullptr);

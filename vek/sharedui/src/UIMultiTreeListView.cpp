@@ -174,7 +174,7 @@ bool UIMultiTreeListView::DoContextMenu(const Point& inLocalPoint, lumui::ui::UI
 
 bool UIMultiTreeListView::DoKeyEvent(const lumui::ui::KeyboardEvent& inEvent) {
   if (mController && mController->OnKeyEvent(*this, inEvent)) return true;
-  return BasicMultiColumnListBase::DoKeyEvent(inEvent);
+  return HandleListKey(inEvent) || BasicMultiColumnListBase::DoKeyEvent(inEvent);
 }
 
 void UIMultiTreeListView::DoGainedKeyFocus() {

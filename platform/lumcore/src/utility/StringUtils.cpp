@@ -91,24 +91,36 @@ bool IsDigit(unsigned short inUnit) {
   return inUnit >= '0' && inUnit <= '9';
 }
 
+// A text that grows by pieces is not filled with zeroes first.
+void AppendASCII(std::string_view inText, UTF16String& ioText) {
+  constexpr std::size_t kPiece = 64;
+  unsigned short piece[kPiece];
+  if (inText.size() > kPiece) ioText.reserve(ioText.size() + inText.size());
+  while (!inText.empty()) {
+    const std::size_t count = std::min(kPiece, inText.size());
+    std::copy_n(inText.data(), count, piece);
+    ioText.append(piece, count);
+    inText.remove_prefix(count);
+  }
+}
+
 }  // namespace
 
 void AppendUTF16(std::string_view inUTF8, UTF16String& ioText) {
-  const std::size_t before = ioText.size();
-  const int32_t length = CheckedLength(inUTF8.size());
-  // One UTF-16 unit is the most that one byte comes to.
-  ioText.resize(before + inUTF8.size());
-  unsigned short* const text = ioText.data() + before;
   // Most text is ASCII, and for that ICU's general road is long.
   const std::size_t plain = CountASCII(inUTF8);
-  std::copy_n(inUTF8.data(), plain, text);
+  AppendASCII(inUTF8.substr(0, plain), ioText);
   if (plain == inUTF8.size()) return;
+  const std::string_view others = inUTF8.substr(plain);
+  const std::size_t before = ioText.size();
+  const int32_t length = CheckedLength(others.size());
+  // One UTF-16 unit is the most that one byte comes to.
+  ioText.resize(before + others.size());
   int32_t written = 0;
   UErrorCode status = U_ZERO_ERROR;
-  const auto rest = length - static_cast<int32_t>(plain);
-  u_strFromUTF8WithSub(reinterpret_cast<UChar*>(text + plain), rest, &written,
-                       inUTF8.data() + plain, rest, kReplacementCharacter, nullptr, &status);
-  ioText.resize(before + plain + static_cast<std::size_t>(written));
+  u_strFromUTF8WithSub(AsICU(ioText) + before, length, &written, others.data(), length,
+                       kReplacementCharacter, nullptr, &status);
+  ioText.resize(before + static_cast<std::size_t>(written));
 }
 
 UTF16String ToUTF16(std::string_view inUTF8) {

@@ -17,6 +17,11 @@ constexpr float kLength = 10.0f;
 constexpr float kDepth = 6.0f;
 constexpr drawbot::ColorRGBA kPlainColor(0.5f, 0.5f, 0.5f);
 
+drawbot::ColorRGBA GetThemeColor() {
+  const auto theme = ui::Theme::Get();
+  return theme ? theme->GetColor(ui::themev2::kColor_TreeTwisty) : kPlainColor;
+}
+
 }  // namespace
 
 void DrawTrianglePicture::Draw(drawbot::Drawbot& inDrawbot, const Path::Rect& inRect,
@@ -35,9 +40,7 @@ void DrawTrianglePicture::Draw(drawbot::Drawbot& inDrawbot, const Path::Rect& in
     path.LineTo(Path::Point(left, top + height));
   }
   path.Close();
-  const auto theme = ui::Theme::Get();
-  inDrawbot.FillPath(
-      path, drawbot::Brush(theme ? theme->GetColor(ui::themev2::kColor_TreeTwisty) : kPlainColor));
+  inDrawbot.FillPath(path, drawbot::Brush(mColor ? *mColor : GetThemeColor()));
 }
 
 }  // namespace lumui::controls

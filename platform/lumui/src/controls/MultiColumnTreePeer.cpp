@@ -140,8 +140,10 @@ void TreeWidget::ShowSelection() {
 }
 
 RowID TreeWidget::GetTopRow() const {
+  // Asking for an index lays all out, which a view that is not scrolled can do without.
+  if (verticalScrollBar()->value() == 0) return UI_MultiColumnTree::kNoRow;
   const RowModel::Row* const row = RowModel::RowOf(indexAt(QPoint(0, 0)));
-  return row && verticalScrollBar()->value() > 0 ? row->id : UI_MultiColumnTree::kNoRow;
+  return row ? row->id : UI_MultiColumnTree::kNoRow;
 }
 
 QRect TreeWidget::CellRect(RowID inRow, int inColumn) const {

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QStyleOptionComboBox>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -38,6 +39,7 @@ class ComboBox : public EditWidgetT<QComboBox> {
     setEditable(inEditable);
     if (!inEditable) return;
     setInsertPolicy(QComboBox::NoInsert);
+    lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     // What is typed is taken as it is.
     setCompleter(nullptr);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& inText) {

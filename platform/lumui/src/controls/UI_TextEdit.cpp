@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QTextDocument>
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 #include "controls/ControlPeer.h"
@@ -68,6 +69,8 @@ class TextEditPeer : public ControlPeer {
 
   QWidget* MakeLineEdit(QWidget* inParent) {
     auto* const edit = new ControlWidgetT<LineEdit, QStyleOptionFrame>(*this, inParent);
+    // Of a longer text the rest would be lost with the first edit.
+    edit->setMaxLength(std::numeric_limits<int>::max());
     edit->mOnEnter = [this] {
       ByUser([&] { Edit().Commit(); });
       return !IsInDialog() && !Edit().LeavesLineKeys();
@@ -221,10 +224,10 @@ void UI_TextEdit::DoShowState() {
   auto* const area = static_cast<QPlainTextEdit*>(widget);
   if (TextOf(*area) != text) area->setPlainText(text);
   area->setReadOnly(mReadOnly);
-  if (const QString shown = drawbot::ToQt(mPlaceholder); area->placeholderText() != shown) {
-    area->setPlaceholderText(shown);
-    // Which draws nothing anew where one text takes the place of another.
-    area->viewport()->update();
+  const QString placeholder = drawbot::ToQt(mPlaceholder);
+  if (area->placeholderText() != placeholder) {
+    area->setPlaceholderText(placeholder);
+    area->viewport()->update();  // it leaves one that is shown already as it was drawn
   }
   QTextCursor cursor = area->textCursor();
   if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;

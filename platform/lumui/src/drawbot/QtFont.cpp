@@ -68,6 +68,15 @@ std::unique_ptr<PreparedText> Prepare(const QString& inText, const QFont& inFont
   return prepared;
 }
 
+// Enough of a text to be shortened to a width: all that could show at its start and, where the
+// middle is left out, at its end.
+lumcore::UTF16String Ends(const lumcore::UTF16String& inText, TextTruncation inTruncation,
+                          std::size_t inLength) {
+  lumcore::UTF16String ends = inText.substr(0, inLength);
+  if (inTruncation == TextTruncation::kMiddle) ends += inText.substr(inText.size() - inLength);
+  return ends;
+}
+
 }  // namespace
 
 QtFont::QtFont(const std::string& inFamilyName, int inSize, FontStyle inStyle)
@@ -107,8 +116,7 @@ const lumcore::UTF16String& QtFont::Truncate(const lumcore::UTF16String& inText,
                                              TextTruncation inTruncation, float inMaxWidth) const {
   if (inTruncation == TextTruncation::kNone) return inText;
   if (inText.size() > kLongestCachedText) {
-    if (MeasureWidthOnce(inText) <= inMaxWidth) return inText;
-    return mLastLongTruncated = MakeTruncated(inText, inTruncation, inMaxWidth);
+    return TruncateLong(inText, inTruncation, inMaxWidth);
   }
   TextEntry& entry = Remember(inText);
   if (entry.width <= inMaxWidth) return inText;
@@ -118,6 +126,22 @@ const lumcore::UTF16String& QtFont::Truncate(const lumcore::UTF16String& inText,
     entry.truncatedTo = inMaxWidth;
   }
   return entry.truncated;
+}
+
+// A text may be millions of times as long as what shows of it, so it is measured from its ends on.
+const lumcore::UTF16String& QtFont::TruncateLong(const lumcore::UTF16String& inText,
+                                                 TextTruncation inTruncation,
+                                                 float inMaxWidth) const {
+  for (std::size_t length = kLongestCachedText; length < inText.size() / 2; length *= 2) {
+    if (MeasureWidthOnce(inText.substr(0, length)) <= inMaxWidth ||
+        MeasureWidthOnce(inText.substr(inText.size() - length)) <= inMaxWidth) {
+      continue;
+    }
+    const lumcore::UTF16String ends = Ends(inText, inTruncation, length);
+    return mLastLongTruncated = MakeTruncated(ends, inTruncation, inMaxWidth);
+  }
+  if (MeasureWidthOnce(inText) <= inMaxWidth) return inText;
+  return mLastLongTruncated = MakeTruncated(inText, inTruncation, inMaxWidth);
 }
 
 void QtFont::Draw(QPainter& inPainter, const lumcore::UTF16String& inText,

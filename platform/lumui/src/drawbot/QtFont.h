@@ -38,6 +38,8 @@ class QtFont : public FontInterface {
 
  private:
   TextEntry& Remember(const lumcore::UTF16String& inText) const;
+  const lumcore::UTF16String& TruncateLong(const lumcore::UTF16String& inText,
+                                           TextTruncation inTruncation, float inMaxWidth) const;
   lumcore::UTF16String MakeTruncated(const lumcore::UTF16String& inText,
                                      TextTruncation inTruncation, float inMaxWidth) const;
 

@@ -9,6 +9,7 @@
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/utility/ResourceManager.h"
+#include "ui/DialogArchives.h"
 
 namespace lumui::ui {
 
@@ -19,16 +20,16 @@ UI_ArchivedDialog::UI_ArchivedDialog(const drawbot::SupplierInterface* inSupplie
                                      const UI_NodeBuilder::CustomNodeFunction& inCustomNode)
     : UI_Dialog(inTitle, inParent) {
   const std::vector<unsigned char> bytes = inResources.GetRequiredBinary(inResource, "xml");
-  UI_NodeBuilder builder(lumcore::UTF8String(bytes.begin(), bytes.end()), inResource);
-  builder.SetResources(&inResources);
-  UI_NodeBuilder::NodeMap nodes;
-  mRoot = builder.Build(inSupplier, nodes, inCustomNode);
-  if (!mRoot) {
+  if (bytes.empty()) {
     throw lumcore::config::Error(lumcore::utility::ReplaceInString(
         lumcore::config::Localizer::Get()->GetLocalizedString(
             "$$$/lumui/nodes/Error/Empty=@0: the archive is empty"),
         {inResource}));
   }
+  UI_NodeBuilder builder(DialogArchives::Get().Read(bytes, inResource), inResource);
+  builder.SetResources(&inResources);
+  UI_NodeBuilder::NodeMap nodes;
+  mRoot = builder.Build(inSupplier, nodes, inCustomNode);
   const lumcore::geom::RectT<float> size = mRoot->UI_GetLocalRectF();
   GetContent().UI_AddChild(mRoot);
   if (const auto* const view = dynamic_cast<const UI_SubView*>(mRoot.get())) {

@@ -89,15 +89,26 @@ void CollectIDs(UI_Node& inNode, UI_NodeBuilder::NodeMap& ioNodes) {
 UI_NodeBuilder::UI_NodeBuilder(const UTF8String& inArchive, const UTF16String& inName)
     : mArchive(inArchive), mName(inName) {}
 
+UI_NodeBuilder::UI_NodeBuilder(const boost::shared_ptr<const PropList>& inArchive,
+                               const UTF16String& inName)
+    : mName(inName), mRead(inArchive) {}
+
 boost::intrusive_ptr<UI_Node> UI_NodeBuilder::Build(const drawbot::SupplierInterface* inSupplier,
                                                     NodeMap& outNodes,
                                                     const CustomNodeFunction& inCustomNode) const {
   outNodes.clear();
+  if (mRead) return BuildRoot(*mRead, inSupplier, outNodes, inCustomNode);
   if (mArchive.empty()) return nullptr;
   PropList archive;
   lumcore::proplist::utils::LoadPropListFromBuffer(mArchive, mName, archive, false);
-  const auto* const version = archive.Find<std::uint32_t>("UINodeArchive");
-  const PropList* const rootList = archive.GetSubList("root");
+  return BuildRoot(archive, inSupplier, outNodes, inCustomNode);
+}
+
+boost::intrusive_ptr<UI_Node> UI_NodeBuilder::BuildRoot(
+    const PropList& inArchive, const drawbot::SupplierInterface* inSupplier, NodeMap& outNodes,
+    const CustomNodeFunction& inCustomNode) const {
+  const auto* const version = inArchive.Find<std::uint32_t>("UINodeArchive");
+  const PropList* const rootList = inArchive.GetSubList("root");
   if (!version || *version != kArchiveVersion || !rootList) {
     throw lumcore::config::Error(ReplaceInString(
         Localized("$$$/lumui/nodes/Error/NoArchive=@0: this is no archive of nodes of version 1"),

@@ -3,9 +3,12 @@
 
 #pragma once
 
+#include <optional>
+
 #include "lumcore/geom/Point.h"
 #include "lumcore/geom/Rect.h"
 #include "lumui/Export.h"
+#include "lumui/drawbot/Color.h"
 
 namespace lumui::drawbot {
 class Drawbot;
@@ -20,6 +23,9 @@ class LUMUI_API DrawTrianglePicture {
   DrawTrianglePicture(const lumcore::geom::PointT<float>& inScale, bool inPointsDown)
       : mScale(inScale), mPointsDown(inPointsDown) {}
 
+  // In place of the theme's, for a triangle on a ground that is not a tree's.
+  void SetColor(const drawbot::ColorRGBA& inColor) { mColor = inColor; }
+
   // In the theme's colour, at the left of the rectangle and in the middle of its height, moved by
   // the offset. Without a theme it is grey.
   void Draw(drawbot::Drawbot& inDrawbot, const lumcore::geom::RectT<float>& inRect,
@@ -28,6 +34,7 @@ class LUMUI_API DrawTrianglePicture {
  private:
   lumcore::geom::PointT<float> mScale;
   bool mPointsDown;
+  std::optional<drawbot::ColorRGBA> mColor;
 };
 
 }  // namespace lumui::controls

@@ -5,6 +5,7 @@
 
 #include <boost/function.hpp>
 #include <boost/intrusive_ptr.hpp>
+#include <boost/shared_ptr.hpp>
 #include <cstdint>
 #include <map>
 
@@ -37,6 +38,9 @@ class LUMUI_API UI_NodeBuilder {
   // The bytes of the archive's file. The name stands in error texts.
   explicit UI_NodeBuilder(const lumcore::UTF8String& inArchive,
                           const lumcore::UTF16String& inName = lumcore::UTF16String());
+  // One that has been read already.
+  UI_NodeBuilder(const boost::shared_ptr<const lumcore::proplist::PropList>& inArchive,
+                 const lumcore::UTF16String& inName);
 
   // Where the pictures that the archive names are; without it, controls have none. Borrowed.
   void SetResources(const utility::ResourceManager* inResources) { mResources = inResources; }
@@ -64,6 +68,10 @@ class LUMUI_API UI_NodeBuilder {
                                           const lumcore::UTF16String& inPlace,
                                           const drawbot::SupplierInterface* inSupplier,
                                           const CustomNodeFunction& inCustomNode) const;
+  boost::intrusive_ptr<UI_Node> BuildRoot(const lumcore::proplist::PropList& inArchive,
+                                          const drawbot::SupplierInterface* inSupplier,
+                                          NodeMap& outNodes,
+                                          const CustomNodeFunction& inCustomNode) const;
   void BuildChildren(UI_Node& ioNode, const lumcore::proplist::PropList& inSection,
                      const NodeSource& inSource, const lumcore::UTF16String& inPlace,
                      const CustomNodeFunction& inCustomNode) const;
@@ -71,6 +79,7 @@ class LUMUI_API UI_NodeBuilder {
   lumcore::UTF8String mArchive;
   lumcore::UTF16String mName;
   const utility::ResourceManager* mResources = nullptr;
+  boost::shared_ptr<const lumcore::proplist::PropList> mRead;  // in the place of the bytes
 };
 
 }  // namespace lumui::ui
