@@ -162,22 +162,6 @@ MapFrame::Index MapFrame::NextLine(const Node& inParent, Index inChild, float in
 }
 
 // What all children have in common: the way out of the parent, and up and down beside it.
-// In units of the map: what is below it is drawn on the line of pixels, or on a later one.
-float MapFrame::StartOfLine(float inPixelY) const {
-  return ((inPixelY - 0.5f) / ratio - origin.y) / scale.y;
-}
-
-// The first child that begins below the line of pixels on which the given one is drawn, or that is
-// too high to be a part of a speck.
-MapFrame::Index MapFrame::NextLine(const Node& inParent, Index inChild, float inLeastBand) const {
-  const float y = StartOfLine(PixelY(layout.GetNode(inChild).top) + 1);
-  const Index next = std::max(layout.NextChildBelow(inParent, inChild, y), inChild);
-  if (next == inChild) return inChild + 1;
-  if (next == MapLayout::EndOfChildren(inParent)) return next;
-  const Node& node = layout.GetNode(next);
-  return node.top < y && node.bottom - node.top < inLeastBand ? next + 1 : next;
-}
-
 void MapFrame::AddTrunk(const Node& inNode) {
   const std::size_t level = maplook::LevelOf(inNode.depth);
   const float start = inNode.left + inNode.width;
