@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "support/RandomSteps.h"
-#include "support/Seeds.h"
 #include "support/RecordingDrawbot.h"
+#include "support/Seeds.h"
 #include "support/TreeRig.h"
 
 namespace {
