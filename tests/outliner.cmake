@@ -31,7 +31,7 @@ foreach(scale 1.25 1.5 2)
   add_test(NAME outliner_pictures_at_${scale}
     COMMAND outliner_tests --gtest_brief=1 --gtest_filter=MapRepaints.*)
   set_tests_properties(outliner_pictures_at_${scale} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale}")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale}" TIMEOUT 300)
 endforeach()
 
 add_test(NAME outliner_program COMMAND ${CMAKE_COMMAND}

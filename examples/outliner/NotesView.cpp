@@ -87,7 +87,6 @@ UTF16String NotesView::TextFor(const OutlineRow& inRow) const {
 
 void NotesView::ShowNote() {
   const OutlineRow* const row = FindRow();
-  const bool hadRow = mRow != 0;
   const OutlineRow::Id id = row ? row->GetId() : 0;
   const UTF16String note = row ? TextFor(*row) : UTF16String();
   if (id != mRow || note != mField->GetText()) {
@@ -100,8 +99,9 @@ void NotesView::ShowNote() {
                 : mDocument ? "$$$/outliner/Notes/NoRow=Select one row to read or write its note"
                             : "$$$/outliner/Notes/NoDocument=No outline is open"));
   const UTF16String title = row ? row->GetText() : UTF16String();
-  if (title == mTitle && hadRow == (row != nullptr)) return;
+  if (title == mTitle && id == mTitledRow) return;
   mTitle = title;
+  mTitledRow = id;
   UI_InvalidateAll();
 }
 

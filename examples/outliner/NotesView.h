@@ -56,6 +56,7 @@ class NotesView final
   OutlineDocument* mDocument = nullptr;
   OutlineRow::Id mRow = 0;  // of the note in the field; 0 for none
   lumcore::UTF16String mTitle;
+  OutlineRow::Id mTitledRow = 0;  // an empty title is drawn where there is a row
   boost::intrusive_ptr<lumui::controls::UI_TextEdit> mField;
   boost::shared_ptr<lumui::controls::UI_InteractiveControlView::ChangedFunction> mEdited;
 };

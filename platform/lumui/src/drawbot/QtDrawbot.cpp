@@ -52,6 +52,14 @@ bool IsVisible(const Pen& inPen) {
   return inPen.width > 0 && inPen.color.alpha > 0;
 }
 
+bool IsOnPixels(const QRectF& inDevice) {
+  const auto isWhole = [](double inEdge) {
+    return std::abs(inEdge - std::round(inEdge)) < kPixelTolerance;
+  };
+  return isWhole(inDevice.left()) && isWhole(inDevice.top()) && isWhole(inDevice.right()) &&
+         isWhole(inDevice.bottom());
+}
+
 bool HasWholeUnits(const QPainter& inPainter) {
   const QTransform& toDevice = inPainter.deviceTransform();
   return toDevice.m11() == std::floor(toDevice.m11()) &&
@@ -133,26 +141,18 @@ Drawbot::Rect QtDrawbot::GetClipBounds() const {
 
 void QtDrawbot::FillRect(const Rect& inRect, const Brush& inBrush) {
   if (inRect.IsEmpty()) return;
-  const QRectF rect = OnPixels(inRect);
-  // A colour alone is filled with faster than a brush of it.
-  if (!inBrush.IsGradient()) return mPainter.fillRect(rect, ToQt(inBrush.GetStartColor()));
-  mPainter.fillRect(rect, MakeBrush(inBrush));
-}
-
-// With parts of pixels in a unit a float misses whole pixels by a little, which would be blended.
-QRectF QtDrawbot::OnPixels(const Rect& inRect) const {
   const QRectF rect = ToQt(inRect);
-  if (mHasWholeUnits) return rect;
-  const QTransform& toDevice = mPainter.deviceTransform();
-  const auto snapped = [](double inEdge, double inScale, double inOrigin) {
-    const double device = inEdge * inScale + inOrigin;
-    const double pixel = std::round(device);
-    return std::abs(device - pixel) < kPixelTolerance ? (pixel - inOrigin) / inScale : inEdge;
-  };
-  return QRectF(QPointF(snapped(rect.left(), toDevice.m11(), toDevice.dx()),
-                        snapped(rect.top(), toDevice.m22(), toDevice.dy())),
-                QPointF(snapped(rect.right(), toDevice.m11(), toDevice.dx()),
-                        snapped(rect.bottom(), toDevice.m22(), toDevice.dy())));
+  // Where a unit has parts of pixels a float misses whole pixels by a little, which the painter
+  // would blend.
+  const bool snaps = !mHasWholeUnits && IsOnPixels(mPainter.deviceTransform().mapRect(rect));
+  if (snaps) mPainter.setRenderHint(QPainter::Antialiasing, false);
+  // A colour alone is filled with faster than a brush of it.
+  if (inBrush.IsGradient()) {
+    mPainter.fillRect(rect, MakeBrush(inBrush));
+  } else {
+    mPainter.fillRect(rect, ToQt(inBrush.GetStartColor()));
+  }
+  if (snaps) mPainter.setRenderHint(QPainter::Antialiasing);
 }
 
 void QtDrawbot::StrokeRect(const Rect& inRect, const Pen& inPen) {

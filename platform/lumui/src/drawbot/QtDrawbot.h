@@ -63,7 +63,6 @@ class QtDrawbot : public Drawbot {
     Rect clip;
   };
 
-  QRectF OnPixels(const Rect& inRect) const;
   void NarrowClip(const Rect& inLocalBounds);
   // inTint may be null.
   void DrawRaster(const ImageInterface& inImage, const Rect& inRect, const ColorRGBA* inTint,
