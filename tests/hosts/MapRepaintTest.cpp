@@ -88,7 +88,7 @@ class MapRepaints : public testing::Test {
                            to + Position(1, 1)});
     // The map may have scrolled to follow the pointer.
     Expect("branch let go",
-           [&] { lumui::testing::ReleaseMouse(mHost.GetWindow(), mHost.Of("N")); });
+           [&] { lumui::testing::ReleaseMouse(mHost.GetWindow(), mHost.Of("M1")); });
     Expect("branch back", [&] { mHost.Keys("Ctrl+Z"); });
   }
   void ExpectEdits() {
