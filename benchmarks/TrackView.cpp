@@ -39,6 +39,7 @@ constexpr int kRows = 20000;
 constexpr int kWidth = 1000;
 constexpr int kHeight = 700;
 constexpr int kDamage = 50;
+constexpr unsigned kStepsInOneLoop = 32;
 constexpr double kZooms[] = {0.8, 1, 1.25, 1};
 
 // Four levels, branches of up to 20, texts of one to six words.
@@ -136,6 +137,7 @@ void LoadTheme() {
   lumcore::xml::GetParser(handler)->Parse({bytes.begin(), bytes.end()},
                                           lumcore::utility::ToUTF16("LUMColorThemesV5"));
   lumui::ui::Theme::SetBrightness(1);
+  lumui::ui::Theme::NotifyThemeChanged();
 }
 
 // Both sides, at the same scale and over the same place.
@@ -173,12 +175,15 @@ struct Sides {
 };
 
 template <class Step>
-bench::Body At(Sides& ioSides, double inScale, Step inStep) {
-  return [&ioSides, inScale, inStep](benchmark::State& ioState) {
+bench::Body At(Sides& ioSides, double inScale, Step inStep, bool inDraws = true) {
+  return [&ioSides, inScale, inStep, inDraws](benchmark::State& ioState) {
     ioSides.Show(inScale);
     unsigned turn = 0;
-    for (auto _ : ioState)
+    for (auto _ : ioState) {
+      // As a loop does: what draws leave in the queue is looked through at each of the next ones.
+      if (inDraws && turn % kStepsInOneLoop == 0) lumui::testing::ProcessEvents();
       inStep(turn++);
+    }
   };
 }
 
@@ -247,18 +252,23 @@ bench::Pair HitTest(Sides& ioSides, const std::string& inName, double inScale) {
     return std::pair<int, int>(inTurn * 97 % kWidth, inTurn * 61 % kHeight);
   };
   return {inName, "us", bench::RatioAtMost(0.5),
-          At(ioSides, inScale,
-             [&, place](unsigned inTurn) {
-               const auto [x, y] = place(inTurn);
-               Point point(static_cast<float>(x), static_cast<float>(y));
-               point = point + ioSides.ours->Track().LocalArea().Origin();
-               ioSides.ours->Track().LocalToData(point);
-               benchmark::DoNotOptimize(ioSides.ours->GetLayout().FindBox(point));
-             }),
-          At(ioSides, inScale, [&, place](unsigned inTurn) {
-            const auto [x, y] = place(inTurn);
-            benchmark::DoNotOptimize(ioSides.peer->HasItemAt(x, y));
-          })};
+          At(
+              ioSides, inScale,
+              [&, place](unsigned inTurn) {
+                const auto [x, y] = place(inTurn);
+                Point point(static_cast<float>(x), static_cast<float>(y));
+                point = point + ioSides.ours->Track().LocalArea().Origin();
+                ioSides.ours->Track().LocalToData(point);
+                benchmark::DoNotOptimize(ioSides.ours->GetLayout().FindBox(point));
+              },
+              false),
+          At(
+              ioSides, inScale,
+              [&, place](unsigned inTurn) {
+                const auto [x, y] = place(inTurn);
+                benchmark::DoNotOptimize(ioSides.peer->HasItemAt(x, y));
+              },
+              false)};
 }
 
 }  // namespace

@@ -52,18 +52,15 @@ bool IsVisible(const Pen& inPen) {
   return inPen.width > 0 && inPen.color.alpha > 0;
 }
 
+constexpr QPainter::RenderHints kSmooth =
+    QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform;
+
 bool IsOnPixels(const QRectF& inDevice) {
   const auto isWhole = [](double inEdge) {
     return std::abs(inEdge - std::round(inEdge)) < kPixelTolerance;
   };
   return isWhole(inDevice.left()) && isWhole(inDevice.top()) && isWhole(inDevice.right()) &&
          isWhole(inDevice.bottom());
-}
-
-bool HasWholeUnits(const QPainter& inPainter) {
-  const QTransform& toDevice = inPainter.deviceTransform();
-  return toDevice.m11() == std::floor(toDevice.m11()) &&
-         toDevice.m22() == std::floor(toDevice.m22());
 }
 
 bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
@@ -74,12 +71,11 @@ bool IsPixelForPixel(const QRectF& inDevice, const QSize& inPixels) {
 }  // namespace
 
 QtDrawbot::QtDrawbot(QPainter& inPainter, const lumcore::geom::RectT<float>& inClipBounds)
-    : mPainter(inPainter), mHasWholeUnits(HasWholeUnits(inPainter)) {
+    : mPainter(inPainter) {
   mPainter.save();
-  mPainter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                          QPainter::SmoothPixmapTransform);
+  mPainter.setRenderHints(kSmooth);
   mPainter.setBrush(Qt::NoBrush);
-  mStates.push_back({QTransform(), inClipBounds});
+  mStates.push_back({QTransform(), inClipBounds, true});
   mPainter.setClipRect(ToQt(inClipBounds), Qt::IntersectClip);
   if (inClipBounds.IsEmpty()) mStates.back().clip = Rect();
 }
@@ -87,6 +83,13 @@ QtDrawbot::QtDrawbot(QPainter& inPainter, const lumcore::geom::RectT<float>& inC
 QtDrawbot::~QtDrawbot() {
   for (std::size_t i = 0; i < mStates.size(); ++i)
     mPainter.restore();
+}
+
+void QtDrawbot::SetSmooth(bool inSmooth) {
+  bool& isSmooth = mStates.back().isSmooth;
+  if (isSmooth == inSmooth) return;
+  mPainter.setRenderHints(kSmooth, inSmooth);
+  isSmooth = inSmooth;
 }
 
 void QtDrawbot::PushState() {
@@ -123,6 +126,7 @@ void QtDrawbot::ClipRect(const Rect& inRect) {
 
 void QtDrawbot::ClipPath(const Path& inPath) {
   NarrowClip(inPath.GetBounds());
+  SetSmooth(true);
   mPainter.setClipPath(ToQt(inPath), Qt::IntersectClip);
 }
 
@@ -144,15 +148,13 @@ void QtDrawbot::FillRect(const Rect& inRect, const Brush& inBrush) {
   const QRectF rect = ToQt(inRect);
   // Where a unit has parts of pixels a float misses whole pixels by a little, which the painter
   // would blend.
-  const bool snaps = !mHasWholeUnits && IsOnPixels(mPainter.deviceTransform().mapRect(rect));
-  if (snaps) mPainter.setRenderHint(QPainter::Antialiasing, false);
+  SetSmooth(!IsOnPixels(mPainter.deviceTransform().mapRect(rect)));
   // A colour alone is filled with faster than a brush of it.
   if (inBrush.IsGradient()) {
     mPainter.fillRect(rect, MakeBrush(inBrush));
   } else {
     mPainter.fillRect(rect, ToQt(inBrush.GetStartColor()));
   }
-  if (snaps) mPainter.setRenderHint(QPainter::Antialiasing);
 }
 
 void QtDrawbot::StrokeRect(const Rect& inRect, const Pen& inPen) {
@@ -170,22 +172,26 @@ void QtDrawbot::StrokeRect(const Rect& inRect, const Pen& inPen) {
   ring.addRect(rect.adjusted(-half, -half, half, half));
   const QRectF hole = rect.adjusted(half, half, -half, -half);
   if (hole.width() > 0 && hole.height() > 0) ring.addRect(hole);
+  SetSmooth(true);
   mPainter.fillPath(ring, ToQt(inPen.color));
 }
 
 void QtDrawbot::StrokeLine(const Point& inStart, const Point& inEnd, const Pen& inPen) {
   if (!IsVisible(inPen)) return;
+  SetSmooth(true);
   mPainter.setPen(MakePen(inPen));
   mPainter.drawLine(ToQt(inStart), ToQt(inEnd));
 }
 
 void QtDrawbot::FillPath(const Path& inPath, const Brush& inBrush) {
   if (inPath.IsEmpty()) return;
+  SetSmooth(true);
   mPainter.fillPath(ToQt(inPath), MakeBrush(inBrush));
 }
 
 void QtDrawbot::StrokePath(const Path& inPath, const Pen& inPen) {
   if (inPath.IsEmpty() || !IsVisible(inPen)) return;
+  SetSmooth(true);
   const QPen pen = MakePen(inPen);
   const bool isThin = inPen.width * GetScale() <= kWidestThinPen;
   if (!isThin) return mPainter.strokePath(ToQt(inPath), pen);
@@ -197,6 +203,7 @@ void QtDrawbot::DrawString(const lumcore::UTF16String& inText, const FontP& inFo
                            const ColorRGBA& inColor, const Point& inOrigin,
                            TextTruncation inTruncation, float inMaxWidth) {
   const QtFont& font = AsQtFont(inFont);
+  SetSmooth(true);
   mPainter.setPen(ToQt(inColor));
   font.Draw(mPainter, font.Truncate(inText, inTruncation, inMaxWidth), ToQt(inOrigin));
 }
@@ -239,6 +246,7 @@ void QtDrawbot::DrawRaster(const ImageInterface& inImage, const Rect& inRect,
   if (IsPixelForPixel(device, raster.size())) {
     DrawPixels(raster, device, toDevice);
   } else {
+    SetSmooth(true);
     mPainter.drawImage(ToQt(inRect), raster);
   }
   if (isFaint) mPainter.setOpacity(opacity);
@@ -249,15 +257,13 @@ void QtDrawbot::DrawRaster(const ImageInterface& inImage, const Rect& inRect,
 void QtDrawbot::DrawPixels(const QImage& inRaster, const QRectF& inDevice,
                            const QTransform& inToDevice) {
   const QPointF origin(std::round(inDevice.x()), std::round(inDevice.y()));
-  const auto hints = mPainter.renderHints();
-  mPainter.setRenderHints(hints, false);
+  SetSmooth(false);
   if (inToDevice.type() <= QTransform::TxTranslate) {
     mPainter.drawImage(origin - QPointF(inToDevice.dx(), inToDevice.dy()), inRaster);
   } else {
     const QRectF target(origin, QSizeF(inRaster.size()));
     mPainter.drawImage(inToDevice.inverted().mapRect(target), inRaster);
   }
-  mPainter.setRenderHints(hints);
 }
 
 SupplierInterface* QtDrawbot::GetSupplier() const {

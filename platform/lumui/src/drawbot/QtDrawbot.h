@@ -61,8 +61,12 @@ class QtDrawbot : public Drawbot {
   struct State {
     QTransform transform;
     Rect clip;
+    bool isSmooth = true;
   };
 
+  // Whether edges between pixels are smoothed, which the painter is told when it is another than
+  // before: what fills whole pixels is the same without, and much is drawn so.
+  void SetSmooth(bool inSmooth);
   void NarrowClip(const Rect& inLocalBounds);
   // inTint may be null.
   void DrawRaster(const ImageInterface& inImage, const Rect& inRect, const ColorRGBA* inTint,
@@ -70,7 +74,6 @@ class QtDrawbot : public Drawbot {
   void DrawPixels(const QImage& inRaster, const QRectF& inDevice, const QTransform& inToDevice);
 
   QPainter& mPainter;
-  const bool mHasWholeUnits;   // a unit at construction is a number of whole pixels
   std::vector<State> mStates;  // the current one is the last
 };
 
