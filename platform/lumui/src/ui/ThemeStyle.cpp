@@ -3,6 +3,7 @@
 
 #include "ui/ThemeStyle.h"
 
+#include <QDockWidget>
 #include <QGroupBox>
 #include <QPainter>
 #include <QPainterPath>
@@ -313,6 +314,15 @@ void ThemeStyle::drawComplexControl(ComplexControl inControl, const QStyleOption
     default:
       QProxyStyle::drawComplexControl(inControl, inOption, inPainter, inWidget);
   }
+}
+
+// A dock makes these for a title bar of Qt's. Ours have another, and loading the two takes as long
+// as making the dock.
+QIcon ThemeStyle::standardIcon(StandardPixmap inIcon, const QStyleOption* inOption,
+                               const QWidget* inWidget) const {
+  const bool isOfTitleBar = inIcon == SP_TitleBarNormalButton || inIcon == SP_TitleBarCloseButton;
+  if (isOfTitleBar && qobject_cast<const QDockWidget*>(inWidget)) return QIcon();
+  return QProxyStyle::standardIcon(inIcon, inOption, inWidget);
 }
 
 void ThemeStyle::DrawArrow(PrimitiveElement inArrow, const QRect& inRect, bool inEnabled,

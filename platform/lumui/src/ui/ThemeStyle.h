@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QColor>
+#include <QIcon>
 #include <QProxyStyle>
 
 #include "lumui/ui/ThemeColors.h"
@@ -22,6 +23,8 @@ class ThemeStyle final : public QProxyStyle {
   ThemeStyle();
 
   void drawPrimitive(PrimitiveElement inElement, const QStyleOption* inOption, QPainter* inPainter,
+                     const QWidget* inWidget) const override;
+  QIcon standardIcon(StandardPixmap inIcon, const QStyleOption* inOption,
                      const QWidget* inWidget) const override;
   void drawControl(ControlElement inElement, const QStyleOption* inOption, QPainter* inPainter,
                    const QWidget* inWidget) const override;
