@@ -47,6 +47,12 @@ class OutlineFileDialog final : public vek::sharedui::CommonFileDialog {
                                        : "$$$/outliner/OwnFileDialog/Save=Save"),
                          &inFolder, &inFile, inArgs.owner),
         mArgs(inArgs) {
+    // The list leaves out no file, and what is an outline shows when it is opened.
+    const auto type = GetNodeForID("FileTypeCombo");
+    if (auto* const combo = dynamic_cast<lumui::controls::UI_Popup_Combo*>(type.get())) {
+      combo->SetItems({Localized("$$$/outliner/Files/All=All files")});
+      combo->SetValue(0);
+    }
     if (inArgs.kind == FileDialogArgs::kOpen) return;
     const auto name = GetNodeForID("FilenameCombo");
     if (auto* const combo = dynamic_cast<lumui::controls::UI_Popup_Combo*>(name.get()))
