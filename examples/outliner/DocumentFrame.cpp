@@ -23,7 +23,7 @@ using vek::app::DocStatusMessage;
 
 namespace {
 
-constexpr float kHintSize = 14;
+constexpr float kHintSize = 12;  // of the rows, so that no other font is read at the start
 constexpr float kHintTop = 60;
 
 }  // namespace

@@ -24,7 +24,6 @@ namespace {
 constexpr float kMargin = 10;
 constexpr float kTitleHeight = 30;
 constexpr float kTitleSize = 13;
-constexpr float kNoteSize = 13;
 
 }  // namespace
 
@@ -34,7 +33,6 @@ NotesView::NotesView(OutlineDocument* inDocument)
           [this](Message* inMessage) { Edited(*inMessage); })) {
   mField->UI_SetNodeID("note");
   mField->UI_SetToolTip(Localized("$$$/outliner/Notes/Field=Note of the selected row"));
-  mField->SetFontSize(kNoteSize);
   mField->NotifyWhenChangedInteractively(mEdited);
   UI_AddChild(mField);
   vek::app::DocumentApplication::GetDocStatusNotifier().AddListener(
