@@ -6,7 +6,7 @@
 #include <string>
 
 #include "hosts/OutlineListHost.h"
-#include "lumcore/config/ThrowError.h"
+#include "hosts/Refusal.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_TextEdit.h"
 #include "lumui/testing/Menus.h"
@@ -16,7 +16,6 @@
 #include "outliner/RowEditor.h"
 #include "vek/trackview/PlatformView.h"
 #include "vek/trackview/TrackView.h"
-#include "vek/undo/MultiUndoerHooks.h"
 
 namespace {
 
@@ -201,24 +200,11 @@ TEST(OutlineList, TakesTextAndOutlinesOfOtherPrograms) {
   EXPECT_EQ(host.Show(), "a [b] c");
 }
 
-// Refuses whatever is posted.
-class Refusal : public vek::undo::MultiUndoerHooks {
- public:
-  void WillPostDeed(vek::undo::Deed*) override {
-    throw lumcore::config::Error(ToUTF16("no deed today"));
-  }
-  void DidPostDeed(vek::undo::Deed*) override {}
-  void WillUndoDeed(vek::undo::Deed*) override {}
-  void DidUndoDeed(vek::undo::Deed*) override {}
-  void WillRedoDeed(vek::undo::Deed*) override {}
-  void DidRedoDeed(vek::undo::Deed*) override {}
-};
-
 TEST(OutlineList, ACommitThatFailsLeavesTheTextInItsField) {
   Host host("a b");
   host.Keys("Down");
   host.Type("xy");
-  Refusal refusal;
+  tests::Refusal refusal;
   host.GetDocument().GetUndoer().SetHooks(&refusal);
   host.Keys("Return");
   EXPECT_NE(host.TakeMessages().find("no deed today"), std::string::npos);

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "hosts/OutlineText.h"
+#include "hosts/Refusal.h"
 #include "hosts/RunningOutliner.h"
-#include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/controls/UI_StaticText.h"
 #include "lumui/controls/UI_TextButton.h"
@@ -18,7 +18,6 @@
 #include "outliner/OpmlWriter.h"
 #include "outliner/OutlineEdits.h"
 #include "vek/undo/Deed.h"
-#include "vek/undo/MultiUndoerHooks.h"
 
 namespace {
 
@@ -157,21 +156,8 @@ TEST_F(Properties, AreNeverLostHoweverTheFieldIsLeft) {
   }
 }
 
-// Refuses whatever is posted.
-class NoDeeds : public vek::undo::MultiUndoerHooks {
- public:
-  void WillPostDeed(vek::undo::Deed*) override {
-    throw lumcore::config::Error(ToUTF16("no deed today"));
-  }
-  void DidPostDeed(vek::undo::Deed*) override {}
-  void WillUndoDeed(vek::undo::Deed*) override {}
-  void DidUndoDeed(vek::undo::Deed*) override {}
-  void WillRedoDeed(vek::undo::Deed*) override {}
-  void DidRedoDeed(vek::undo::Deed*) override {}
-};
-
 TEST_F(Properties, StayInTheirFieldWhereACommitFailsAndGoOutWithTheNextSave) {
-  NoDeeds refusal;
+  tests::Refusal refusal;
   auto& undoer = mHost.GetDocument().GetUndoer();
   Focus("weight");
   mHost.Type("9");

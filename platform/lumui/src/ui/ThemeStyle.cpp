@@ -316,8 +316,7 @@ void ThemeStyle::drawComplexControl(ComplexControl inControl, const QStyleOption
   }
 }
 
-// A dock makes these for a title bar of Qt's. Ours have another, and loading the two takes as long
-// as making the dock.
+// A dock makes these for a title bar of Qt's. Ours have another, so nobody sees them.
 QIcon ThemeStyle::standardIcon(StandardPixmap inIcon, const QStyleOption* inOption,
                                const QWidget* inWidget) const {
   const bool isOfTitleBar = inIcon == SP_TitleBarNormalButton || inIcon == SP_TitleBarCloseButton;
