@@ -59,9 +59,8 @@ int main(int argc, char** argv) {
   const outliner::ProgramTexts texts(argc, argv);
   FirstPaint paint;
   qApp->installEventFilter(&paint);
-  outliner::OutlinerApp app({outliner::FindCommandFiles(), "", argv[1]});
+  outliner::OutlinerApp app({outliner::FindCommandFiles(), "", argv[1], true});
   app.Start();
-  app.NewOutline();
   application.PumpPendingEvents();
   if (argc < 3) ::_exit(paint.WasSeen() ? 0 : 1);
   qApp->removeEventFilter(&paint);

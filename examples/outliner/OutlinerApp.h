@@ -46,6 +46,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
     CommandFiles files;
     std::string keys;            // a user's key map; empty for none
     std::string settingsFolder;  // empty for the system's place for the user's settings
+    bool beginsOutline = false;  // starts with a new outline, which the first painting shows
   };
 
   explicit OutlinerApp(const Options& inOptions);

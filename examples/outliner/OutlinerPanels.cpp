@@ -197,6 +197,7 @@ void OutlinerApp::ApplyDefaultWorkspace() {
     vek::uisupport::ReportError(error.GetText(), 0, true);
     GetWorkspace()->OpenTab(OutlinePanel());
   }
+  if (mOptions.beginsOutline) NewOutline();
 }
 
 // What cannot be written must not keep the program from ending. It is tried once more when the

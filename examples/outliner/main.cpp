@@ -116,7 +116,7 @@ int RunEditor(lumui::ui::Application& ioApplication, const Options& inOptions,
   }
   std::optional<StScratchFolder> scratch;
   outliner::OutlinerApp::Options options{outliner::FindCommandFiles(), inOptions.keys,
-                                         inOptions.settings};
+                                         inOptions.settings, !isScript && inOptions.files.empty()};
   // A script neither finds what the user has set nor changes it.
   if (isScript && options.settingsFolder.empty())
     options.settingsFolder = scratch.emplace().GetPath();

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "hosts/RunningOutliner.h"
@@ -250,6 +253,34 @@ TEST(Settings, OfADefectiveFileAreKeptAndThoseOfAFailedStartAsWell) {
   }
   EXPECT_EQ(ToStdString(folder.GetFile("settings/AppPrefs.defective-2.xml").ReadAll()), "<more>");
   EXPECT_NE(ToStdString(file.ReadAll()).find("App.RecentFiles"), std::string::npos);
+}
+
+// Notes, when a window is painted for the first time, whether the program has a document by then.
+class FirstPainting : public QObject {
+ public:
+  explicit FirstPainting(const outliner::OutlinerApp& inApp) : mApp(inApp) {
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+  bool eventFilter(QObject* inObject, QEvent* inEvent) override {
+    if (inEvent->type() == QEvent::Paint && inObject->isWidgetType() && !mHadDocument)
+      mHadDocument = mApp.HasOpenDocument();
+    return false;
+  }
+  std::optional<bool> mHadDocument;
+
+ private:
+  const outliner::OutlinerApp& mApp;
+};
+
+TEST(NewOutlines, OfAStartWithoutFilesAreThereBeforeTheFirstPainting) {
+  TemporaryFolder folder;
+  outliner::OutlinerApp app({outliner::FindCommandFiles(), "", folder.GetPath("settings"), true});
+  const FirstPainting painting(app);
+  app.Start();
+  EXPECT_EQ(painting.mHadDocument, true);
+  EXPECT_EQ(ToStdString(app.FindMainWindow()->UI_GetTitle()), "Untitled — outliner");
+  app.End();
+  lumui::ui::Application::Get()->CancelQuit();
 }
 
 }  // namespace

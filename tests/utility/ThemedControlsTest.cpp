@@ -8,11 +8,15 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QStyle>
 #include <QTabBar>
+#include <QToolButton>
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string>
 
@@ -135,6 +139,46 @@ TEST_F(ThemedControls, FollowTheThemeAtEachPositionAndGoBackWithoutOne) {
   EXPECT_EQ(Picture(), before);
   EXPECT_EQ(mMenu.palette(), menuBefore);
   EXPECT_EQ(QApplication::style()->name(), QStringLiteral("fusion"));
+}
+
+// As it counts for what can be read.
+double Luminance(const QColor& inColor) {
+  const auto part = [](double inPart) {
+    return inPart <= 0.03928 ? inPart / 12.92 : std::pow((inPart + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(inColor.redF()) + 0.7152 * part(inColor.greenF()) +
+         0.0722 * part(inColor.blueF());
+}
+
+// Of the ink that stands out most from the ground in the corner.
+double GreatestContrast(const QImage& inPicture) {
+  const double ground = Luminance(inPicture.pixelColor(1, 1)) + 0.05;
+  double greatest = 1.0;
+  for (int y = 0; y < inPicture.height(); ++y) {
+    for (int x = 0; x < inPicture.width(); ++x) {
+      const double ink = Luminance(inPicture.pixelColor(x, y)) + 0.05;
+      greatest = std::max({greatest, ink / ground, ground / ink});
+    }
+  }
+  return greatest;
+}
+
+TEST_F(ThemedControls, TheButtonForMenusThatHaveNoRoomIsSeenOnEachGround) {
+  Theme::Initialize(new KeyframeThemeEditor(385, 3, 1));
+  Load("LUMColorThemesV5");
+  QMenuBar bar(&mWindow);
+  for (int menu = 0; menu < 5; ++menu)
+    bar.addMenu(QStringLiteral("menu"));
+  bar.setGeometry(0, 0, 120, 24);
+  Picture();
+  auto* const more = bar.findChild<QToolButton*>();
+  ASSERT_TRUE(more && more->isVisibleTo(&bar));
+  for (const float position : {0.0f, 0.5f, 0.5001f, 1.0f}) {
+    Theme::SetBrightness(position);
+    Theme::NotifyThemeChanged();
+    lumui::ui::Application::Get()->PumpPendingEvents();
+    EXPECT_GE(GreatestContrast(more->grab().toImage()), 3.0) << "at " << position;
+  }
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <type_traits>
 #include <vector>
@@ -74,42 +73,42 @@ UTF16String MapCase(const UTF16String& inText, Map inMap) {
   return result;
 }
 
-// How many bytes at the front are ASCII, in whole machine words as far as there are any.
-std::size_t CountASCII(std::string_view inBytes) {
-  constexpr std::uint64_t kHighBits = 0x8080808080808080u;
-  std::size_t at = 0;
-  for (std::uint64_t word; at + sizeof word <= inBytes.size(); at += sizeof word) {
-    std::memcpy(&word, inBytes.data() + at, sizeof word);
-    if (word & kHighBits) break;
-  }
-  while (at < inBytes.size() && static_cast<unsigned char>(inBytes[at]) < 0x80)
-    ++at;
-  return at;
-}
-
 bool IsDigit(unsigned short inUnit) {
   return inUnit >= '0' && inUnit <= '9';
 }
 
-// A text that grows by pieces is not filled with zeroes first.
-void AppendASCII(std::string_view inText, UTF16String& ioText) {
+// Appends what is ASCII at the front and says how much that is. A text that grows by pieces is not
+// filled with zeroes first.
+std::size_t AppendASCII(std::string_view inText, UTF16String& ioText) {
   constexpr std::size_t kPiece = 64;
   unsigned short piece[kPiece];
   if (inText.size() > kPiece) ioText.reserve(ioText.size() + inText.size());
-  while (!inText.empty()) {
-    const std::size_t count = std::min(kPiece, inText.size());
-    std::copy_n(inText.data(), count, piece);
+  std::size_t at = 0;
+  while (at < inText.size()) {
+    const std::string_view bytes = inText.substr(at, kPiece);
+    // Without a way out, so that the machine takes many at a time.
+    unsigned any = 0;
+    for (std::size_t unit = 0; unit < bytes.size(); ++unit) {
+      piece[unit] = static_cast<unsigned char>(bytes[unit]);
+      any |= piece[unit];
+    }
+    std::size_t count = bytes.size();
+    if (any >= 0x80) {
+      const auto isOther = [](unsigned short inUnit) { return inUnit >= 0x80; };
+      count = static_cast<std::size_t>(std::find_if(piece, piece + count, isOther) - piece);
+    }
     ioText.append(piece, count);
-    inText.remove_prefix(count);
+    at += count;
+    if (count < bytes.size()) break;
   }
+  return at;
 }
 
 }  // namespace
 
 void AppendUTF16(std::string_view inUTF8, UTF16String& ioText) {
   // Most text is ASCII, and for that ICU's general road is long.
-  const std::size_t plain = CountASCII(inUTF8);
-  AppendASCII(inUTF8.substr(0, plain), ioText);
+  const std::size_t plain = AppendASCII(inUTF8, ioText);
   if (plain == inUTF8.size()) return;
   const std::string_view others = inUTF8.substr(plain);
   const std::size_t before = ioText.size();

@@ -39,8 +39,29 @@ bool EntityTable::Declare(std::string_view inName, const std::string_view* inVal
                           bool inIsParameter) {
   const std::string_view value = inValue ? *inValue : std::string_view();
   if (RefersToAny(value) && ++mReferring > kMostReferringEntities) return false;
-  if (!inIsParameter) mValues.emplace(inName, value);
+  if (inIsParameter) return true;
+  for (const std::string_view text : {inName, value}) {
+    mDeclared += text;
+    mDeclared += '\0';
+  }
+  mValues.clear();
   return true;
+}
+
+const std::map<std::string_view, std::string_view>& EntityTable::GetValues() {
+  if (!mValues.empty()) return mValues;
+  std::string_view rest = mDeclared;
+  const auto take = [&rest] {
+    const std::string_view text = rest.substr(0, rest.find('\0'));
+    rest.remove_prefix(text.size() + 1);
+    return text;
+  };
+  while (!rest.empty()) {
+    const std::string_view name = take();
+    // Of several declarations the first counts.
+    mValues.emplace(name, take());
+  }
+  return mValues;
 }
 
 // The recursion is no deeper than Declare allows.
@@ -48,7 +69,7 @@ std::string EntityTable::FindUndeclared(std::string_view inSource) {
   std::size_t at = 0;
   for (std::string_view name; !(name = NextReference(inSource, '&', at)).empty();) {
     if (IsPredefined(name) || mSearched.count(name) != 0) continue;
-    const auto found = mValues.find(name);
+    const auto found = GetValues().find(name);
     if (found == mValues.end()) return std::string(name);
     mSearched.emplace(name);
     std::string inner = FindUndeclared(found->second);

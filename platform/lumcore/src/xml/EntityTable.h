@@ -30,7 +30,12 @@ class EntityTable {
   std::string FindUndeclared(std::string_view inSource);
 
  private:
-  std::map<std::string, std::string, std::less<>> mValues;
+  const std::map<std::string_view, std::string_view>& GetValues();
+
+  // Each name and its value with a zero behind them, which no document can have: few documents ask
+  // for one again.
+  std::string mDeclared;
+  std::map<std::string_view, std::string_view> mValues;  // of mDeclared, once they were asked for
   std::set<std::string, std::less<>> mSearched;
   std::size_t mReferring = 0;
 };

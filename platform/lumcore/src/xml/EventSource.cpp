@@ -29,6 +29,15 @@ void Assign(std::string_view inUTF8, UTF16String& outText) {
   utility::AppendUTF16(inUTF8, outText);
 }
 
+// An element is mostly called as the one before it, and so are its attributes.
+void AssignName(std::string_view inUTF8, UTF16String& ioName) {
+  const auto isSame = [](unsigned short inUnit, char inByte) {
+    return inUnit < 0x80 && inUnit == static_cast<unsigned char>(inByte);
+  };
+  if (!std::equal(ioName.begin(), ioName.end(), inUTF8.begin(), inUTF8.end(), isSame))
+    Assign(inUTF8, ioName);
+}
+
 }  // namespace
 
 // What the parser calls. After a failure some calls still follow; they are no events any more.
@@ -202,7 +211,7 @@ void EventSource::FillAttributes(const char** inAttributes) {
   for (; *inAttributes; inAttributes += 2, ++count) {
     if (count == mAttributes.mEntries.size()) mAttributes.mEntries.emplace_back();
     Attributes::Entry& entry = mAttributes.mEntries[count];
-    Assign(inAttributes[0], entry.first);
+    AssignName(inAttributes[0], entry.first);
     Assign(inAttributes[1], entry.second);
   }
   mAttributes.mCount = count;
@@ -231,14 +240,14 @@ void EventSource::OnStartElement(const char* inName, const char** inAttributes) 
   ++mDepth;
   if (mMayDropEntities) ThrowIfUndeclared(GetEventBytes());
   FillAttributes(inAttributes);
-  Assign(inName, mElementName);
+  AssignName(inName, mElementName);
   mHandler.StartElement(mElementName, mAttributes);
 }
 
 void EventSource::OnEndElement(const char* inName) {
   FlushText();
   --mDepth;
-  Assign(inName, mElementName);
+  AssignName(inName, mElementName);
   mHandler.EndElement(mElementName);
 }
 

@@ -3,7 +3,6 @@
 
 #include "controls/ControlPeer.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 
 #include "lumcore/utility/RefCounted.h"
@@ -48,9 +47,11 @@ void ApplyFontSize(QWidget& ioWidget, float inSize) {
 }
 
 QString PlainLabel(const QString& inText) {
-  static const QRegularExpression sMark(QStringLiteral("&(.)"));
-  QString text = inText;
-  text.replace(sMark, QStringLiteral("\\1"));
+  QString text;
+  for (qsizetype at = 0; at < inText.size(); ++at) {
+    const bool isMark = inText[at] == QLatin1Char('&') && at + 1 < inText.size();
+    text += inText[isMark ? ++at : at];
+  }
   text = text.trimmed();
   if (text.endsWith(QLatin1Char(':'))) text.chop(1);
   return text;

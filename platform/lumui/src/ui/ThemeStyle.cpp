@@ -5,6 +5,7 @@
 
 #include <QDockWidget>
 #include <QGroupBox>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -43,6 +44,41 @@ void DrawBox(QPainter& ioPainter, const QRectF& inRect, const QBrush& inFill,
   ioPainter.drawRoundedRect(inRect.adjusted(inset, inset, -inset, -inset), inRadius, inRadius);
   ioPainter.restore();
 }
+
+// Two angles that say of a bar that more of it is hidden. The pictures that the toolkit has for
+// this stay dark on a dark ground, and the first of them makes it load every reader of pictures.
+class MoreIcon final : public QIconEngine {
+ public:
+  explicit MoreIcon(bool inDownwards) : mDownwards(inDownwards) {}
+
+  QIconEngine* clone() const override { return new MoreIcon(*this); }
+  QPixmap pixmap(const QSize& inSize, QIcon::Mode inMode, QIcon::State inState) override {
+    QPixmap picture(inSize);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, QRect(QPoint(), inSize), inMode, inState);
+    return picture;
+  }
+  void paint(QPainter* inPainter, const QRect& inRect, QIcon::Mode inMode, QIcon::State) override {
+    const qreal side = std::min(inRect.width(), inRect.height());
+    const QColor ink =
+        ThemeColor(inMode == QIcon::Disabled ? kColor_TextDisabled : kColor_TextSecondary);
+    inPainter->save();
+    inPainter->setRenderHint(QPainter::Antialiasing);
+    inPainter->setPen(QPen(ink, 0.13, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    inPainter->translate(QRectF(inRect).center());
+    if (mDownwards) inPainter->rotate(90);
+    inPainter->scale(side, side);
+    for (const qreal tip : {0.0, 0.35}) {
+      const QPointF angle[] = {{tip - 0.2, -0.25}, {tip, 0.0}, {tip - 0.2, 0.25}};
+      inPainter->drawPolyline(angle, 3);
+    }
+    inPainter->restore();
+  }
+
+ private:
+  bool mDownwards;
+};
 
 void DrawButtonPanel(const QStyleOption& inOption, QPainter& ioPainter) {
   const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&inOption);
@@ -316,11 +352,21 @@ void ThemeStyle::drawComplexControl(ComplexControl inControl, const QStyleOption
   }
 }
 
-// A dock makes these for a title bar of Qt's. Ours have another, so nobody sees them.
 QIcon ThemeStyle::standardIcon(StandardPixmap inIcon, const QStyleOption* inOption,
                                const QWidget* inWidget) const {
-  const bool isOfTitleBar = inIcon == SP_TitleBarNormalButton || inIcon == SP_TitleBarCloseButton;
-  if (isOfTitleBar && qobject_cast<const QDockWidget*>(inWidget)) return QIcon();
+  switch (inIcon) {
+    case SP_ToolBarHorizontalExtensionButton:
+      return QIcon(new MoreIcon(false));
+    case SP_ToolBarVerticalExtensionButton:
+      return QIcon(new MoreIcon(true));
+    case SP_TitleBarNormalButton:
+    case SP_TitleBarCloseButton:
+      // A dock makes these for a title bar of Qt's. Ours have another, so nobody sees them.
+      if (qobject_cast<const QDockWidget*>(inWidget)) return QIcon();
+      break;
+    default:
+      break;
+  }
   return QProxyStyle::standardIcon(inIcon, inOption, inWidget);
 }
 
