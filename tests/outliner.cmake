@@ -56,9 +56,11 @@ foreach(tool Xvfb openbox setxkbmap xdotool)
     return()
   endif()
 endforeach()
-add_test(NAME outliner_shortcuts_on_a_display
-  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh
-    ${CMAKE_CURRENT_SOURCE_DIR}/hosts/shortcuts_on_a_display.sh $<TARGET_FILE:vek_outliner>
-    ${CMAKE_CURRENT_BINARY_DIR}/shortcuts_on_a_display)
-set_tests_properties(outliner_shortcuts_on_a_display PROPERTIES
-  ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_SCALE_FACTOR=1" TIMEOUT 60)
+foreach(topic shortcuts signals)
+  add_test(NAME outliner_${topic}_on_a_display
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/with_display.sh
+      ${CMAKE_CURRENT_SOURCE_DIR}/hosts/${topic}_on_a_display.sh $<TARGET_FILE:vek_outliner>
+      ${CMAKE_CURRENT_BINARY_DIR}/${topic}_on_a_display)
+  set_tests_properties(outliner_${topic}_on_a_display PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_SCALE_FACTOR=1" TIMEOUT 60)
+endforeach()

@@ -56,6 +56,9 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   // called in any case. Documents that are open then are closed without a question.
   void Start();
   void End();
+  // Keeps the workspace and the settings now and ends the event loop, without a question, as the
+  // end of a session does.
+  void Quit() { EndEventLoopDuringSessionEnd(); }
 
   // A new outline without a file, which becomes the current one.
   OutlineDocument& NewOutline();

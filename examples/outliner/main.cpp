@@ -1,9 +1,11 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <atomic>
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <random>
 #include <string>
@@ -24,6 +26,8 @@
 #include "lumcore/filesupport/Dir.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/Application.h"
+#include "lumui/ui/Executor.h"
+#include "lumui/ui/UI_NodeManager.h"
 
 namespace {
 
@@ -102,8 +106,18 @@ int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplicatio
     ioApplication.RunGuarded([&] { OpenDocuments(ioApp, one); });
   }
   if (!ioApp.HasOpenDocument()) ioApp.NewOutline();
+  std::atomic<int> signal = 0;
+  // A request that comes in when the loop has ended already has nothing left to do.
+  const auto loop = std::make_shared<bool>(true);
+  const outliner::StStopSignals signals([&ioApp, &signal, loop](int inSignal) {
+    signal = inSignal;
+    lumui::ui::UI_NodeManager::Get(false)->GetExecutor()->Post([&ioApp, loop] {
+      if (*loop) ioApp.Quit();
+    });
+  });
   ioApp.RunEventLoop();
-  return 0;
+  *loop = false;
+  return signal == 0 ? 0 : kExitBySignal + signal;
 }
 
 int RunEditor(lumui::ui::Application& ioApplication, const Options& inOptions,
