@@ -1,6 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
 #include <stdexcept>
 #include <string>
 
@@ -244,6 +247,29 @@ TEST_F(EventGate, WindowsMayGoInTheMiddleOfTheirOwnEvent) {
   // The nodes stay, and the key types nothing into them.
   EXPECT_EQ(TakeLog(), "pre256 b:down(80000046) b:blur0 pre2 post2 post256");
   EXPECT_EQ(mWindow->UI_GetHandle(), nullptr);
+}
+
+// The press is under way while the queue is pumped: what it has destroyed goes when it is over.
+TEST_F(EventGate, PumpingLeavesWhatTheRunningEventStillUses) {
+  mB->mOnMouse = [this](const ui::MouseEvent& inEvent) {
+    if (inEvent.GetAction() != ui::PointerEvent::kActionPress) return;
+    mWindow->UI_DestroyWindow();
+    App().PumpPendingEvents();
+  };
+  for (const auto button : {ui::PointerEvent::kLeftButton, ui::PointerEvent::kRightButton}) {
+    const QPointer<QWidget> widget = QApplication::activeWindow();
+    ASSERT_NE(widget, nullptr);
+    input::PressMouse(*mWindow, Point(20, 20), button);
+    EXPECT_EQ(mWindow->UI_GetHandle(), nullptr);
+    App().PumpPendingEvents();
+    EXPECT_EQ(widget, nullptr);
+    const lumcore::geom::RectT<int> rect(40, 30, 200, 100);
+    mWindow->UI_ConstructWindow(&rect);
+    mWindow->UI_Show(true);
+    input::ActivateWindow(mWindow.get());
+    App().PumpPendingEvents();
+    input::ReleaseMouse(*mWindow, Point(199, 99), button);
+  }
 }
 
 TEST_F(EventGate, PrePointerEventsComeBeforeThePressAndMaySwallowIt) {

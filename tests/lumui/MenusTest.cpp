@@ -190,6 +190,25 @@ TEST_F(Menus, MenusMayGoWhileTheyAreOpen) {
   EXPECT_FALSE(OS_Menu::IsMenu(mBar) || OS_Menu::IsMenu(mEdit));
 }
 
+TEST_F(Menus, CommandsMayPumpBehindTheEndOfTheirMenu) {
+  const auto onCommand = [this](const std::function<void()>& inDestroy) {
+    sOnMessage = [this, inDestroy](const ui::OS_Event& inEvent) {
+      if (inEvent.message != ui::kMessageCommand) return;
+      inDestroy();
+      App().PumpPendingEvents();
+    };
+  };
+  onCommand([this] { OS_Menu::Destroy(mRecent); });
+  input::ChooseMenuItem(*mWindow, {U16("File"), U16("Recent"), U16("First")});
+  EXPECT_FALSE(OS_Menu::IsMenu(mRecent));
+  onCommand([this] { OS_Menu::RemoveItem(mFile, 0); });
+  input::ChooseMenuItem(*mWindow, {U16("File"), U16("Open")});
+  EXPECT_EQ(Shown(mFile), "--- | Recent");
+  onCommand([this] { mWindow->UI_DestroyWindow(); });
+  input::ChooseMenuItem(*mWindow, {U16("Edit"), U16("Wrap & Fill")});
+  EXPECT_FALSE(OS_Menu::IsMenu(mBar) || OS_Menu::IsMenu(mEdit));
+}
+
 TEST_F(Menus, TrackedMenusAnswerAndSendNothing) {
   const HMENU menu = OS_Menu::Create(true);
   OS_Menu::InsertItem(menu, 0, 0, 70000, U16("Big"));

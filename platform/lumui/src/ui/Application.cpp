@@ -26,6 +26,12 @@ Application* sApplication = nullptr;
 
 }  // namespace
 
+// Without a loop of Qt's own nobody else deletes what was let go outside an event. In an event it
+// may be what this very event is handled by; then it goes when the event is over.
+void Application::Impl::DeleteLetGo() const {
+  if (!gate->IsInEvent()) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 Application::Application(int& ioArgumentCount, char** ioArguments)
     : mImpl(std::make_unique<Impl>()) {
   LUM_INPUT_CONTRACT(sApplication == nullptr);
@@ -91,8 +97,7 @@ int Application::Run() {
   while (!IsQuitting()) {
     QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
     const bool any = dispatcher->processEvents(QEventLoop::AllEvents);
-    // Without a loop of Qt's own nobody else deletes what was let go outside an event.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    mImpl->DeleteLetGo();
     if (any || IsQuitting()) continue;
     const std::function<void()> idle = mImpl->idle;
     if (idle) RunGuarded(idle);
@@ -126,7 +131,7 @@ void Application::PumpPendingEvents() {
   QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
   while (dispatcher->processEvents(QEventLoop::AllEvents)) {
   }
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  mImpl->DeleteLetGo();
 }
 
 bool Application::RunGuarded(const std::function<void()>& inFunction) {

@@ -15,6 +15,8 @@ namespace lumui::ui {
 
 class Application::Impl {
  public:
+  void DeleteLetGo() const;
+
   std::unique_ptr<EventGate> gate;
   UI_NodeManager* manager = nullptr;  // owned; only the application may delete it
   std::function<void()> idle;
