@@ -1,6 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
 #include <atomic>
 #include <memory>
 #include <stdexcept>
@@ -57,6 +60,26 @@ TEST_F(EventLoop, ReportsWhatIdleWorkThrowsAndGoesOn) {
   });
   App().Run();
   EXPECT_EQ(TakeErrors(), "idle | idle");
+}
+
+TEST_F(EventLoop, LetsGoOfWhatEventsAndIdleWorkHaveDestroyed) {
+  const auto first = MakeWindow();
+  const auto second = MakeWindow();
+  std::vector<QPointer<QWidget>> widgets;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->isVisible()) widgets.emplace_back(widget);
+  }
+  ASSERT_EQ(widgets.size(), 2u);
+  Manager().GetExecutor()->Post([&] { first->UI_DestroyWindow(); });
+  App().SetIdleFunction([&] {
+    EXPECT_NE(widgets[0] == nullptr, widgets[1] == nullptr) << "the first has gone";
+    second->UI_DestroyWindow();
+    App().SetIdleFunction([this] { App().Quit(); });
+    // One more time idle.
+    Manager().GetExecutor()->Post([] {});
+  });
+  App().Run();
+  EXPECT_TRUE(widgets[0] == nullptr && widgets[1] == nullptr);
 }
 
 TEST_F(EventLoop, QuitFromAnotherThreadWakesALoopThatWaits) {

@@ -1,7 +1,9 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -139,6 +141,24 @@ TEST_F(Window, TellsActivationOnceAndNotAfterTheFunctionIsCleared) {
   input::ActivateWindow(nullptr);
   App().PumpPendingEvents();
   EXPECT_EQ(TakeLog(), "");
+}
+
+TEST_F(Window, MayGoAsTheApplicationIsLeft) {
+  const auto back = MakeWindow();
+  const auto front = MakeWindow();
+  const QPointer<QWidget> widget = QApplication::activeWindow();
+  const auto function = boost::shared_ptr<boost::function<void(bool)>>(
+      new boost::function<void(bool)>([&](bool inActive) {
+        if (inActive) return;
+        front->UI_DestroyWindow();
+        App().PumpPendingEvents();
+      }));
+  Manager().InstallApplicationActivationChangedFunction(function);
+  input::ActivateWindow(nullptr);
+  EXPECT_EQ(front->UI_GetHandle(), nullptr);
+  App().PumpPendingEvents();
+  EXPECT_EQ(widget, nullptr);
+  function->clear();
 }
 
 TEST_F(Window, TabWalksTheNodesThatWantTheFocusInTreeOrder) {

@@ -18,7 +18,6 @@
 #include "datatransfer/DragWatch.h"
 #include "datatransfer/HeadlessDrag.h"
 #include "drawbot/QtConvert.h"
-#include "lumcore/config/ErrorManager.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
 #include "lumcore/utility/ScopedValue.h"
@@ -352,44 +351,6 @@ void EventGate::CancelDrag() {
 
 void EventGate::TellDisplayChange() {
   ForEachWindow([](OS_Window& inWindow) { inWindow.UI_SendMessage(kMessageDisplayChange, 0, 0); });
-}
-
-bool EventGate::RunGuarded(const std::function<void()>& inFunction) {
-  try {
-    inFunction();
-    return true;
-  } catch (...) {
-    ReportError(std::current_exception());
-    return false;
-  }
-}
-
-void EventGate::ReportError(const std::exception_ptr& inError) {
-  if (!mErrorFunction) return lumcore::config::ErrorManager::Get(false)->ReportError(inError);
-  lumcore::config::ErrorManager::ReportThrough(mErrorFunction, inError);
-}
-
-bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch) {
-  const OS_Event asItCame = ioEvent;
-  const Application::PreEventStep pre = mPreStep;
-  bool goOn = true;
-  if (pre) RunGuarded([&] { goOn = pre(ioEvent); });
-  if (!goOn) return false;
-  inDispatch();
-  const Application::PostEventStep post = mPostStep;
-  // As it came: whoever handled it may have written into it.
-  if (post) RunGuarded([&] { post(asItCame); });
-  return true;
-}
-
-void EventGate::PassToWindow(OS_Event& ioEvent) {
-  Pass(ioEvent, [&] {
-    OS_Window* const window = OS_Window::UI_GetWindow(ioEvent.window);
-    const OSEventFunction function = window ? window->UI_GetEventFunction() : nullptr;
-    if (!function) return;
-    const lumcore::utility::StKeepAlive keepAlive(*window);
-    RunGuarded([&] { function(&ioEvent); });
-  });
 }
 
 // A box that nobody can answer would hold the process for ever.

@@ -45,7 +45,8 @@ class LUMUI_API EventGate : public QApplication {
 
   bool notify(QObject* inReceiver, QEvent* inEvent) override;
 
-  // False if the function threw; the error function has it then.
+  // In an event, its own where none is under way. False if the function threw; the error function
+  // has it then.
   bool RunGuarded(const std::function<void()>& inFunction);
   // Pre step, dispatch, post step; false if the pre step consumed the event.
   bool Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch);
@@ -121,6 +122,7 @@ class LUMUI_API EventGate : public QApplication {
   void SessionGoesOn();
   bool HandToQt(QObject& inReceiver, QEvent& inEvent, const OS_Event& inOSEvent);
   void RejectModal(QWidget& inWidget);
+  bool CallGuarded(const std::function<void()>& inFunction);
   void ReportError(const std::exception_ptr& inError);
   void TellDisplayChange();
 
