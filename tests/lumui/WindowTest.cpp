@@ -127,6 +127,24 @@ TEST_F(Window, OneRefusalKeepsTheSessionGoing) {
   EXPECT_EQ(App().Run(), 0);
 }
 
+TEST_F(Window, StepsCannotTakeWhatComesThroughNoQueue) {
+  const auto window = MakeWindow(&RecordMessage);
+  App().SetEventSteps(
+      [this](const ui::OS_Event& inEvent) {
+        Log("pre" + std::to_string(inEvent.message));
+        return false;
+      },
+      [this](const ui::OS_Event& inEvent) { Log("post" + std::to_string(inEvent.message)); });
+  EXPECT_FALSE(input::EndSession());
+  EXPECT_EQ(Messages(), "17 22(0)");
+  window->UI_SendMessage(ui::kMessageDisplayChange, 0, 0);
+  window->UI_SendMessage(ui::kMessageInitMenuPopup, 0, 0);
+  window->UI_SendMessage(ui::kMessageCommand, 1, 0);
+  window->UI_DestroyWindow();
+  EXPECT_EQ(Messages(), "126 279 2");
+  EXPECT_EQ(TakeLog(), "pre17 post17 pre22 post22 pre126 post126 pre279 post279 pre273 pre2 post2");
+}
+
 TEST_F(Window, TellsActivationOnceAndNotAfterTheFunctionIsCleared) {
   const auto function = boost::shared_ptr<boost::function<void(bool)>>(
       new boost::function<void(bool)>([this](bool inActive) { Log(inActive ? "front" : "back"); }));

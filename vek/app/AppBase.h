@@ -165,7 +165,7 @@ class VEK_API AppBase {
   // A full path; empty by default.
   virtual lumcore::UTF16String GetAppPrefsDir();
   virtual void DoIdle();
-  // False consumes the event.
+  // False consumes the event, but for those that lumui::ui::Application::PreEventStep names.
   virtual bool DoPreEventProcessing(const lumui::ui::OS_Event& inEvent);
   virtual void DoPostEventProcessing(const lumui::ui::OS_Event& inEvent);
   virtual lumcore::UTF16String GetAppSettingsFileName() const;

@@ -30,6 +30,13 @@ class Caller : public QObject {
   std::function<void()> mFunction;
 };
 
+// No queue brings these: who sends them waits for their answer, or tells what has happened already.
+bool IsSentPastTheQueue(unsigned inMessage) {
+  return inMessage == kMessageDestroy || inMessage == kMessageQueryEndSession ||
+         inMessage == kMessageEndSession || inMessage == kMessageDisplayChange ||
+         inMessage == kMessageInitMenuPopup;
+}
+
 }  // namespace
 
 // Qt also calls from outside an event, and goes on with what it has called for: a window, say,
@@ -64,7 +71,7 @@ bool EventGate::Pass(OS_Event& ioEvent, const std::function<void()>& inDispatch)
   const Application::PreEventStep pre = mPreStep;
   bool goOn = true;
   if (pre) RunGuarded([&] { goOn = pre(ioEvent); });
-  if (!goOn) return false;
+  if (!goOn && !IsSentPastTheQueue(asItCame.message)) return false;
   inDispatch();
   const Application::PostEventStep post = mPostStep;
   // As it came: whoever handled it may have written into it.

@@ -31,7 +31,9 @@ struct ForeignPress {
 // made it.
 class LUMUI_API Application {
  public:
-  // False consumes the event: it is not dispatched and the post step is not called.
+  // False consumes the event: it is not dispatched and the post step is not called. What does not
+  // come through the queue is dispatched all the same: kMessageDestroy, kMessageQueryEndSession,
+  // kMessageEndSession, kMessageDisplayChange and kMessageInitMenuPopup.
   using PreEventStep = std::function<bool(const OS_Event&)>;
   using PostEventStep = std::function<void(const OS_Event&)>;
   using ErrorFunction = std::function<void(const std::exception_ptr&)>;

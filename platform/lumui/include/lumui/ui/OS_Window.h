@@ -84,7 +84,8 @@ class LUMUI_API OS_Window : public UI_Node {
   OSEventFunction UI_GetEventFunction() const { return mEventFunction; }
   void UI_SetEventFunction(OSEventFunction inFunction) { mEventFunction = inFunction; }
   // Passes a message through the gate to the event function, as the system would; returns its
-  // result. The gate's first step may consume it: the result then is the one it started with.
+  // result. The gate's first step may consume it, where it can (see Application::PreEventStep): the
+  // result then is the one it started with.
   LRESULT UI_SendMessage(unsigned inMessage, WPARAM inWParam, LPARAM inLParam);
 
   // Writes what the window shows as a PNG file; throws lumcore::config::Error with the path.
