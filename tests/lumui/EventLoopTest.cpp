@@ -91,6 +91,35 @@ TEST_F(EventLoop, QuitFromAnotherThreadWakesALoopThatWaits) {
   other.join();
 }
 
+TEST_F(EventLoop, QuitComesBehindWhatWasPostedBeforeIt) {
+  ui::Executor* const executor = Manager().GetExecutor();
+  std::function<void()> again = [&] {
+    Log("again");
+    executor->Post(again);
+  };
+  executor->Post([&] {
+    executor->Post([&] { Log("nested"); });
+    executor->Post(again);
+    App().Quit(4);
+  });
+  EXPECT_EQ(App().Run(), 4);
+  EXPECT_EQ(TakeLog(), "nested again");
+  again = [&] { Log("last"); };
+  App().PumpPendingEvents();
+  EXPECT_EQ(TakeLog(), "again last");
+  App().SetIdleFunction([&] {
+    executor->Post([&] { Log("idle"); });
+    App().Quit(5);
+  });
+  EXPECT_EQ(App().Run(), 5);
+  EXPECT_EQ(TakeLog(), "idle");
+  // What runs so late may think better of it.
+  executor->Post([&] { App().CancelQuit(); });
+  App().Quit(6);
+  EXPECT_EQ(App().Run(), 5);
+  EXPECT_EQ(TakeLog(), "idle");
+}
+
 // Each thread's functions in its order, each once, none on a foreign thread.
 TEST_F(EventLoop, ExecutorKeepsTheOrderOfEveryThread) {
   constexpr int kThreads = 8;

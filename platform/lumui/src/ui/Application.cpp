@@ -11,6 +11,7 @@
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/ScopedValue.h"
+#include "lumui/ui/Executor.h"
 #include "lumui/ui/ModuleInfo.h"
 #include "ui/ApplicationImpl.h"
 #include "ui/EventGate.h"
@@ -91,20 +92,27 @@ void Application::SetForeignPressHook(std::function<bool(const ForeignPress&)> i
   mImpl->gate->mForeignPressHook = std::move(inHook);
 }
 
+void Application::Impl::Turn() {
+  QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
+  const bool any = dispatcher->processEvents(QEventLoop::AllEvents);
+  DeleteLetGo();
+  if (any || quitting) return;
+  const std::function<void()> function = idle;
+  if (function) gate->RunGuarded(function);
+  if (quitting) return;
+  dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
 int Application::Run() {
   LUM_INPUT_CONTRACT(!mImpl->running);
   const lumcore::utility::StScopedValue<bool> running(mImpl->running, true);
-  while (!IsQuitting()) {
-    QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance();
-    const bool any = dispatcher->processEvents(QEventLoop::AllEvents);
+  do {
+    while (!IsQuitting())
+      mImpl->Turn();
+    // A quit comes behind what was posted before it, which may take it back.
+    mImpl->manager->GetExecutor()->RunPosted();
     mImpl->DeleteLetGo();
-    if (any || IsQuitting()) continue;
-    const std::function<void()> idle = mImpl->idle;
-    if (idle) RunGuarded(idle);
-    if (!IsQuitting()) {
-      dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
-    }
-  }
+  } while (!IsQuitting());
   mImpl->quitting = false;
   return mImpl->exitCode;
 }

@@ -15,6 +15,8 @@ namespace lumui::ui {
 
 class Application::Impl {
  public:
+  // What is in the queue; if that is nothing, idle work and then a wait.
+  void Turn();
   void DeleteLetGo() const;
 
   std::unique_ptr<EventGate> gate;

@@ -41,6 +41,19 @@ class Executor::Impl : public QObject {
       QCoreApplication::postEvent(this, new QEvent(TurnEvent()));
   }
 
+  // The turns that were posted for them find others, or none.
+  void RunPosted() {
+    std::size_t count = 0;
+    {
+      const std::lock_guard<std::mutex> lock(mMutex);
+      count = mQueue.size();
+    }
+    for (; count > 0 && !mIsHeld; --count) {
+      QEvent turn(TurnEvent());
+      QCoreApplication::sendEvent(this, &turn);
+    }
+  }
+
   bool event(QEvent* inEvent) override {
     if (inEvent->type() != TurnEvent()) return QObject::event(inEvent);
     if (mIsHeld) {
@@ -50,6 +63,7 @@ class Executor::Impl : public QObject {
     std::function<void()> function;
     {
       const std::lock_guard<std::mutex> lock(mMutex);
+      if (mQueue.empty()) return true;  // RunPosted has been here
       function = std::move(mQueue.front());
       mQueue.pop_front();
     }
@@ -74,6 +88,10 @@ void Executor::Post(std::function<void()> inFunction) {
 
 void Executor::SetHeld(bool inHeld) {
   mImpl->SetHeld(inHeld);
+}
+
+void Executor::RunPosted() {
+  mImpl->RunPosted();
 }
 
 }  // namespace lumui::ui

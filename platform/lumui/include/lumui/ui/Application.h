@@ -62,8 +62,9 @@ class LUMUI_API Application {
   // Asked before the window gets the press; true keeps it from the window.
   void SetForeignPressHook(std::function<bool(const ForeignPress&)> inHook);
 
-  // Runs until Quit and returns its code. A Quit from before the call ends it at once. Not
-  // re-entrant (a contract).
+  // Runs until Quit and returns its code. What the executor holds then runs first, but not what
+  // that posts in turn. A Quit from before the call ends it at once in this way. Not re-entrant (a
+  // contract).
   int Run();
   void Quit(int inCode = 0);  // from any thread
   bool IsQuitting() const;

@@ -26,6 +26,9 @@ class LUMUI_API Executor {
   // On the thread of the user interface: while they are held, no function runs; the turns that were
   // due come afterwards.
   void SetHeld(bool inHeld);
+  // On the thread of the user interface: runs at once what is posted now, unless it is held. What
+  // that posts waits for its turn.
+  void RunPosted();
 
  private:
   class Impl;
