@@ -209,6 +209,19 @@ TEST_F(Menus, CommandsMayPumpBehindTheEndOfTheirMenu) {
   EXPECT_FALSE(OS_Menu::IsMenu(mBar) || OS_Menu::IsMenu(mEdit));
 }
 
+TEST_F(Menus, SubmenusMayMoveToAnotherItem) {
+  input::OpenMenu(*mWindow, {U16("File"), U16("Recent")});
+  input::CloseMenus(*mWindow);
+  OS_Menu::RemoveItem(mFile, 2);
+  ui::MenuItemInfo info;
+  info.mask = ui::kMenuMaskSubMenu;
+  info.subMenu = mRecent;
+  OS_Menu::SetItemInfo(mEdit, 0, info);
+  TakeLog();
+  input::ChooseMenuItem(*mWindow, {U16("Edit"), U16("Wrap & Fill"), U16("Second")});
+  EXPECT_EQ(TakeLog(), "openEdit openRecent run22");
+}
+
 TEST_F(Menus, TrackedMenusAnswerAndSendNothing) {
   const HMENU menu = OS_Menu::Create(true);
   OS_Menu::InsertItem(menu, 0, 0, 70000, U16("Big"));

@@ -116,9 +116,11 @@ void MenuPeer::InsertInto(QWidget& ioWidget, unsigned inPosition) {
 void MenuPeer::ItemRemoved(unsigned inPosition) {
   QAction* const action = mActions[inPosition];
   mActions.erase(mActions.begin() + inPosition);
-  action->disconnect();
   // Qt forgets to close what an item has opened.
   if (QMenu* const open = action->menu()) open->hide();
+  // Heard by the menu below, which may come to stand in another item.
+  action->setMenu(nullptr);
+  action->disconnect();
   for (QObject* object : action->associatedObjects()) {
     if (auto* const widget = qobject_cast<QWidget*>(object)) widget->removeAction(action);
   }
