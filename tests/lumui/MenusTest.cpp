@@ -239,6 +239,28 @@ TEST_F(Menus, TrackedMenusAnswerAndSendNothing) {
   OS_Menu::Destroy(menu);
 }
 
+TEST_F(Menus, QuitClosesATrackedMenuWithItsSubmenus) {
+  OS_Menu::RemoveItem(mFile, 2);  // else it goes with the window
+  const HMENU menu = OS_Menu::Create(true);
+  ui::MenuItemInfo info;
+  info.mask = ui::kMenuMaskSubMenu;
+  info.subMenu = mRecent;
+  OS_Menu::InsertItem(menu, 0, 0, 0, U16("Recent"));
+  OS_Menu::SetItemInfo(menu, 0, info);
+  Manager().GetExecutor()->Post([&] {
+    Log(std::to_string(OS_Menu::TrackPopup(menu, *mWindow, {60, 60})));
+  });
+  Manager().GetExecutor()->Post([&] {
+    input::OpenMenu(*mWindow, {U16("Recent")});
+    App().Quit(4);
+  });
+  TakeLog();
+  EXPECT_EQ(App().Run(), 4);
+  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(TakeLog(), "open? openRecent 0");
+  OS_Menu::Destroy(menu);
+}
+
 TEST_F(Menus, OperationsOnNothingFail) {
   const HMENU gone = OS_Menu::Create(true);
   OS_Menu::Destroy(gone);

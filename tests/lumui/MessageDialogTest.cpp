@@ -86,4 +86,14 @@ TEST_F(MessageDialog, OwnerMayGoWhileItIsOpen) {
   EXPECT_EQ(owner->UI_GetHandle(), nullptr);
 }
 
+TEST_F(MessageDialog, AQuitThatNoLoopWaitsForLeavesTheQuestionOpen) {
+  dialogs::SetDialogAnswerer([](const dialogs::MessageDialogArgs&) { return 0; });
+  App().Quit();
+  EXPECT_EQ(Run(Args()), "0");
+  // In the loop that ends there is nobody to ask any more.
+  Manager().GetExecutor()->Post([this] { Log(Run(Args())); });
+  App().Run();
+  EXPECT_EQ(TakeLog(), "2");
+}
+
 }  // namespace lumui::test

@@ -7,6 +7,9 @@
 #include <thread>
 
 #include "UITest.h"
+#include "lumui/dialogs/ChoiceDialog.h"
+#include "lumui/dialogs/FileDialog.h"
+#include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/InputCapture.h"
 #include "lumui/utility/ksv/KeyboardShape.h"
@@ -317,6 +320,36 @@ TEST_F(RealDisplay, WindowManagersCloseIsARequest) {
   RunUntil([] { return sCloses != 0; });
   EXPECT_EQ(sCloses, 1);
   EXPECT_NE(mWindow->UI_GetHandle(), nullptr);
+}
+
+// Nobody answers any of them.
+TEST_F(RealDisplay, QuitCancelsWhateverDialogIsOpen) {
+  std::string answers;
+  const auto note = [&](int inAnswer) { answers += std::to_string(inAnswer) + " "; };
+  const auto quitIn = [this](const std::function<void()>& inDialog) {
+    Manager().GetExecutor()->Post(inDialog);
+    Manager().GetExecutor()->Post([this] { App().Quit(); });
+    App().Run();
+  };
+  dialogs::MessageDialogArgs args;
+  args.text = U16("Save it?");
+  args.buttons = {U16("Yes"), U16("No"), U16("Cancel")};
+  args.defaultButton = 1;
+  const auto ask = [&] { note(dialogs::RunMessageDialog(args)); };
+  quitIn(ask);
+  args.cancelButton = 2;
+  quitIn(ask);
+  quitIn([&] { note(static_cast<int>(dialogs::RunFileDialog({}).size())); });
+  dialogs::ChoiceDialogArgs choice;
+  choice.items = {U16("a"), U16("b")};
+  quitIn([&] { note(dialogs::RunChoiceDialog(choice)); });
+  EXPECT_EQ(std::exchange(answers, ""), "1 2 0 -1 ");
+  // The innermost of several, and those behind it.
+  quitIn([&] {
+    Manager().GetExecutor()->Post(ask);
+    ask();
+  });
+  EXPECT_EQ(answers, "2 2 ");
 }
 
 }  // namespace lumui::test

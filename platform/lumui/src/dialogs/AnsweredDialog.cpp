@@ -5,7 +5,7 @@
 
 #include <QVBoxLayout>
 
-#include "dialogs/AnnouncedModal.h"
+#include "dialogs/ModalDialog.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
@@ -52,7 +52,6 @@ void AnsweredDialog::Add(QWidget* inWidget) {
 }
 
 bool AnsweredDialog::Run(const std::function<bool()>& inAnswer) {
-  const StAnnouncedModal announced;
   if (inAnswer) {
     QTimer::singleShot(0, mDialog, [this, inAnswer] {
       if (inAnswer()) {
@@ -62,7 +61,7 @@ bool AnsweredDialog::Run(const std::function<bool()>& inAnswer) {
       }
     });
   }
-  const int result = mDialog->exec();
+  const int result = RunModalDialog(*mDialog);
   return mDialog && result == QDialog::Accepted;
 }
 

@@ -10,7 +10,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "dialogs/AnnouncedModal.h"
+#include "dialogs/ModalDialog.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
@@ -68,8 +68,7 @@ UTF16String RunAnswered(QFileDialog& ioDialog, const UTF16String& inAnswer) {
   QDialog* const dialog = &ioDialog;
   const int result = inAnswer.empty() ? QDialog::Rejected : QDialog::Accepted;
   QTimer::singleShot(0, dialog, [dialog, result] { dialog->done(result); });
-  dialog->exec();
-  return inAnswer;
+  return RunModalDialog(ioDialog) == QDialog::Accepted ? inAnswer : UTF16String();
 }
 
 }  // namespace
@@ -90,7 +89,6 @@ UTF16String RunFileDialog(const FileDialogArgs& inArgs) {
             "without a display"),
         {inArgs.title}));
   }
-  const StAnnouncedModal announced;
   QWidget* const owner = inArgs.owner ? inArgs.owner->GetPeer()->GetWidget() : nullptr;
   // On the heap and watched: the owner may be destroyed while the dialog is open, and the dialog
   // with it, which counts as a cancel.
@@ -99,7 +97,8 @@ UTF16String RunFileDialog(const FileDialogArgs& inArgs) {
   UTF16String path;
   if (answer) {
     path = RunAnswered(*dialog, *answer);
-  } else if (dialog->exec() == QDialog::Accepted && dialog && !dialog->selectedFiles().isEmpty()) {
+  } else if (RunModalDialog(*dialog) == QDialog::Accepted && dialog &&
+             !dialog->selectedFiles().isEmpty()) {
     path = drawbot::FromQt(QDir::toNativeSeparators(dialog->selectedFiles().front()));
   }
   delete dialog;

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "dialogs/AnnouncedModal.h"
+#include "dialogs/ModalDialog.h"
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
@@ -76,7 +76,6 @@ std::vector<QAbstractButton*> AddButtons(QMessageBox& ioBox, const MessageDialog
 }
 
 int RunBox(const MessageDialogArgs& inArgs, std::optional<int> inAnswer) {
-  const StAnnouncedModal announced;
   QWidget* const owner = inArgs.owner ? inArgs.owner->GetPeer()->GetWidget() : nullptr;
   // On the heap and watched: the owner may be destroyed while the box is open, and the box with it.
   const QPointer<QMessageBox> box = new QMessageBox(owner);
@@ -89,7 +88,7 @@ int RunBox(const MessageDialogArgs& inArgs, std::optional<int> inAnswer) {
     QAbstractButton* const answer = buttons[static_cast<std::size_t>(*inAnswer)];
     QTimer::singleShot(0, answer, [answer] { answer->click(); });
   }
-  box->exec();
+  RunModalDialog(*box);
   if (!box) {
     if (inArgs.cancelButton >= 0) return inArgs.cancelButton;
     Fail("$$$/lumui/dialogs/Error/OwnerGone=The box \"@0\" (@1) closed with its window: @2",

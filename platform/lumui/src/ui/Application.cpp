@@ -119,6 +119,7 @@ int Application::Run() {
 
 void Application::Quit(int inCode) {
   mImpl->exitCode = inCode;
+  ++mImpl->quits;
   mImpl->quitting = true;
   mImpl->gate->CancelDrag();
   // The loop may be waiting in the system.

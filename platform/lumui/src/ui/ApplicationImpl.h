@@ -23,6 +23,7 @@ class Application::Impl {
   UI_NodeManager* manager = nullptr;  // owned; only the application may delete it
   std::function<void()> idle;
   std::atomic<bool> quitting{false};
+  std::atomic<int> quits{0};  // that have ever come
   std::atomic<int> exitCode{0};
   bool running = false;
 };

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QPointer>
 #include <algorithm>
 
 #include "drawbot/QtConvert.h"
@@ -13,6 +14,7 @@
 #include "lumui/ui/OS_Event.h"
 #include "lumui/ui/OS_Window.h"
 #include "ui/EventGate.h"
+#include "ui/QuitWatch.h"
 #include "ui/WindowRegistry.h"
 
 namespace lumui::ui {
@@ -169,7 +171,10 @@ unsigned MenuPeer::Track(const OS_Window& inWindow, const lumcore::geom::PointT<
   const lumcore::utility::StScopedValue<unsigned*> tracked(sTrackedID, &id);
   sPopUpRoot = mMenu.handle;
   sPopUpOwner = inWindow.UI_GetHandle();
-  mPopup->exec(QPoint(inPoint.x, inPoint.y));
+  const QuitWatch watch([popup = QPointer<QMenu>(mPopup)] {
+    if (popup) popup->close();
+  });
+  if (!watch.HasQuit()) mPopup->exec(QPoint(inPoint.x, inPoint.y));
   return id;
 }
 

@@ -3,7 +3,6 @@
 
 #include "lumui/ui/UI_Dialog.h"
 
-#include <QAbstractEventDispatcher>
 #include <QEventLoop>
 #include <QScreen>
 #include <QTimer>
@@ -21,6 +20,7 @@
 #include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/Application.h"
 #include "lumui/ui/KeyboardEvent.h"
+#include "ui/QuitWatch.h"
 #include "ui/WindowPeer.h"
 #include "ui/WindowRegistry.h"
 
@@ -48,10 +48,6 @@ class UI_Dialog::Loop {
  public:
   explicit Loop(QWidget& inWidget) {
     QObject::connect(&inWidget, &QObject::destroyed, &mLoop, [this] { mLoop.quit(); });
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &mLoop,
-                     [this] {
-                       if (Application::Get()->IsQuitting()) mLoop.quit();
-                     });
   }
 
   void Run(UI_Dialog& ioDialog, const dialogs::DialogDriver& inDriver) {
@@ -61,14 +57,15 @@ class UI_Dialog::Loop {
           // What showing the dialog has left: it comes to the front, and the keyboard to it.
           Application::Get()->PumpPendingEvents();
           if (ioDialog.IsOpen()) inDriver(ioDialog);
-          dialogs::RequireAnswer(!ioDialog.IsLeftOpen(), ioDialog.UI_GetTitle());
+          dialogs::RequireAnswer(mWatch.HasQuit() || !ioDialog.IsLeftOpen(),
+                                 ioDialog.UI_GetTitle());
         } catch (...) {
           mFailure = std::current_exception();
           mLoop.quit();
         }
       });
     }
-    if (!Application::Get()->IsQuitting()) mLoop.exec();
+    if (!mWatch.HasQuit()) mLoop.exec();
     if (ioDialog.mOpen) ioDialog.CloseWith(kCancel);
     if (mFailure) std::rethrow_exception(mFailure);
   }
@@ -76,6 +73,7 @@ class UI_Dialog::Loop {
 
  private:
   QEventLoop mLoop;
+  QuitWatch mWatch{[this] { mLoop.quit(); }};
   std::exception_ptr mFailure;
 };
 
@@ -273,8 +271,7 @@ void UI_Dialog::UI_DoClose() {
 
 // By a driver, where nobody else can close it.
 bool UI_Dialog::IsLeftOpen() const {
-  const Application& application = *Application::Get();
-  return mOpen && UI_GetHandle() && application.IsHeadless() && !application.IsQuitting();
+  return mOpen && UI_GetHandle() && Application::Get()->IsHeadless();
 }
 
 }  // namespace lumui::ui

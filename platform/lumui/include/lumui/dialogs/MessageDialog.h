@@ -20,7 +20,8 @@ enum class MessageIcon { kNone, kInformation, kWarning, kError, kQuestion };
 
 // A box with a text and buttons. Buttons are counted from 0, in the order given; without any there
 // is one with "OK". cancelButton is what Escape and closing the box mean; -1 for none: a box with
-// one button then takes that one, and one with several cannot be left but by a button.
+// one button then takes that one, and one with several cannot be left but by a button, or by a quit
+// of the application, which means defaultButton then.
 struct MessageDialogArgs {
   lumcore::UTF16String title;
   lumcore::UTF16String text;
