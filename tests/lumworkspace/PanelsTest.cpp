@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 #include "lumcore/proplist/PropList.h"
 #include "lumcore/proplist/Utils.h"
 #include "lumui/ui/OS_Menu.h"
@@ -230,6 +233,67 @@ TEST_F(Panels, WhatIsNoLayoutIsRefusedWithItsCause) {
     EXPECT_NE(failure.find(each.cause), std::string::npos) << failure;
     EXPECT_EQ(Text(true), before);
   }
+}
+
+// Panels that do something when they go.
+class PartingCreator : public lumworkspace::workspace::TabCreator {
+ public:
+  using Parting = std::function<void(Workspace&, const std::string& inType)>;
+
+  PartingCreator(const std::string& inType, Parting inParting)
+      : TabCreator(U8(inType)), mParting(std::move(inParting)) {}
+
+  boost::intrusive_ptr<TabPanel> CreateTabPanel(
+      Workspace* inWorkspace, lumworkspace::workspace::WorkspaceFrameBase* inFrame) override {
+    return new Panel(*inWorkspace, inFrame, GetTabType(), mParting);
+  }
+
+ private:
+  class Panel : public TabPanel {
+   public:
+    Panel(Workspace& inWorkspace, lumworkspace::workspace::WorkspaceFrameBase* inFrame,
+          const lumcore::UTF8String& inType, Parting inParting)
+        : TabPanel(&inWorkspace, inFrame, U16("Parting"), inType, nullptr, true),
+          mParting(std::move(inParting)) {}
+    ~Panel() override { mParting(*GetWorkspace(), lumcore::utility::ToStdString(GetTabType())); }
+
+   private:
+    Parting mParting;
+  };
+
+  Parting mParting;
+};
+
+TEST_F(Panels, AskAndCloseOthersWhileTheWorkspaceTakesThemAlong) {
+  PropList layout;
+  std::string gone;
+  {
+    Workspace ending(nullptr);
+    ending.CreateMainTopLevelWindow(nullptr);
+    const auto parting = [&](Workspace& ioWorkspace, const std::string& inType) {
+      gone += inType;
+      EXPECT_NE(ioWorkspace.GetMainTopLevelWindow(), nullptr);
+      EXPECT_NE(ioWorkspace.FindTabCreator(U8(inType)), nullptr);
+      EXPECT_EQ(ioWorkspace.FindTab(U8(inType)), nullptr);
+      EXPECT_EQ(ioWorkspace.OpenTab(U8(inType)), nullptr) << "it would never end";
+      if (inType != "a") return;
+      EXPECT_EQ(ioWorkspace.GetLayout(), layout);
+      EXPECT_NE(ioWorkspace.FindTab(U8("b")), nullptr);
+      EXPECT_FALSE(ioWorkspace.FloatTab(U8("c"), false));
+      ioWorkspace.SetLayout(layout, U16("parting"));
+      EXPECT_TRUE(ioWorkspace.CloseTab(U8("c")));
+      gone += "|";
+    };
+    for (const char* type : {"a", "b", "c"}) {
+      ending.RegisterTabCreator(new PartingCreator(type, parting));
+      ending.OpenTab(U8(type));
+    }
+    ending.FloatTab(U8("c"), true);
+    Settle();
+    layout = ending.GetLayout();
+    EXPECT_EQ(gone, "");
+  }
+  EXPECT_EQ(gone, "ac|b");
 }
 
 TEST_F(Panels, FlyoutMenuHasWhatEveryPanelCan) {
