@@ -14,6 +14,7 @@
 #include "lumui/ui/UI_NodeManager.h"
 #include "lumui/ui/UI_SubView.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
+#include "support/PartingPanels.h"
 #include "support/RecordingApp.h"
 #include "support/TemporaryFolder.h"
 #include "vek/uisupport/MainWindowLookup.h"
@@ -232,6 +233,57 @@ TEST_F(LifeCycle, AnEndThatFailsInOneStepTakesAllTheOthers) {
   EXPECT_EQ(app.mLog.Take(),
             "SaveAppSettings TerminateWorkspace TerminateApplication ~MenuHelper ~Manager "
             "TerminateDrawing OSTerminateDrawing OSTerminate");
+}
+
+struct PlacedManager : test_support::RecordingWorkspaces {
+  using RecordingWorkspaces::RecordingWorkspaces;
+  ~PlacedManager() override { EXPECT_EQ(App::GetApp()->GetWorkspaceManager(), this); }
+};
+
+struct PlacedMenuHelper : test_support::RecordingMenuHelper {
+  using RecordingMenuHelper::RecordingMenuHelper;
+  ~PlacedMenuHelper() override { EXPECT_EQ(App::GetApp()->GetPlatformMenuHelper(), this); }
+};
+
+class PlacingApp : public RecordingApp {
+ public:
+  using RecordingApp::RecordingApp;
+
+ protected:
+  lumworkspace::workspace::ManagerBase* InitWorkspaceManager() override {
+    return new PlacedManager(mLog);
+  }
+  lumworkspace::workspace::PlatformMenuHelperBase* InitWorkspaceMenuHelper(
+      lumworkspace::workspace::ManagerBase&) override {
+    return new PlacedMenuHelper(mLog);
+  }
+};
+
+TEST_F(LifeCycle, WhatIsDeletedIsFoundInItsPlaceUntilItIsGone) {
+  using lumworkspace::workspace::Workspace;
+  PlacingApp app(mFolder.GetPath("prefs"));
+  ASSERT_TRUE(app.Start());
+  const auto* const window = app.GetWorkspace()->GetMainTopLevelWindow();
+  app.GetWorkspace()->RegisterTabCreator(
+      new test_support::PartingCreator("notes", [&](Workspace& ioWorkspace, const std::string&) {
+        app.mLog.Add("~Panel");
+        EXPECT_EQ(app.GetWorkspace(), &ioWorkspace);
+        EXPECT_EQ(app.GetWorkspace()->GetMainTopLevelWindow(), window);
+        EXPECT_EQ(vek::uisupport::FindMainWindow(), window);
+        EXPECT_NE(vek::uisupport::FindDrawSupplier(), nullptr);
+        EXPECT_NE(app.GetMainMenu(), nullptr);
+      }));
+  ASSERT_NE(app.GetWorkspace()->OpenTab(lumcore::utility::ToUTF8("notes")), nullptr);
+  app.mLog.Take();
+  app.ResetWorkspaceManager();
+  EXPECT_EQ(app.mLog.Take(), "~Manager InitWorkspaceManagerMenu ~MenuHelper HelperAdded");
+  app.Terminate();
+  EXPECT_EQ(app.mLog.Take(),
+            "SaveAppSettings TerminateWorkspace ~Panel TerminateApplication ~MenuHelper ~Manager "
+            "TerminateDrawing OSTerminateDrawing OSTerminate");
+  EXPECT_EQ(app.GetWorkspace(), nullptr);
+  EXPECT_EQ(app.GetPlatformMenuHelper(), nullptr);
+  EXPECT_EQ(app.GetWorkspaceManager(), nullptr);
 }
 
 TEST_F(LifeCycle, AStartMayBeTriedAgain) {

@@ -3,15 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <utility>
-
 #include "lumcore/proplist/PropList.h"
 #include "lumcore/proplist/Utils.h"
 #include "lumui/ui/OS_Menu.h"
 #include "lumui/utility/OS_Menu.h"
 #include "lumworkspace/workspace/WorkspaceFrameBase.h"
 #include "support/Panels.h"
+#include "support/PartingPanels.h"
 
 namespace {
 
@@ -234,35 +232,6 @@ TEST_F(Panels, WhatIsNoLayoutIsRefusedWithItsCause) {
     EXPECT_EQ(Text(true), before);
   }
 }
-
-// Panels that do something when they go.
-class PartingCreator : public lumworkspace::workspace::TabCreator {
- public:
-  using Parting = std::function<void(Workspace&, const std::string& inType)>;
-
-  PartingCreator(const std::string& inType, Parting inParting)
-      : TabCreator(U8(inType)), mParting(std::move(inParting)) {}
-
-  boost::intrusive_ptr<TabPanel> CreateTabPanel(
-      Workspace* inWorkspace, lumworkspace::workspace::WorkspaceFrameBase* inFrame) override {
-    return new Panel(*inWorkspace, inFrame, GetTabType(), mParting);
-  }
-
- private:
-  class Panel : public TabPanel {
-   public:
-    Panel(Workspace& inWorkspace, lumworkspace::workspace::WorkspaceFrameBase* inFrame,
-          const lumcore::UTF8String& inType, Parting inParting)
-        : TabPanel(&inWorkspace, inFrame, U16("Parting"), inType, nullptr, true),
-          mParting(std::move(inParting)) {}
-    ~Panel() override { mParting(*GetWorkspace(), lumcore::utility::ToStdString(GetTabType())); }
-
-   private:
-    Parting mParting;
-  };
-
-  Parting mParting;
-};
 
 TEST_F(Panels, AskAndCloseOthersWhileTheWorkspaceTakesThemAlong) {
   PropList layout;
