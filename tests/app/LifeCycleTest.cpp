@@ -286,6 +286,48 @@ TEST_F(LifeCycle, WhatIsDeletedIsFoundInItsPlaceUntilItIsGone) {
   EXPECT_EQ(app.GetWorkspaceManager(), nullptr);
 }
 
+// A window that the application does not know.
+void ActivateAnother() {
+  lumworkspace::workspace::Workspace workspace(nullptr);
+  workspace.CreateMainTopLevelWindow(nullptr);
+  auto* const window = workspace.GetMainTopLevelWindow();
+  window->UI_Show(true);
+  lumui::testing::ActivateWindow(window);
+  lumui::testing::ActivateWindow(nullptr);
+}
+
+// An application that is left, and comes to the front again, while it ends.
+class LeftApp : public RecordingApp {
+ public:
+  using RecordingApp::RecordingApp;
+
+ protected:
+  void DoAppActiveStateChanged(bool inActive) override { mLog.Add(inActive ? "in" : "out"); }
+  void TerminateWorkspace() override {
+    auto* const window = GetWorkspace()->GetMainTopLevelWindow();
+    lumui::testing::ActivateWindow(nullptr);
+    lumui::testing::ActivateWindow(window);
+    RecordingApp::TerminateWorkspace();
+  }
+  void TerminateDrawing() override {
+    RecordingApp::TerminateDrawing();
+    ActivateAnother();
+  }
+};
+
+TEST_F(LifeCycle, ItHearsThatItIsLeftUntilItHasEnded) {
+  LeftApp app(mFolder.GetPath("prefs"));
+  ASSERT_TRUE(app.Start());
+  lumui::testing::ActivateWindow(app.GetWorkspace()->GetMainTopLevelWindow());
+  app.mLog.Take();
+  app.Terminate();
+  EXPECT_EQ(app.mLog.Take(),
+            "SaveAppSettings out in TerminateWorkspace TerminateApplication ~MenuHelper "
+            "~Manager TerminateDrawing out OSTerminateDrawing OSTerminate");
+  ActivateAnother();
+  EXPECT_EQ(app.mLog.Take(), "");
+}
+
 TEST_F(LifeCycle, AStartMayBeTriedAgain) {
   RecordingApp app(mFolder.GetPath("prefs"));
   app.mWhenManagerIsMade = [] { throw std::runtime_error("no layouts"); };

@@ -245,7 +245,6 @@ void AppBase::StartWorkspace(AppInitArgs&) {
 }
 
 void AppBase::Terminate() {
-  ForgetActivation();
   Ending ending;
   ending.Run([this] { SaveAppSettings(); });
   ending.Run([this] { TerminateWorkspace(); });
@@ -272,6 +271,7 @@ void AppBase::Terminate() {
   });
   ending.Run([] { lumcore::console::ConsoleLogFile::Terminate(); });
   ending.Run([] { uisupport::DeferredActionManager::Terminate(); });
+  ForgetActivation();
   ending.Run([this] { OSTerminate(); });
   ending.Finish();
 }
