@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "lumcore/config/ClientInfo.h"
+#include "lumcore/utility/StringUtils.h"
 #include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/Theme.h"
@@ -13,6 +14,7 @@
 #include "lumui/ui/UI_NodeAdapter.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "lumui/ui/UI_SubView.h"
+#include "lumworkspace/sharedui/WorkspaceSwitcherManager.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "support/PartingPanels.h"
 #include "support/RecordingApp.h"
@@ -207,6 +209,33 @@ TEST_F(LifeCycle, TheLastWorkspaceComesBackAndAGoneOneGivesWayToTheDefault) {
               "~MenuHelper HelperAdded");
     app.Terminate();
   }
+}
+
+TEST_F(LifeCycle, TheWorkspaceSwitcherComesBackFromTheSettings) {
+  const auto& switcher = lumworkspace::sharedui::WorkspaceSwitcherManager::Get();
+  const auto kept = [](RecordingApp& ioApp) {
+    const auto* const list = ioApp.GetAppSettings().Find<lumcore::proplist::PropList>("Workspace");
+    return list ? list->Get("Switcher", lumcore::utility::ToUTF8("none")) : lumcore::UTF8String();
+  };
+  const std::string prefs = mFolder.GetPath("prefs");
+  switcher->SetData(lumcore::utility::ToUTF8("of the host"));
+  {
+    RecordingApp app(prefs);
+    ASSERT_TRUE(app.Start());
+    EXPECT_EQ(kept(app), lumcore::UTF8String()) << "the key is there from now on";
+    EXPECT_EQ(switcher->GetData(), lumcore::utility::ToUTF8("of the host"));
+    switcher->SetData(lumcore::utility::ToUTF8("+b\n-a\n"));
+    EXPECT_EQ(kept(app), lumcore::utility::ToUTF8("+b\n-a\n"));
+    app.Terminate();
+  }
+  switcher->SetData(lumcore::UTF8String());
+  {
+    RecordingApp app(prefs);
+    ASSERT_TRUE(app.Start());
+    EXPECT_EQ(switcher->GetData(), lumcore::utility::ToUTF8("+b\n-a\n"));
+    app.Terminate();
+  }
+  switcher->SetData(lumcore::UTF8String());
 }
 
 TEST_F(LifeCycle, AStartThatFailsKeepsItsStagesAndCanBeEnded) {
