@@ -2,9 +2,10 @@ vek_test(lumworkspace_tests
   SOURCES
     lumworkspace/ManagerTest.cpp
     lumworkspace/PanelsTest.cpp
+    lumworkspace/SwitcherTest.cpp
     lumworkspace/WorkspaceTest.cpp
     support/UIApplication.cpp
-  LIBRARIES lumworkspace)
+  LIBRARIES lumworkspace Qt6::Widgets)
 set_tests_properties(lumworkspace_tests PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 
 # The same where a unit is no whole number of pixels, on a screen of as many units.

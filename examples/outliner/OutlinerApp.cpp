@@ -18,6 +18,7 @@
 #include "lumcore/xml/ParserFactory.h"
 #include "lumui/ui/ModuleHandle.h"
 #include "lumui/ui/Theme.h"
+#include "lumworkspace/sharedui/WorkspaceSwitcher.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/document/DocumentTypeInfo.h"
 #include "vek/uisupport/ReportError.h"

@@ -20,6 +20,10 @@ namespace lumui::ui {
 class OS_Window;
 }
 
+namespace lumworkspace::sharedui {
+class WorkspaceSwitcher;
+}
+
 namespace vek::workspaceutils {
 class WorkspacesCmdAttachment;
 }
@@ -161,6 +165,7 @@ class OutlinerApp final : public vek::app::MultiDocApplication {
   ListCommands mListCommands{[this] { return FindPane(); }, [this] { ShowOutlinePanel(); }};
   std::unique_ptr<OutlinerMenus> mMenus;
   std::unique_ptr<vek::workspaceutils::WorkspacesCmdAttachment> mWorkspaceCommands;
+  std::unique_ptr<lumworkspace::sharedui::WorkspaceSwitcher> mSwitcher;
   boost::intrusive_ptr<DocumentFrame> mFrame;
   bool mSettingsAreRead = false;
   bool mIsAskingToQuit = false;

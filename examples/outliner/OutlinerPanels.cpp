@@ -25,6 +25,7 @@
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/dialogs/MessageDialog.h"
 #include "lumui/ui/OS_Event.h"
+#include "lumworkspace/sharedui/WorkspaceSwitcher.h"
 #include "lumworkspace/workspace/PlatformMenuHelper.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "lumworkspace/workspace/Workspace.h"
@@ -175,6 +176,8 @@ PlatformMenuHelperBase* OutlinerApp::InitWorkspaceMenuHelper(ManagerBase& inMana
       *GetWorkspace(), inManager, *helper, kCommandWorkspaceNew, kCommandWorkspaceRevert,
       kCommandWorkspaceDelete, kCommandWorkspaceSave, kCommandWorkspaceEdit);
   AddAttachment(mWorkspaceCommands.get());
+  mSwitcher = std::make_unique<lumworkspace::sharedui::WorkspaceSwitcher>(
+      *GetWorkspace()->GetMainTopLevelWindow(), inManager);
   return helper;
 }
 
@@ -182,6 +185,7 @@ PlatformMenuHelperBase* OutlinerApp::InitWorkspaceMenuHelper(ManagerBase& inMana
 void OutlinerApp::RemoveWorkspaceCommands() {
   if (mWorkspaceCommands) RemoveAttachment(mWorkspaceCommands.get());
   mWorkspaceCommands.reset();
+  mSwitcher.reset();
 }
 
 UTF16String OutlinerApp::GetDefaultWorkspaceName() const {

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "lumcore/config/ClientInfo.h"
+#include "lumcore/utility/StringUtils.h"
 #include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/Theme.h"
@@ -13,7 +14,9 @@
 #include "lumui/ui/UI_NodeAdapter.h"
 #include "lumui/ui/UI_NodeManager.h"
 #include "lumui/ui/UI_SubView.h"
+#include "lumworkspace/sharedui/WorkspaceSwitcherManager.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
+#include "support/PartingPanels.h"
 #include "support/RecordingApp.h"
 #include "support/TemporaryFolder.h"
 #include "vek/uisupport/MainWindowLookup.h"
@@ -208,6 +211,33 @@ TEST_F(LifeCycle, TheLastWorkspaceComesBackAndAGoneOneGivesWayToTheDefault) {
   }
 }
 
+TEST_F(LifeCycle, TheWorkspaceSwitcherComesBackFromTheSettings) {
+  const auto& switcher = lumworkspace::sharedui::WorkspaceSwitcherManager::Get();
+  const auto kept = [](RecordingApp& ioApp) {
+    const auto* const list = ioApp.GetAppSettings().Find<lumcore::proplist::PropList>("Workspace");
+    return list ? list->Get("Switcher", lumcore::utility::ToUTF8("none")) : lumcore::UTF8String();
+  };
+  const std::string prefs = mFolder.GetPath("prefs");
+  switcher->SetData(lumcore::utility::ToUTF8("of the host"));
+  {
+    RecordingApp app(prefs);
+    ASSERT_TRUE(app.Start());
+    EXPECT_EQ(kept(app), lumcore::UTF8String()) << "the key is there from now on";
+    EXPECT_EQ(switcher->GetData(), lumcore::utility::ToUTF8("of the host"));
+    switcher->SetData(lumcore::utility::ToUTF8("+b\n-a\n"));
+    EXPECT_EQ(kept(app), lumcore::utility::ToUTF8("+b\n-a\n"));
+    app.Terminate();
+  }
+  switcher->SetData(lumcore::UTF8String());
+  {
+    RecordingApp app(prefs);
+    ASSERT_TRUE(app.Start());
+    EXPECT_EQ(switcher->GetData(), lumcore::utility::ToUTF8("+b\n-a\n"));
+    app.Terminate();
+  }
+  switcher->SetData(lumcore::UTF8String());
+}
+
 TEST_F(LifeCycle, AStartThatFailsKeepsItsStagesAndCanBeEnded) {
   {
     RecordingApp app(mFolder.GetPath("prefs"));
@@ -232,6 +262,99 @@ TEST_F(LifeCycle, AnEndThatFailsInOneStepTakesAllTheOthers) {
   EXPECT_EQ(app.mLog.Take(),
             "SaveAppSettings TerminateWorkspace TerminateApplication ~MenuHelper ~Manager "
             "TerminateDrawing OSTerminateDrawing OSTerminate");
+}
+
+struct PlacedManager : test_support::RecordingWorkspaces {
+  using RecordingWorkspaces::RecordingWorkspaces;
+  ~PlacedManager() override { EXPECT_EQ(App::GetApp()->GetWorkspaceManager(), this); }
+};
+
+struct PlacedMenuHelper : test_support::RecordingMenuHelper {
+  using RecordingMenuHelper::RecordingMenuHelper;
+  ~PlacedMenuHelper() override { EXPECT_EQ(App::GetApp()->GetPlatformMenuHelper(), this); }
+};
+
+class PlacingApp : public RecordingApp {
+ public:
+  using RecordingApp::RecordingApp;
+
+ protected:
+  lumworkspace::workspace::ManagerBase* InitWorkspaceManager() override {
+    return new PlacedManager(mLog);
+  }
+  lumworkspace::workspace::PlatformMenuHelperBase* InitWorkspaceMenuHelper(
+      lumworkspace::workspace::ManagerBase&) override {
+    return new PlacedMenuHelper(mLog);
+  }
+};
+
+TEST_F(LifeCycle, WhatIsDeletedIsFoundInItsPlaceUntilItIsGone) {
+  using lumworkspace::workspace::Workspace;
+  PlacingApp app(mFolder.GetPath("prefs"));
+  ASSERT_TRUE(app.Start());
+  const auto* const window = app.GetWorkspace()->GetMainTopLevelWindow();
+  app.GetWorkspace()->RegisterTabCreator(
+      new test_support::PartingCreator("notes", [&](Workspace& ioWorkspace, const std::string&) {
+        app.mLog.Add("~Panel");
+        EXPECT_EQ(app.GetWorkspace(), &ioWorkspace);
+        EXPECT_EQ(app.GetWorkspace()->GetMainTopLevelWindow(), window);
+        EXPECT_EQ(vek::uisupport::FindMainWindow(), window);
+        EXPECT_NE(vek::uisupport::FindDrawSupplier(), nullptr);
+        EXPECT_NE(app.GetMainMenu(), nullptr);
+      }));
+  ASSERT_NE(app.GetWorkspace()->OpenTab(lumcore::utility::ToUTF8("notes")), nullptr);
+  app.mLog.Take();
+  app.ResetWorkspaceManager();
+  EXPECT_EQ(app.mLog.Take(), "~Manager InitWorkspaceManagerMenu ~MenuHelper HelperAdded");
+  app.Terminate();
+  EXPECT_EQ(app.mLog.Take(),
+            "SaveAppSettings TerminateWorkspace ~Panel TerminateApplication ~MenuHelper ~Manager "
+            "TerminateDrawing OSTerminateDrawing OSTerminate");
+  EXPECT_EQ(app.GetWorkspace(), nullptr);
+  EXPECT_EQ(app.GetPlatformMenuHelper(), nullptr);
+  EXPECT_EQ(app.GetWorkspaceManager(), nullptr);
+}
+
+// A window that the application does not know.
+void ActivateAnother() {
+  lumworkspace::workspace::Workspace workspace(nullptr);
+  workspace.CreateMainTopLevelWindow(nullptr);
+  auto* const window = workspace.GetMainTopLevelWindow();
+  window->UI_Show(true);
+  lumui::testing::ActivateWindow(window);
+  lumui::testing::ActivateWindow(nullptr);
+}
+
+// An application that is left, and comes to the front again, while it ends.
+class LeftApp : public RecordingApp {
+ public:
+  using RecordingApp::RecordingApp;
+
+ protected:
+  void DoAppActiveStateChanged(bool inActive) override { mLog.Add(inActive ? "in" : "out"); }
+  void TerminateWorkspace() override {
+    auto* const window = GetWorkspace()->GetMainTopLevelWindow();
+    lumui::testing::ActivateWindow(nullptr);
+    lumui::testing::ActivateWindow(window);
+    RecordingApp::TerminateWorkspace();
+  }
+  void TerminateDrawing() override {
+    RecordingApp::TerminateDrawing();
+    ActivateAnother();
+  }
+};
+
+TEST_F(LifeCycle, ItHearsThatItIsLeftUntilItHasEnded) {
+  LeftApp app(mFolder.GetPath("prefs"));
+  ASSERT_TRUE(app.Start());
+  lumui::testing::ActivateWindow(app.GetWorkspace()->GetMainTopLevelWindow());
+  app.mLog.Take();
+  app.Terminate();
+  EXPECT_EQ(app.mLog.Take(),
+            "SaveAppSettings out in TerminateWorkspace TerminateApplication ~MenuHelper "
+            "~Manager TerminateDrawing out OSTerminateDrawing OSTerminate");
+  ActivateAnother();
+  EXPECT_EQ(app.mLog.Take(), "");
 }
 
 TEST_F(LifeCycle, AStartMayBeTriedAgain) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QTabBar>
 #include <string>
 
 #include "hosts/OutlineText.h"
@@ -13,6 +15,7 @@
 #include "lumui/testing/SyntheticInput.h"
 #include "lumui/ui/Accessible.h"
 #include "lumui/ui/Application.h"
+#include "lumworkspace/sharedui/WorkspaceSwitcherManager.h"
 #include "lumworkspace/testing/Layouts.h"
 #include "lumworkspace/workspace/ManagerBase.h"
 #include "lumworkspace/workspace/Workspace.h"
@@ -53,6 +56,22 @@ std::string Panels(RunningOutliner& ioHost) {
   for (auto at = text.find("outliner."); at != text.npos; at = text.find("outliner."))
     text.erase(at, 9);
   return text + " " + ToStdString(ioHost.GetApp().GetWorkspaceManager()->GetCurrentWorkspace());
+}
+
+QTabBar* FindTabs() {
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    for (auto* const tabs : window->findChildren<QTabBar*>()) {
+      if (tabs->accessibleName() == QStringLiteral("Workspaces")) return tabs;
+    }
+  }
+  return nullptr;
+}
+std::string Tabs() {
+  const QTabBar* const tabs = FindTabs();
+  std::string text;
+  for (int tab = 0; tabs && tab < tabs->count(); ++tab)
+    text += (tab > 0 ? " " : "") + tabs->tabText(tab).toStdString();
+  return text;
 }
 
 void ChooseWorkspace(RunningOutliner& ioHost, const char* inName) {
@@ -254,6 +273,27 @@ TEST(OutlinersWorkspaces, ComeBackAtTheNextStart) {
     EXPECT_EQ(Panels(host), "left[outline + notes*|~commands|~properties|~search|~history] Notes")
         << "there to be written in";
   }
+}
+
+TEST(OutlinersWorkspaces, HaveTabsThatStayAsTheUserHasThem) {
+  const auto& switcher = lumworkspace::sharedui::WorkspaceSwitcherManager::Get();
+  TemporaryFolder folder;
+  {
+    RunningOutliner host(folder);
+    EXPECT_EQ(Tabs(), "Writing Notes Commands Map");
+    auto* const tabs = FindTabs();
+    tabs->setCurrentIndex(1);  // as a click does, or who works without a pointer
+    lumui::testing::ProcessEvents();
+    EXPECT_EQ(Panels(host).substr(Panels(host).rfind(' ')), " Notes");
+    tabs->moveTab(3, 0);
+    EXPECT_EQ(Tabs(), "Map Writing Notes Commands");
+  }
+  switcher->SetData(lumcore::UTF8String());
+  {
+    RunningOutliner host(folder);
+    EXPECT_EQ(Tabs(), "Map Writing Notes Commands");
+  }
+  switcher->SetData(lumcore::UTF8String());
 }
 
 TEST(OutlinersWorkspaces, ThatAreDamagedAreSetAsideAndBeginAnew) {

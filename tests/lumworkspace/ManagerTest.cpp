@@ -212,6 +212,29 @@ TEST_F(Workspaces, DamagedOnesAreSetAsideAndGiveWayToTheBuiltInOnes) {
   EXPECT_EQ(Names(), "Draw Animate Mine");
 }
 
+TEST_F(Workspaces, AMoveThatIsUndoneByHandDoesNotComeBack) {
+  lumcore::config::ErrorManager errors([](const std::exception_ptr&) {});
+  lumcore::config::ErrorManager::Set(&errors);
+  Set("Animate");
+  mManager->SaveWorkspace(U16("Damaged"));
+  Set("Animate");
+  mFolder.GetFile("Workspaces/Damaged.workspace").ReplaceContents("<");
+  const auto bringToFront = [&](const char* inType) {
+    workspace.ActivateTab(U8(inType));
+    Settle();
+  };
+  bringToFront("b");
+  Set("Damaged");
+  EXPECT_EQ(Names(), "Draw Animate*") << "it stays, and its move is kept";
+  EXPECT_EQ(Text(), "left[~a] bottom[b*|c] center");
+  bringToFront("c");
+  Set("Draw");
+  Set("Animate");
+  EXPECT_EQ(Text(), "left[~a] bottom[b|c*] center");
+  Restart();
+  EXPECT_FALSE(mFolder.GetFile("Workspaces/Animate.workspace").Exists()) << "nobody changed it";
+}
+
 TEST_F(Workspaces, MenuListsThemAndFollows) {
   const HMENU menu = OS_Menu::Create(true);
   OS_Menu::InsertItem(menu, 0, 0, 7, U16("New..."));

@@ -9,6 +9,7 @@
 #include "lumui/utility/OS_Menu.h"
 #include "lumworkspace/workspace/WorkspaceFrameBase.h"
 #include "support/Panels.h"
+#include "support/PartingPanels.h"
 
 namespace {
 
@@ -230,6 +231,38 @@ TEST_F(Panels, WhatIsNoLayoutIsRefusedWithItsCause) {
     EXPECT_NE(failure.find(each.cause), std::string::npos) << failure;
     EXPECT_EQ(Text(true), before);
   }
+}
+
+TEST_F(Panels, AskAndCloseOthersWhileTheWorkspaceTakesThemAlong) {
+  PropList layout;
+  std::string gone;
+  {
+    Workspace ending(nullptr);
+    ending.CreateMainTopLevelWindow(nullptr);
+    const auto parting = [&](Workspace& ioWorkspace, const std::string& inType) {
+      gone += inType;
+      EXPECT_NE(ioWorkspace.GetMainTopLevelWindow(), nullptr);
+      EXPECT_NE(ioWorkspace.FindTabCreator(U8(inType)), nullptr);
+      EXPECT_EQ(ioWorkspace.FindTab(U8(inType)), nullptr);
+      EXPECT_EQ(ioWorkspace.OpenTab(U8(inType)), nullptr) << "it would never end";
+      if (inType != "a") return;
+      EXPECT_EQ(ioWorkspace.GetLayout(), layout);
+      EXPECT_NE(ioWorkspace.FindTab(U8("b")), nullptr);
+      EXPECT_FALSE(ioWorkspace.FloatTab(U8("c"), false));
+      ioWorkspace.SetLayout(layout, U16("parting"));
+      EXPECT_TRUE(ioWorkspace.CloseTab(U8("c")));
+      gone += "|";
+    };
+    for (const char* type : {"a", "b", "c"}) {
+      ending.RegisterTabCreator(new PartingCreator(type, parting));
+      ending.OpenTab(U8(type));
+    }
+    ending.FloatTab(U8("c"), true);
+    Settle();
+    layout = ending.GetLayout();
+    EXPECT_EQ(gone, "");
+  }
+  EXPECT_EQ(gone, "ac|b");
 }
 
 TEST_F(Panels, FlyoutMenuHasWhatEveryPanelCan) {

@@ -182,7 +182,7 @@ class VEK_API AppBase {
   // Terminate is the caller's to call.
   bool Initialize(AppInitArgs& inArgs, const lumcore::filesupport::Dir& inLocalizationDir);
   // Settings are saved first, so what TerminateApplication writes into them reaches the file only
-  // if the host saves again.
+  // if the host saves again. What goes is found by its getter until it is gone.
   void Terminate();
 
   bool AppCanQuit();

@@ -6,7 +6,6 @@
 #include <exception>
 #include <memory>
 #include <stdexcept>
-#include <utility>
 
 #include "lumcore/config/ClientInfo.h"
 #include "lumcore/config/ErrorManager.h"
@@ -32,6 +31,7 @@
 #include "lumworkspace/workspace/WorkspaceUIManager.h"
 #include "vek/app/App.h"
 #include "vek/app/src/MenuState.h"
+#include "vek/app/src/Owned.h"
 #include "vek/sharedui/ShortcutFieldAdapter.h"
 #include "vek/sharedui/UIMultiTreeList.h"
 #include "vek/sharedui/UIShellTrackViewAdapter.h"
@@ -67,19 +67,6 @@ struct AutoDisable {
   bool mIsOn = false;
   int mFirstCommand = 0;
 };
-
-// The old object goes before the new one is in place, as it may look itself up when it goes.
-template <class T>
-void Replace(T*& ioOwned, T* inNew) {
-  if (ioOwned == inNew) return;
-  delete std::exchange(ioOwned, nullptr);
-  ioOwned = inNew;
-}
-
-template <class T>
-void Delete(T*& ioOwned) {
-  delete std::exchange(ioOwned, nullptr);
-}
 
 // A defect in a file that only fault-finders write is told in the log and keeps nobody from
 // starting.
@@ -258,7 +245,6 @@ void AppBase::StartWorkspace(AppInitArgs&) {
 }
 
 void AppBase::Terminate() {
-  ForgetActivation();
   Ending ending;
   ending.Run([this] { SaveAppSettings(); });
   ending.Run([this] { TerminateWorkspace(); });
@@ -285,6 +271,7 @@ void AppBase::Terminate() {
   });
   ending.Run([] { lumcore::console::ConsoleLogFile::Terminate(); });
   ending.Run([] { uisupport::DeferredActionManager::Terminate(); });
+  ForgetActivation();
   ending.Run([this] { OSTerminate(); });
   ending.Finish();
 }

@@ -4,7 +4,6 @@
 // What the hooks of AppBase do where the host says nothing else.
 
 #include <memory>
-#include <utility>
 
 #include "lumcore/debug/Contract.h"
 #include "lumcore/filesupport/Dir.h"
@@ -22,6 +21,7 @@
 #include "lumworkspace/workspace/PlatformMenuHelperBase.h"
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "vek/app/AppBase.h"
+#include "vek/app/src/Owned.h"
 #include "vek/utility/VekResources.h"
 #include "vek/workspace/Workspace.h"
 
@@ -52,14 +52,13 @@ lumworkspace::workspace::Workspace* AppBase::InitWorkspace(AppInitArgs&) {
 }
 
 void AppBase::TerminateWorkspace() {
-  delete std::exchange(mWorkspace, nullptr);
+  Delete(mWorkspace);
 }
 
 void AppBase::InitWorkspaceManagerMenu() {
   if (!mWorkspaceManager) return;
   if (mMenuHelper) mWorkspaceManager->RemoveMenuHelper(mMenuHelper);
-  auto* const helper = InitWorkspaceMenuHelper(*mWorkspaceManager);
-  delete std::exchange(mMenuHelper, helper);
+  Replace(mMenuHelper, InitWorkspaceMenuHelper(*mWorkspaceManager));
   if (mMenuHelper) mWorkspaceManager->AddMenuHelper(mMenuHelper);
 }
 

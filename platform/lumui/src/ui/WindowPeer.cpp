@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QStyleOptionMenuItem>
 #include <QVBoxLayout>
 
 #include "drawbot/QtImage.h"
@@ -27,14 +28,39 @@ class WindowPeer::Bar : public QMenuBar {
   }
   // It may live until the end of the running event.
   void Forget() { mPeer = nullptr; }
+  void FitCorner() {
+    QWidget* const corner = cornerWidget();
+    if (corner) corner->setVisible(WidthOfMenus() + corner->sizeHint().width() <= width());
+  }
 
  protected:
   void resizeEvent(QResizeEvent* inEvent) override {
+    FitCorner();
     QMenuBar::resizeEvent(inEvent);
     if (mPeer) mPeer->SetChromeHeight(height());
   }
+  void actionEvent(QActionEvent* inEvent) override {
+    QMenuBar::actionEvent(inEvent);
+    FitCorner();
+  }
 
  private:
+  // With room for all of them, as the bar lays them out.
+  int WidthOfMenus() const {
+    const auto metric = [this](QStyle::PixelMetric inMetric) {
+      return style()->pixelMetric(inMetric, nullptr, this);
+    };
+    int width = 2 * (metric(QStyle::PM_MenuBarPanelWidth) + metric(QStyle::PM_MenuBarHMargin));
+    for (QAction* const action : actions()) {
+      QStyleOptionMenuItem option;
+      initStyleOption(&option, action);
+      const QSize text = fontMetrics().size(Qt::TextShowMnemonic, action->text());
+      width += metric(QStyle::PM_MenuBarItemSpacing) +
+               style()->sizeFromContents(QStyle::CT_MenuBarItem, &option, text, this).width();
+    }
+    return width;
+  }
+
   WindowPeer* mPeer;
 };
 
@@ -46,6 +72,26 @@ WindowPeer::~WindowPeer() {
 
 QMenuBar* WindowPeer::GetBar() const {
   return mBar;
+}
+
+void WindowPeer::SetBarCorner(QWidget* inCorner) {
+  mCorner = inCorner;
+  PlaceCorner();
+}
+
+void WindowPeer::PlaceCorner() {
+  if (mBar) {
+    mBar->setCornerWidget(mCorner);
+    mBar->FitCorner();
+  } else {
+    HideCorner();
+  }
+}
+
+void WindowPeer::HideCorner() {
+  if (!mCorner) return;
+  mCorner->hide();
+  mCorner->setParent(GetWidget());
 }
 
 QWidget* WindowPeer::DoMakeWidget(QWidget* inParent) {
@@ -109,6 +155,7 @@ void WindowPeer::ShowMenu(HMENU inMenu) {
   MakeContainer();
   QLayout* const layout = GetWidget()->layout();
   layout->setMenuBar(nullptr);
+  HideCorner();
   if (mBar) {
     // The menu that asks for the change may stand in it.
     mBar->hide();
@@ -118,6 +165,7 @@ void WindowPeer::ShowMenu(HMENU inMenu) {
     if (mBar) mBar->Forget();
     mBar = new Bar(*this, GetWidget());
     MenuPeer::Of(*menu).FillBar(*mBar);
+    PlaceCorner();
     layout->setMenuBar(mBar);
     mBar->show();
     // What the layout does as well, once the window is seen.

@@ -22,6 +22,9 @@ class LUMUI_API WindowPeer : public NodePeer {
   // Of a window with a widget. Null takes the bar away.
   void ShowMenu(HMENU inMenu);
   QMenuBar* GetBar() const;  // null without a menu
+  // Stands at the right end of the bar, and of each that comes after it, while there is room for it
+  // beside the menus; hidden otherwise. The window's native part takes it along. Null for none.
+  void SetBarCorner(QWidget* inCorner);
   // The frame's icon, if its module has one.
   void ApplyIcon(const OS_Frame::Description& inFrame);
 
@@ -33,8 +36,11 @@ class LUMUI_API WindowPeer : public NodePeer {
   class Bar;
   void MakeContainer();
   void DropBar();
+  void PlaceCorner();
+  void HideCorner();
 
   QPointer<Bar> mBar;
+  QPointer<QWidget> mCorner;
   QPointer<QWidget> mContainer;
 };
 

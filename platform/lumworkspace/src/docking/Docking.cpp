@@ -69,10 +69,17 @@ class StKeepFocus {
 
 Docking::Docking(workspace::Workspace& inWorkspace) : mWorkspace(inWorkspace) {}
 
+Docking::~Docking() = default;
+
 // Whoever else holds a panel keeps a view without a dock.
-Docking::~Docking() {
+void Docking::LetGoAll() {
+  const TopLevelWindow* const main = GetMain();
+  if (main && main->FindDockArea()) mLayout = Capture();
+  mEnding = true;
   while (!mFrames.empty())
     LetGo(UTF8String(mFrames.begin()->first));
+  mFloating.clear();
+  const auto creators = std::exchange(mCreators, {});
 }
 
 void Docking::Register(std::unique_ptr<workspace::TabCreator> inCreator) {
@@ -96,7 +103,7 @@ std::vector<UTF8String> Docking::GetTypes() const {
 }
 
 TopLevelWindow* Docking::GetMain() const {
-  TopLevelWindow* const main = mWorkspace.GetMainTopLevelWindow();
+  TopLevelWindow* const main = mEnding ? nullptr : mWorkspace.GetMainTopLevelWindow();
   return main && main->UI_GetHandle() ? main : nullptr;
 }
 
@@ -247,6 +254,7 @@ Layout Docking::Capture() const {
 }
 
 void Docking::Show(const Layout& inLayout) {
+  if (mEnding) return;
   TopLevelWindow* const main = GetMain();
   LUM_INPUT_CONTRACT(main && !mShowing);
   Layout layout = inLayout;
@@ -349,7 +357,7 @@ void Docking::TitlesChanged() {
 
 bool Docking::SetFloating(const UTF8String& inType, bool inFloating, const Rect* inRect) {
   const Frame* const frame = FindFrame(inType);
-  if (!frame) return false;
+  if (!frame || !GetMain()) return false;
   if (frame->IsFloating() == inFloating && !inRect) return true;
   if (inFloating) {
     TabPlace place;

@@ -68,6 +68,9 @@ class Docking {
   void TitlesChanged();
   // Of the workspace, before the window is destroyed.
   void WindowGoes(workspace::TopLevelWindow& inWindow);
+  // Of the workspace that ends: panels and creators go. Whoever asks meanwhile gets an answer: the
+  // layout is what it was, and nothing opens any more.
+  void LetGoAll();
 
  private:
   using FrameP = boost::intrusive_ptr<Frame>;
@@ -100,6 +103,7 @@ class Docking {
   layout::Rect mMainPlaced;               // where the main window was put
   std::map<UTF8String, layout::Layout> mCameFrom;  // of floating tabs: the layout that they left
   bool mShowing = false;
+  bool mEnding = false;
   DragWatch mDragWatch;
 };
 

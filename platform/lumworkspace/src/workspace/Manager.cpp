@@ -182,11 +182,16 @@ void Manager::Write(const Name& inName, const PropList& inLayout) {
   lumcore::proplist::utils::SavePropList(FileOf(inName), inLayout);
 }
 
-// Of the current workspace, what the user has done to it since.
+// Of the current workspace, what the user has done to it since. What was kept before and has been
+// undone by hand must not come back.
 void Manager::KeepCurrent() {
   if (mCurrent.empty() || !mWorkspace.GetMainTopLevelWindow()) return;
   PropList now = mWorkspace.GetLayout();
-  if (now != mApplied) mUnsaved[mCurrent] = std::move(now);
+  if (now == mApplied) {
+    mUnsaved.erase(mCurrent);
+  } else {
+    mUnsaved[mCurrent] = std::move(now);
+  }
 }
 
 void Manager::Apply(const PropList& inLayout, const Name& inName) {

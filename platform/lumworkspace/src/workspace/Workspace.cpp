@@ -23,9 +23,10 @@ using lumui::ui::UI_Node;
 Workspace::Workspace(lumui::drawbot::SupplierInterface* inSupplier)
     : mSupplier(inSupplier), mDocking(std::make_unique<docking::Docking>(*this)) {}
 
-// Whoever else holds a window keeps the node, and it has no native part any more.
+// Panels may ask their workspace while they go, and find it whole. Whoever else holds a window
+// keeps the node, and it has no native part any more.
 Workspace::~Workspace() {
-  mDocking.reset();
+  mDocking->LetGoAll();
   const auto windows = std::exchange(mWindows, {});
   for (const auto& window : windows)
     window->UI_DestroyWindow();

@@ -37,7 +37,8 @@ class TopLevelWindow;
 struct TabPlace;
 
 // The windows of an application, of which one is the main window. It owns them and destroys their
-// native parts when it goes.
+// native parts when it goes; the panels go before. A panel that asks its workspace then gets the
+// layout as it was, and opens nothing any more.
 class LUMWORKSPACE_API Workspace {
  public:
   // The supplier is borrowed and outlives the workspace. Null stands for the default one.
