@@ -34,7 +34,7 @@ target_link_libraries(lumui_drag_partner PRIVATE Qt6::Widgets vek_build_options)
 add_executable(lumui_display_tests
   lumui/DragDisplayTest.cpp lumui/RealDisplayTest.cpp lumui/UITest.cpp
   support/DragPartner.cpp support/RealInput.cpp support/UIApplication.cpp)
-target_link_libraries(lumui_display_tests PRIVATE vek_test_support lumui vek_build_options)
+target_link_libraries(lumui_display_tests PRIVATE vek_test_support lumui Qt6::Widgets vek_build_options)
 target_compile_definitions(lumui_display_tests PRIVATE
   LUMUI_DRAG_PARTNER="$<TARGET_FILE:lumui_drag_partner>")
 add_dependencies(lumui_display_tests lumui_drag_partner)

@@ -1,6 +1,8 @@
 // Copyright (c) 2026 The vek authors
 // SPDX-License-Identifier: MIT
 
+#include <QApplication>
+#include <QWidget>
 #include <cstdlib>
 #include <functional>
 #include <sstream>
@@ -350,6 +352,25 @@ TEST_F(RealDisplay, QuitCancelsWhateverDialogIsOpen) {
     ask();
   });
   EXPECT_EQ(answers, "2 2 ");
+}
+
+TEST_F(RealDisplay, QuitCancelsTheQuestionWhetherToReplaceAFile) {
+  dialogs::FileDialogArgs args;
+  args.kind = dialogs::FileDialogArgs::kSave;
+  args.initialPath = U16(QCoreApplication::applicationFilePath().toStdString());
+  lumcore::UTF16String path = U16("?");
+  Manager().GetExecutor()->Post([&] { path = dialogs::RunFileDialog(args); });
+  Manager().GetExecutor()->Post([&] {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    ASSERT_NE(dialog, nullptr);
+    Manager().GetExecutor()->Post([this, dialog] {
+      EXPECT_NE(QApplication::activeModalWidget(), dialog) << "the question";
+      App().Quit();
+    });
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  App().Run();
+  EXPECT_EQ(path, U16(""));
 }
 
 }  // namespace lumui::test
