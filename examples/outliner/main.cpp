@@ -97,15 +97,10 @@ int RunScript(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplicatio
   return run.Run(File(inOptions.script));
 }
 
-// A file that cannot be opened is told, over the window, and the others are.
+// A file that cannot be opened is told, over the window, and the others are. A request to stop may
+// come while one is read or asked about.
 int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
               const Options& inOptions) {
-  Options one = inOptions;
-  for (const std::string& file : inOptions.files) {
-    one.files = {file};
-    ioApplication.RunGuarded([&] { OpenDocuments(ioApp, one); });
-  }
-  if (!ioApp.HasOpenDocument()) ioApp.NewOutline();
   std::atomic<int> signal = 0;
   // A request that comes in when the loop has ended already has nothing left to do.
   const auto loop = std::make_shared<bool>(true);
@@ -115,6 +110,12 @@ int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplicatio
       if (*loop) ioApp.Quit();
     });
   });
+  Options one = inOptions;
+  for (const std::string& file : inOptions.files) {
+    one.files = {file};
+    ioApplication.RunGuarded([&] { OpenDocuments(ioApp, one); });
+  }
+  if (!ioApp.HasOpenDocument()) ioApp.NewOutline();
   ioApp.RunEventLoop();
   *loop = false;
   return signal == 0 ? 0 : kExitBySignal + signal;
