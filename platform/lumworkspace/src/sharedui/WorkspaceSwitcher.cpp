@@ -13,6 +13,7 @@
 #include "lumworkspace/workspace/TopLevelWindow.h"
 #include "sharedui/SwitcherTabs.h"
 #include "ui/WindowPeer.h"
+#include "workspace/MenuText.h"
 
 namespace lumworkspace::sharedui {
 
@@ -31,16 +32,6 @@ template <class Entries>
 auto Find(Entries& ioEntries, const UTF16String& inName) {
   return std::find_if(ioEntries.begin(), ioEntries.end(),
                       [&](const auto& inEntry) { return inEntry.name == inName; });
-}
-
-// Neither '&' nor a tab says anything in the name of a workspace.
-UTF16String MenuText(const UTF16String& inName) {
-  UTF16String text;
-  for (const unsigned short unit : inName) {
-    if (unit == '&') text += unit;
-    text += unit == '\t' ? static_cast<unsigned short>(' ') : unit;
-  }
-  return text;
 }
 
 }  // namespace
@@ -185,7 +176,7 @@ void WorkspaceSwitcher::ChooseShown(const lumcore::geom::PointT<int>& inScreenPo
   const bool isOne = GetShownWorkspaces().size() == 1;
   const HMENU menu = OS_Menu::Create(true);
   for (unsigned item = 0; item < entries.size(); ++item) {
-    OS_Menu::InsertItem(menu, item, 0, item + 1, MenuText(entries[item].name));
+    OS_Menu::InsertItem(menu, item, 0, item + 1, workspace::MenuText(entries[item].name));
     OS_Menu::CheckItem(menu, item, entries[item].isShown);
     OS_Menu::EnableItem(menu, item, !(isOne && entries[item].isShown));
   }

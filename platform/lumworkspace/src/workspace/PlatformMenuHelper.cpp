@@ -9,25 +9,12 @@
 #include "lumui/ui/OS_Menu.h"
 #include "lumworkspace/workspace/CommandCheckStyle.h"
 #include "lumworkspace/workspace/ManagerBase.h"
+#include "workspace/MenuText.h"
 
 namespace lumworkspace::workspace {
 
 using lumcore::UTF16String;
 using lumui::ui::OS_Menu;
-
-namespace {
-
-// A single '&' would mark a mnemonic, and a tab begin another column.
-UTF16String MenuText(const UTF16String& inName) {
-  UTF16String text;
-  for (const unsigned short unit : inName) {
-    if (unit == '&') text += unit;
-    text += unit == '\t' ? static_cast<unsigned short>(' ') : unit;
-  }
-  return text;
-}
-
-}  // namespace
 
 PlatformMenuHelper::PlatformMenuHelper(ManagerBase& inManager, HMENU inMenu, int inFirstCommand,
                                        int inLastCommand)
