@@ -102,22 +102,23 @@ int RunScript(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplicatio
 int RunWindow(outliner::OutlinerApp& ioApp, lumui::ui::Application& ioApplication,
               const Options& inOptions) {
   std::atomic<int> signal = 0;
-  // A request that comes in when the loop has ended already has nothing left to do.
-  const auto loop = std::make_shared<bool>(true);
-  const outliner::StStopSignals signals([&ioApp, &signal, loop](int inSignal) {
+  // A request whose turn comes when all this has ended has nothing left to do.
+  const auto present = std::make_shared<const bool>(true);
+  const std::weak_ptr<const bool> isPresent = present;
+  const outliner::StStopSignals signals([&ioApp, &signal, isPresent](int inSignal) {
     signal = inSignal;
-    lumui::ui::UI_NodeManager::Get(false)->GetExecutor()->Post([&ioApp, loop] {
-      if (*loop) ioApp.Quit();
+    lumui::ui::UI_NodeManager::Get(false)->GetExecutor()->Post([&ioApp, isPresent] {
+      if (!isPresent.expired()) ioApp.Quit();
     });
   });
   Options one = inOptions;
   for (const std::string& file : inOptions.files) {
+    if (ioApplication.IsQuitting()) break;
     one.files = {file};
     ioApplication.RunGuarded([&] { OpenDocuments(ioApp, one); });
   }
   if (!ioApp.HasOpenDocument()) ioApp.NewOutline();
   ioApp.RunEventLoop();
-  *loop = false;
   return signal == 0 ? 0 : kExitBySignal + signal;
 }
 

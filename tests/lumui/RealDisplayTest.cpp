@@ -12,6 +12,7 @@
 #include "lumui/dialogs/ChoiceDialog.h"
 #include "lumui/dialogs/FileDialog.h"
 #include "lumui/dialogs/MessageDialog.h"
+#include "lumui/dialogs/SystemMessageBox.h"
 #include "lumui/ui/Executor.h"
 #include "lumui/ui/InputCapture.h"
 #include "lumui/utility/ksv/KeyboardShape.h"
@@ -339,13 +340,18 @@ TEST_F(RealDisplay, QuitCancelsWhateverDialogIsOpen) {
   args.defaultButton = 1;
   const auto ask = [&] { note(dialogs::RunMessageDialog(args)); };
   quitIn(ask);
+  args.quitButton = 0;
+  quitIn(ask);
   args.cancelButton = 2;
   quitIn(ask);
+  quitIn([&] {
+    note(dialogs::ShowSystemMessageBox(nullptr, U16("Replace it?"), U16(""), dialogs::kBoxYesNo));
+  });
   quitIn([&] { note(static_cast<int>(dialogs::RunFileDialog({}).size())); });
   dialogs::ChoiceDialogArgs choice;
   choice.items = {U16("a"), U16("b")};
   quitIn([&] { note(dialogs::RunChoiceDialog(choice)); });
-  EXPECT_EQ(std::exchange(answers, ""), "1 2 0 -1 ");
+  EXPECT_EQ(std::exchange(answers, ""), "1 0 2 " + std::to_string(dialogs::kResultNo) + " 0 -1 ");
   // The innermost of several, and those behind it.
   quitIn([&] {
     Manager().GetExecutor()->Post(ask);

@@ -223,6 +223,19 @@ TEST_F(Switcher, ShowsItselfWhereThereIsRoomAndGoesWithTheBar) {
   OS_Menu::InsertItem(other, 0, 0, 1, U16("Other"));
   main->UI_SetMenu(other);
   EXPECT_EQ(Tabs(), "A & B | Notes* | Broken");
+  // Of no manager any more, as a host has it for a moment that changes to another one.
+  {
+    auto manager = std::make_unique<NameManager>();
+    mSwitcher = std::make_unique<WorkspaceSwitcher>(*main, *manager);
+    EXPECT_EQ(Tabs(), "A & B | Notes* | Broken");
+    manager.reset();
+    Click(0);
+    Drag(1, 0);
+    EXPECT_EQ(ChooseInMenu(""), "");
+    EXPECT_EQ(Data(), "");
+  }
+  Start();
+  EXPECT_EQ(Tabs(), "A & B | Notes* | Broken");
   main->UI_DestroyWindow();
   mManager.Set({U16("A & B")}, UTF16String());
   EXPECT_EQ(Tabs(), "none");

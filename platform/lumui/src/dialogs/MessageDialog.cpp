@@ -14,6 +14,7 @@
 #include "drawbot/QtConvert.h"
 #include "lumcore/config/Localizer.h"
 #include "lumcore/config/ThrowError.h"
+#include "lumcore/console/Console.h"
 #include "lumcore/debug/Contract.h"
 #include "lumcore/utility/StringUtils.h"
 #include "lumui/ui/Application.h"
@@ -75,6 +76,12 @@ std::vector<QAbstractButton*> AddButtons(QMessageBox& ioBox, const MessageDialog
   return buttons;
 }
 
+// The application quits, and nobody has read it.
+void LogUnanswered(const MessageDialogArgs& inArgs) {
+  lumcore::console::ConsoleLogFile::WriteProblem(lumcore::utility::ToStdString(inArgs.title) +
+                                                 ": " + lumcore::utility::ToStdString(inArgs.text));
+}
+
 int RunBox(const MessageDialogArgs& inArgs, std::optional<int> inAnswer) {
   QWidget* const owner = inArgs.owner ? inArgs.owner->GetPeer()->GetWidget() : nullptr;
   // On the heap and watched: the owner may be destroyed while the box is open, and the box with it.
@@ -95,7 +102,13 @@ int RunBox(const MessageDialogArgs& inArgs, std::optional<int> inAnswer) {
          inArgs);
   }
   QAbstractButton* const clicked = box->clickedButton();
-  int result = inArgs.cancelButton >= 0 ? inArgs.cancelButton : inArgs.defaultButton;
+  if (!clicked) LogUnanswered(inArgs);
+  int result = inArgs.defaultButton;
+  if (inArgs.cancelButton >= 0) {
+    result = inArgs.cancelButton;
+  } else if (inArgs.quitButton >= 0) {
+    result = inArgs.quitButton;
+  }
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     if (buttons[i] == clicked) result = static_cast<int>(i);
   }

@@ -19,15 +19,16 @@ struct ButtonSet {
   unsigned flag;
   std::vector<int> results;  // one for each button, from the left
   int cancelButton;
+  int quitButton = kNoButton;
 };
 
-// Where there is no Cancel, closing the box means the one button, or nothing.
+// Where there is no Cancel, closing the box means the one button, or nothing. A quit says no.
 const ButtonSet kButtonSets[] = {
     {kBoxOK, {kResultOK}, 0},
     {kBoxOKCancel, {kResultOK, kResultCancel}, 1},
     {kBoxAbortRetryIgnore, {kResultAbort, kResultRetry, kResultIgnore}, kNoButton},
     {kBoxYesNoCancel, {kResultYes, kResultNo, kResultCancel}, 2},
-    {kBoxYesNo, {kResultYes, kResultNo}, kNoButton},
+    {kBoxYesNo, {kResultYes, kResultNo}, kNoButton, 1},
     {kBoxRetryCancel, {kResultRetry, kResultCancel}, 1},
 };
 
@@ -72,6 +73,7 @@ int ShowSystemMessageBox(ui::OS_Window* inOwner, const lumcore::UTF16String& inT
         lumcore::config::Localizer::Get()->GetLocalizedString(kButtonTexts[result - kResultOK]));
   }
   args.cancelButton = set.cancelButton;
+  args.quitButton = set.quitButton;
   args.icon = ToIcon(inFlags);
   args.owner = inOwner;
   return set.results.at(static_cast<std::size_t>(RunMessageDialog(args)));

@@ -23,9 +23,7 @@ bool QuitWatch::HasQuit() const {
 }
 
 void QuitWatch::Look() {
-  if (mHasEnded || !HasQuit()) return;
-  mHasEnded = true;
-  mEnd();
+  if (HasQuit()) mEnd();
 }
 
 }  // namespace lumui::ui

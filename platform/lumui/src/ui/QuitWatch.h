@@ -10,12 +10,13 @@
 
 namespace lumui::ui {
 
-// For what waits in a loop of its own, such as a modal dialog: ends it, once, when the application
-// quits. A quit that nobody waits for, from before and outside Application::Run, does not count: a
-// program that ends may still have something to ask.
+// For what waits in a loop of its own, such as a modal dialog: ends it when the application quits.
+// A quit that nobody waits for, from before and outside Application::Run, does not count: a program
+// that ends may still have something to ask.
 class LUMUI_API QuitWatch {
  public:
-  // The function is called at a turn of the loop; it makes the loop end.
+  // The function is called at each turn of a loop from then on, also of one that runs before the
+  // one that it makes end.
   explicit QuitWatch(std::function<void()> inEnd);
   QuitWatch(const QuitWatch&) = delete;
   QuitWatch& operator=(const QuitWatch&) = delete;
@@ -28,7 +29,6 @@ class LUMUI_API QuitWatch {
 
   std::function<void()> mEnd;
   int mQuitsBefore;
-  bool mHasEnded = false;
   QObject mConnection;
 };
 

@@ -29,7 +29,8 @@ class WindowPeer::Bar : public QMenuBar {
   // It may live until the end of the running event.
   void Forget() { mPeer = nullptr; }
   void FitCorner() {
-    QWidget* const corner = cornerWidget();
+    // A bar that another one has taken the place of has no say in it any more.
+    QWidget* const corner = mPeer ? cornerWidget() : nullptr;
     if (corner) corner->setVisible(WidthOfMenus() + corner->sizeHint().width() <= width());
   }
 

@@ -28,6 +28,10 @@ constexpr unsigned char kShownMark = '+';
 constexpr unsigned char kHiddenMark = '-';
 constexpr unsigned char kLineEnd = '\n';
 
+// The ids of the system's own menu items: an application asks no command about the state of these.
+constexpr unsigned kFirstItem = 61440;
+constexpr std::size_t kMostItems = 384;
+
 template <class Entries>
 auto Find(Entries& ioEntries, const UTF16String& inName) {
   return std::find_if(ioEntries.begin(), ioEntries.end(),
@@ -66,14 +70,17 @@ class WorkspaceSwitcher::Bar {
 
 WorkspaceSwitcher::WorkspaceSwitcher(workspace::TopLevelWindow& ioWindow,
                                      workspace::ManagerBase& ioManager)
-    : mManager(ioManager), mWindow(&ioWindow), mBar(std::make_unique<Bar>(*this)) {
+    : mManager(ioManager),
+      mManagerPresence(ioManager.GetPresence()),
+      mWindow(&ioWindow),
+      mBar(std::make_unique<Bar>(*this)) {
   mManager.AddMenuHelper(this);
   WorkspaceSwitcherManager::Get()->AddListener(this);
 }
 
 WorkspaceSwitcher::~WorkspaceSwitcher() {
   WorkspaceSwitcherManager::Get()->RemoveListener(this);
-  mManager.RemoveMenuHelper(this);
+  if (!mManagerPresence.expired()) mManager.RemoveMenuHelper(this);
 }
 
 std::vector<UTF16String> WorkspaceSwitcher::GetShownWorkspaces() const {
@@ -119,6 +126,7 @@ std::vector<WorkspaceSwitcher::Entry> WorkspaceSwitcher::Read(const UTF8String& 
 }
 
 std::vector<WorkspaceSwitcher::Entry> WorkspaceSwitcher::Arrange() const {
+  if (mManagerPresence.expired()) return {};
   const std::vector<UTF16String> names = mManager.GetWorkspaceNames();
   std::vector<Entry> entries = Read(WorkspaceSwitcherManager::Get()->GetData());
   const auto isGone = [&names](const Entry& inEntry) {
@@ -148,10 +156,12 @@ void WorkspaceSwitcher::Keep(const std::vector<Entry>& inEntries) {
 }
 
 void WorkspaceSwitcher::Show() {
+  if (mManagerPresence.expired()) return;
   mBar->Show(GetShownWorkspaces(), mManager.GetCurrentWorkspace());
 }
 
 void WorkspaceSwitcher::Apply(const UTF16String& inName) {
+  if (mManagerPresence.expired()) return;
   if (mManager.HasCurrentWorkspace() && mManager.GetCurrentWorkspace() == inName) return;
   try {
     mManager.SetCurrentWorkspace(inName);
@@ -163,6 +173,7 @@ void WorkspaceSwitcher::Apply(const UTF16String& inName) {
 
 // The hidden ones stay at the places that they have among the others.
 void WorkspaceSwitcher::KeepPlaces(const std::vector<UTF16String>& inShown) {
+  if (mManagerPresence.expired()) return;
   std::vector<Entry> entries = Arrange();
   auto name = inShown.begin();
   for (Entry& entry : entries) {
@@ -173,10 +184,11 @@ void WorkspaceSwitcher::KeepPlaces(const std::vector<UTF16String>& inShown) {
 
 void WorkspaceSwitcher::ChooseShown(const lumcore::geom::PointT<int>& inScreenPoint) {
   std::vector<Entry> entries = Arrange();
+  if (entries.empty()) return;
   const bool isOne = GetShownWorkspaces().size() == 1;
   const HMENU menu = OS_Menu::Create(true);
-  for (unsigned item = 0; item < entries.size(); ++item) {
-    OS_Menu::InsertItem(menu, item, 0, item + 1, workspace::MenuText(entries[item].name));
+  for (unsigned item = 0; item < std::min(entries.size(), kMostItems); ++item) {
+    OS_Menu::InsertItem(menu, item, 0, kFirstItem + item, workspace::MenuText(entries[item].name));
     OS_Menu::CheckItem(menu, item, entries[item].isShown);
     OS_Menu::EnableItem(menu, item, !(isOne && entries[item].isShown));
   }
@@ -185,7 +197,7 @@ void WorkspaceSwitcher::ChooseShown(const lumcore::geom::PointT<int>& inScreenPo
   OS_Menu::Destroy(menu);
   // While the menu was open the window may have gone, and this with it.
   if (!tabs || chosen == 0) return;
-  Entry& entry = entries[chosen - 1];
+  Entry& entry = entries[chosen - kFirstItem];
   entry.isShown = !entry.isShown;
   Keep(entries);
 }

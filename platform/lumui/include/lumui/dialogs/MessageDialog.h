@@ -21,7 +21,8 @@ enum class MessageIcon { kNone, kInformation, kWarning, kError, kQuestion };
 // A box with a text and buttons. Buttons are counted from 0, in the order given; without any there
 // is one with "OK". cancelButton is what Escape and closing the box mean; -1 for none: a box with
 // one button then takes that one, and one with several cannot be left but by a button, or by a quit
-// of the application, which means defaultButton then.
+// of the application. That means quitButton then, or defaultButton where that is -1 as well; the
+// log keeps what was not answered.
 struct MessageDialogArgs {
   lumcore::UTF16String title;
   lumcore::UTF16String text;
@@ -30,6 +31,7 @@ struct MessageDialogArgs {
   int cancelButton = -1;
   MessageIcon icon = MessageIcon::kNone;
   ui::OS_Window* owner = nullptr;  // the window it belongs to; null for none
+  int quitButton = -1;
 };
 
 // Answers in the place of the user: the button's number, or nothing to leave it to the user.

@@ -31,7 +31,7 @@ class LUMWORKSPACE_API WorkspaceSwitcher final : private workspace::PlatformMenu
                                                  private WorkspaceSwitcherListener {
  public:
   // The window has a native part; the switcher keeps it, and shows nothing once the native part is
-  // gone. The manager is borrowed and outlives the switcher.
+  // gone. The manager is borrowed. It may go first: the tabs then do nothing.
   WorkspaceSwitcher(workspace::TopLevelWindow& ioWindow, workspace::ManagerBase& ioManager);
   ~WorkspaceSwitcher() override;
   WorkspaceSwitcher(const WorkspaceSwitcher&) = delete;
@@ -64,6 +64,7 @@ class LUMWORKSPACE_API WorkspaceSwitcher final : private workspace::PlatformMenu
   void ChooseShown(const lumcore::geom::PointT<int>& inScreenPoint);
 
   workspace::ManagerBase& mManager;
+  std::weak_ptr<const void> mManagerPresence;
   boost::intrusive_ptr<workspace::TopLevelWindow> mWindow;
   std::unique_ptr<Bar> mBar;
 };

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 #include "lumcore/Strings.h"
@@ -66,11 +67,15 @@ class LUMWORKSPACE_API ManagerBase {
   void AddMenuHelper(PlatformMenuHelperBase* inHelper);
   void RemoveMenuHelper(PlatformMenuHelperBase* inHelper);
 
+  // Expires when the manager goes, for those that it may go before.
+  std::weak_ptr<const void> GetPresence() const { return mPresence; }
+
  protected:
   void NotifyWorkspacesChanged();
 
  private:
   std::vector<PlatformMenuHelperBase*> mMenuHelpers;
+  std::shared_ptr<const void> mPresence = std::make_shared<char>();
 };
 
 }  // namespace lumworkspace::workspace
